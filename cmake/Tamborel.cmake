@@ -1,0 +1,63 @@
+# What every folder's build has in common: language level, warnings, sanitizers, and one function
+# each for a library and for a test program.
+
+include(GNUInstallDirs)
+
+option(TAMBOREL_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+option(TAMBOREL_WERROR "Treat warnings as errors" ON)
+
+if(NOT CMAKE_BUILD_TYPE)
+    set(CMAKE_BUILD_TYPE Release)
+endif()
+
+find_program(CCACHE ccache)
+if(CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+    set(CMAKE_OBJCXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+# Program, module and library stand side by side and find each other there.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/../${CMAKE_INSTALL_LIBDIR}/tamborel")
+
+add_compile_options(-Wall -Wextra)
+if(TAMBOREL_WERROR)
+    add_compile_options(-Werror)
+endif()
+# Every operation on doubles rounds as it is written: no fused multiply-add.
+add_compile_options(-ffp-contract=off)
+# CMake knows no language level of Objective-C++ for g++, so it is told here.
+add_compile_options("$<$<COMPILE_LANGUAGE:OBJCXX>:-std=c++20;-fconstant-string-class=NSConstantString>")
+add_compile_definitions("$<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>")
+if(TAMBOREL_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -O1)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+# tamborel_library(NAME SOURCES ... LINKS ...): a static library of one folder.
+function(tamborel_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
+    target_link_libraries(${name} PUBLIC ${ARG_LINKS})
+endfunction()
+
+# tamborel_test(NAME SOURCES ... LINKS ...): a GoogleTest program whose cases CTest knows one by one.
+function(tamborel_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;ENVIRONMENT" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
+    target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gmock GTest::gtest_main)
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    set(environment "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0"
+        "UBSAN_OPTIONS=print_stacktrace=1" ${ARG_ENVIRONMENT})
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
+        PROPERTIES TIMEOUT 300 ENVIRONMENT "${environment}")
+endfunction()

@@ -1,0 +1,67 @@
+// The failures of the math library. Each is made from a resource identifier (throwers pass 0) and
+// carries the fixed text of core::Exception. Only SingularMatrix3DException and
+// VectorInFocusException are ever thrown, by value.
+
+#pragma once
+
+#include "core/Exception.h"
+
+class MathException : public core::Exception {
+  public:
+    explicit MathException(unsigned long resourceID) : core::Exception(resourceID) {}
+};
+
+class MatrixException : public MathException {
+  public:
+    explicit MatrixException(unsigned long resourceID) : MathException(resourceID) {}
+};
+
+// An element was addressed that the matrix does not have; the three numbers tell the access.
+class MatrixIndexOutOfRangeException : public MatrixException {
+  public:
+    MatrixIndexOutOfRangeException(unsigned long resourceID, long, long, long)
+        : MatrixException(resourceID) {}
+};
+
+class MatrixDifferentSizesException : public MatrixException {
+  public:
+    using MatrixException::MatrixException;
+};
+
+class InvalidMatrixSizeException : public MatrixException {
+  public:
+    using MatrixException::MatrixException;
+};
+
+class NotSquareMatrixException : public MatrixException {
+  public:
+    using MatrixException::MatrixException;
+};
+
+class NoMultiplyableMatrixException : public MatrixException {
+  public:
+    using MatrixException::MatrixException;
+};
+
+// A matrix that has no inverse was to be inverted.
+class SingularMatrix3DException : public MatrixException {
+  public:
+    using MatrixException::MatrixException;
+};
+
+// A point lies in the plane that a projective matrix sends to infinity.
+class VectorInFocusException : public MatrixException {
+  public:
+    using MatrixException::MatrixException;
+    // The sixteen values of the offending matrix may be told; they are not kept.
+    VectorInFocusException(unsigned long resourceID, const float (&)[16])
+        : MatrixException(resourceID) {}
+};
+
+// The library that throws them offers them under its own name too.
+namespace math {
+using ::MathException;
+using ::MatrixException;
+using ::SingularMatrix3DException;
+using ::VectorInFocusException;
+} // namespace math

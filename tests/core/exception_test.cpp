@@ -1,0 +1,37 @@
+// The texts that exceptions carry, and what catches them.
+
+#include "core/MathExceptions.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr const char* fixed_text = "Resource string not implemented";
+
+TEST(Exception, CarriesTheTextItWasMadeFrom) {
+    EXPECT_EQ(core::Exception("no such layer").getMessage(), "no such layer");
+    EXPECT_EQ(core::Exception(std::string("gone")).getMessage(), "gone");
+    EXPECT_EQ(core::Exception(42ul).getMessage(), fixed_text);
+}
+
+TEST(Exception, ReplacesItsTextByTheFormatUnformatted) {
+    core::Exception e("first");
+    e.message("%d of %d", 1, 2);
+    EXPECT_EQ(e.getMessage(), "%d of %d");
+    e.message(7ul, "ignored");
+    EXPECT_EQ(e.getMessage(), fixed_text);
+}
+
+TEST(Exception, AllAreCaughtAsTheirBases) {
+    const float values[16] = {};
+    try {
+        throw VectorInFocusException(0, values);
+    } catch (const MatrixException& e) {
+        EXPECT_EQ(e.getMessage(), fixed_text);
+    }
+    EXPECT_THROW(throw SingularMatrix3DException(0), MathException);
+    EXPECT_THROW(throw math::VectorInFocusException(0), core::Exception);
+    EXPECT_THROW(throw core::OutOfMemoryException(0), core::Exception);
+}
+
+} // namespace
