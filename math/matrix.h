@@ -1,0 +1,164 @@
+// Homogeneous matrices: TMatrix3D, 4 x 4, for points of space.
+//
+// Conventions: row-major, column vectors. A point p is sent to M * (p, 1); the translation is
+// column 3, row 3 is the projective row; (A * B) * p applies B first. Angles are radians, and a
+// rotation is counter-clockwise when seen from the tip of its axis (right-handed).
+//
+// Beside its elements a matrix keeps what is known of it, so that products can take short cuts:
+//   0                          general: projective, or with a block that is not orthonormal
+//   rigid_flag (1)             row 3 is exactly (0, 0, 0, 1) and the 3 x 3 block is orthonormal
+//   rigid_flag|identity_flag   exactly the identity
+// Whoever writes elements calls setFlags() afterwards; every operation here keeps the flags right.
+
+#pragma once
+
+#include "core/MathExceptions.h"
+#include "math/vector.h"
+
+#include <cassert>
+#include <cstdint>
+
+namespace math {
+
+template <typename T>
+class TMatrix3D {
+  public:
+    using Vector = TGeomVector3D<T>;
+
+    static constexpr std::uint16_t rigid_flag = 1;
+    static constexpr std::uint16_t identity_flag = 2;
+
+    // The identity.
+    constexpr TMatrix3D() = default;
+    // The sixteen elements in row-major order; the flags are worked out.
+    TMatrix3D(T m00, T m01, T m02, T m03, T m10, T m11, T m12, T m13, T m20, T m21, T m22, T m23,
+              T m30, T m31, T m32, T m33)
+        : _m{m00, m01, m02, m03, m10, m11, m12, m13, m20, m21, m22, m23, m30, m31, m32, m33} {
+        setFlags();
+    }
+
+    // The shared identity.
+    static const TMatrix3D& HI() {
+        static constexpr TMatrix3D identity;
+        return identity;
+    }
+
+    // The element in a row and a column, both 0..3.
+    T& operator()(int row, int column) {
+        assert(row >= 0 && row < 4 && column >= 0 && column < 4);
+        return _m[4 * row + column];
+    }
+    const T& operator()(int row, int column) const {
+        assert(row >= 0 && row < 4 && column >= 0 && column < 4);
+        return _m[4 * row + column];
+    }
+
+    std::uint16_t flags() const { return _flags; }
+    bool is_rigid() const { return _flags & rigid_flag; }
+    bool is_identity() const { return _flags & identity_flag; }
+    // Works the flags out from the elements. Lengths of rows may differ from 1 by 2^-23, their
+    // products from 0 by hardly anything: a rotation about an oblique axis is seldom called rigid.
+    void setFlags();
+
+    // The image of the point v. Throws VectorInFocusException when a general matrix sends it to
+    // infinity (the divisor is exactly 0).
+    Vector operator*(const Vector& v) const;
+    // The matrix that applies b first. Each element is summed from column 3 of this down to 0,
+    // starting from 0.0; the product of two rigid matrices is called rigid even if it is the
+    // identity. With an identity, the result is a copy of the other one.
+    TMatrix3D operator*(const TMatrix3D& b) const;
+
+    // A translation by t.
+    static TMatrix3D BuildShift(const Vector& t);
+    // A rotation about an axis of any length through the origin. The axis (0, 0, 0), or one no
+    // longer than 1e-12, gives the scale cos(angle).
+    static TMatrix3D BuildRotate(Vector axis, T angle);
+
+  private:
+    static bool near_one(T x) { return x >= T(0.9999998807907104) && x <= T(1.0000001192092896); }
+    static bool near_zero(T x) { return x >= -T(smallest_float) && x <= T(smallest_float); }
+    T row_product(int r, int k) const {
+        return _m[4 * r] * _m[4 * k] + _m[4 * r + 1] * _m[4 * k + 1] +
+               _m[4 * r + 2] * _m[4 * k + 2];
+    }
+    // The linear and translating part of row r applied to v.
+    T row_times(int r, const Vector& v) const {
+        return _m[4 * r] * v.x + _m[4 * r + 1] * v.y + _m[4 * r + 2] * v.z + _m[4 * r + 3];
+    }
+
+    T _m[16] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+    std::uint16_t _flags = rigid_flag | identity_flag;
+};
+
+template <typename T>
+void TMatrix3D<T>::setFlags() {
+    _flags = 0;
+    if (!(_m[12] == 0 && _m[13] == 0 && _m[14] == 0 && _m[15] == 1)) return;
+    bool identity = _m[3] == 0 && _m[7] == 0 && _m[11] == 0;
+    for (int r = 2; r >= 0; --r) {
+        if (!near_one(row_product(r, r))) return;
+        for (int k = r - 1; k >= 0; --k)
+            if (!near_zero(row_product(r, k))) return;
+        for (int c = 0; c < 3; ++c)
+            if (_m[4 * r + c] != (r == c ? 1 : 0)) identity = false;
+    }
+    _flags = identity ? rigid_flag | identity_flag : rigid_flag;
+}
+
+template <typename T>
+inline TGeomVector3D<T> TMatrix3D<T>::operator*(const Vector& v) const {
+    if (is_identity()) return v;
+    if (is_rigid()) return {row_times(0, v), row_times(1, v), row_times(2, v)};
+    const T w = row_times(3, v);
+    if (w == 0) throw VectorInFocusException(0);
+    return {row_times(0, v) / w, row_times(1, v) / w, row_times(2, v) / w};
+}
+
+template <typename T>
+inline TMatrix3D<T> TMatrix3D<T>::operator*(const TMatrix3D& b) const {
+    if (is_identity()) return b;
+    if (b.is_identity()) return *this;
+    TMatrix3D product;
+    for (int i = 0; i < 4; ++i) {
+        T row[4] = {0, 0, 0, 0};
+        for (int k = 3; k >= 0; --k)
+            for (int j = 0; j < 4; ++j) row[j] += _m[4 * i + k] * b._m[4 * k + j];
+        for (int j = 0; j < 4; ++j) product._m[4 * i + j] = row[j];
+    }
+    product._flags = _flags & b._flags & rigid_flag;
+    return product;
+}
+
+template <typename T>
+TMatrix3D<T> TMatrix3D<T>::BuildShift(const Vector& t) {
+    TMatrix3D shift;
+    shift._m[3] = t.x;
+    shift._m[7] = t.y;
+    shift._m[11] = t.z;
+    if (!(t == Vector())) shift._flags = rigid_flag;
+    return shift;
+}
+
+template <typename T>
+TMatrix3D<T> TMatrix3D<T>::BuildRotate(Vector axis, T angle) {
+    const auto [x, y, z] = axis.Normalize();
+    const T c = std::cos(angle), s = std::sin(angle), t = 1 - c;
+    return {t * x * x + c,
+            t * x * y - s * z,
+            t * x * z + s * y,
+            0, //
+            t * x * y + s * z,
+            t * y * y + c,
+            t * y * z - s * x,
+            0, //
+            t * x * z - s * y,
+            t * y * z + s * x,
+            t * z * z + c,
+            0, //
+            0,
+            0,
+            0,
+            1};
+}
+
+} // namespace math

@@ -1,0 +1,164 @@
+// Vectors of the plane and of space, and the clamped arc cosine that their angles are made of.
+// Angles are radians. `^` is the angle between two vectors; cross products are `cross(a, b)`.
+
+#pragma once
+
+#include <cmath>
+
+namespace math {
+
+// Arc cosine in [0, pi], clamped: at or below -1 it is pi, at or above 1 it is 0. A NaN stays one.
+inline double acos(double x) {
+    if (x <= -1.0) return 3.141592653589793;
+    if (x >= 1.0) return 0.0;
+    return std::acos(x);
+}
+
+// A length up to this counts as none.
+inline constexpr double smallest_length = 1e-12;
+// The smallest normal number of single precision: products of lengths within it count as zero.
+inline constexpr double smallest_float = 1.1754943508222875e-38;
+
+// A vector or point in space: a plain value. The default is the zero vector.
+template <typename T>
+struct TGeomVector3D {
+    T x = 0, y = 0, z = 0;
+
+    constexpr TGeomVector3D() = default;
+    constexpr TGeomVector3D(T vx, T vy, T vz) : x(vx), y(vy), z(vz) {}
+
+    // The shared unit vectors of the three axes.
+    static const TGeomVector3D& Ex() {
+        static constexpr TGeomVector3D e{1, 0, 0};
+        return e;
+    }
+    static const TGeomVector3D& Ey() {
+        static constexpr TGeomVector3D e{0, 1, 0};
+        return e;
+    }
+    static const TGeomVector3D& Ez() {
+        static constexpr TGeomVector3D e{0, 0, 1};
+        return e;
+    }
+
+    // Scales to length 1; a vector no longer than 1e-12 (or with a NaN) becomes (0, 0, 0).
+    TGeomVector3D& Normalize() {
+        const T length = std::sqrt(x * x + y * y + z * z);
+        if (length > smallest_length) return *this *= 1 / length;
+        return *this = {};
+    }
+    TGeomVector3D Normalized() const { return TGeomVector3D(*this).Normalize(); }
+
+    // The angle to b, in [0, pi]; 0 when the product of the lengths is practically zero.
+    T operator^(const TGeomVector3D& b) const {
+        const T lengths = std::sqrt(dot(*this, *this) * dot(b, b));
+        if (-smallest_float <= lengths && lengths <= smallest_float) return 0;
+        return math::acos(dot(*this, b) / lengths);
+    }
+
+    constexpr TGeomVector3D& operator+=(const TGeomVector3D& b) {
+        x += b.x;
+        y += b.y;
+        z += b.z;
+        return *this;
+    }
+    constexpr TGeomVector3D& operator-=(const TGeomVector3D& b) {
+        x -= b.x;
+        y -= b.y;
+        z -= b.z;
+        return *this;
+    }
+    constexpr TGeomVector3D& operator*=(T k) {
+        x *= k;
+        y *= k;
+        z *= k;
+        return *this;
+    }
+    // Each component divided by d, unguarded: dividing by zero gives infinities and NaNs.
+    constexpr TGeomVector3D& operator/=(T d) {
+        x /= d;
+        y /= d;
+        z /= d;
+        return *this;
+    }
+
+    friend constexpr TGeomVector3D operator+(TGeomVector3D a, const TGeomVector3D& b) {
+        return a += b;
+    }
+    friend constexpr TGeomVector3D operator-(TGeomVector3D a, const TGeomVector3D& b) {
+        return a -= b;
+    }
+    friend constexpr TGeomVector3D operator*(TGeomVector3D a, T k) { return a *= k; }
+    friend constexpr TGeomVector3D operator*(T k, TGeomVector3D a) { return a *= k; }
+    friend constexpr TGeomVector3D operator/(TGeomVector3D a, T d) { return a /= d; }
+    friend constexpr TGeomVector3D operator-(const TGeomVector3D& a) { return {-a.x, -a.y, -a.z}; }
+    friend constexpr bool operator==(const TGeomVector3D&, const TGeomVector3D&) = default;
+
+    friend constexpr T dot(const TGeomVector3D& a, const TGeomVector3D& b) {
+        return a.x * b.x + a.y * b.y + a.z * b.z;
+    }
+    // Right-handed: cross(Ex, Ey) = Ez.
+    friend constexpr TGeomVector3D cross(const TGeomVector3D& a, const TGeomVector3D& b) {
+        return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
+    }
+    friend T length(const TGeomVector3D& a) { return std::sqrt(dot(a, a)); }
+};
+
+// A vector or point of the plane: a plain value. The default is the zero vector.
+template <typename T>
+struct TGeomVector2D {
+    T x = 0, y = 0;
+
+    constexpr TGeomVector2D() = default;
+    constexpr TGeomVector2D(T vx, T vy) : x(vx), y(vy) {}
+
+    // The angle to b, in [0, pi], with the rules of the vector in space.
+    T operator^(const TGeomVector2D& b) const {
+        return TGeomVector3D<T>(x, y, 0) ^ TGeomVector3D<T>(b.x, b.y, 0);
+    }
+
+    constexpr TGeomVector2D& operator+=(const TGeomVector2D& b) {
+        x += b.x;
+        y += b.y;
+        return *this;
+    }
+    constexpr TGeomVector2D& operator-=(const TGeomVector2D& b) {
+        x -= b.x;
+        y -= b.y;
+        return *this;
+    }
+    constexpr TGeomVector2D& operator*=(T k) {
+        x *= k;
+        y *= k;
+        return *this;
+    }
+    // Unguarded, as in space.
+    constexpr TGeomVector2D& operator/=(T d) {
+        x /= d;
+        y /= d;
+        return *this;
+    }
+
+    friend constexpr TGeomVector2D operator+(TGeomVector2D a, const TGeomVector2D& b) {
+        return a += b;
+    }
+    friend constexpr TGeomVector2D operator-(TGeomVector2D a, const TGeomVector2D& b) {
+        return a -= b;
+    }
+    friend constexpr TGeomVector2D operator*(TGeomVector2D a, T k) { return a *= k; }
+    friend constexpr TGeomVector2D operator*(T k, TGeomVector2D a) { return a *= k; }
+    friend constexpr TGeomVector2D operator/(TGeomVector2D a, T d) { return a /= d; }
+    friend constexpr TGeomVector2D operator-(const TGeomVector2D& a) { return {-a.x, -a.y}; }
+    friend constexpr bool operator==(const TGeomVector2D&, const TGeomVector2D&) = default;
+
+    friend constexpr T dot(const TGeomVector2D& a, const TGeomVector2D& b) {
+        return a.x * b.x + a.y * b.y;
+    }
+    // The z component of the cross product: positive when b lies counter-clockwise of a (y up).
+    friend constexpr T cross(const TGeomVector2D& a, const TGeomVector2D& b) {
+        return a.x * b.y - a.y * b.x;
+    }
+    friend T length(const TGeomVector2D& a) { return std::sqrt(dot(a, a)); }
+};
+
+} // namespace math
