@@ -1,0 +1,175 @@
+// One Apply: from the selection to the written layers, inside one undo group.
+
+#include "ADMLibrary/HostPointers.h"
+#include "common/adobe/AssistantDlg.h"
+#include "common/adobe/item_ids.h"
+#include "common/adobe/RemainingIndices.h"
+#include "common/adobe/StreamValue.h"
+#include "math/random.h"
+
+#include <algorithm>
+#include <ctime>
+#include <unordered_map>
+
+namespace {
+
+// Writes one stream of a layer, after a key at `key_time` if there is one. A stream that the host
+// refuses is passed over: the others are still to be written.
+void write(AEGP_PluginID plugin_id, AEGP_LayerH layer, AEGP_LayerStream stream,
+           const AEGP_StreamValue& value, const A_Time* key_time) {
+    StreamValue target(plugin_id, layer, stream);
+    if (key_time) target.insert_key(*key_time, AEGP_LTimeMode_CompTime, nullptr);
+    target.set_value(value);
+}
+
+bool is_placeable(AEGP_ObjectType type) {
+    return type == AEGP_ObjectType_AV || type == AEGP_ObjectType_TEXT ||
+           type == AEGP_ObjectType_SHAPE;
+}
+
+} // namespace
+
+A_Err AssistantDlg::apply_assistant() {
+    const bool has_camera_popup = item(item_camera) != nullptr;
+    math::SetRand(std::time(nullptr));
+    if (const A_Err err = save_selection()) return err;
+
+    AEGP_SuiteHandler suites(sSPBasic);
+    const AEGP_UtilitySuite3& utility = suites.UtilitySuite3();
+    if (const A_Err err = utility.AEGP_StartUndoGroup(get_name().c_str())) return err;
+    struct UndoGroup { // closed also when a suite turns out to be missing
+        const AEGP_UtilitySuite3& utility;
+        ~UndoGroup() { utility.AEGP_EndUndoGroup(); }
+    } const group{utility};
+    return arrange_selection(has_camera_popup);
+}
+
+A_Err AssistantDlg::arrange_selection(bool has_camera_popup) {
+    if (!selection) return A_Err_NONE; // the active item is no composition
+    A_u_long count = 0;
+    {
+        AEGP_SuiteHandler suites(sSPBasic);
+        if (const A_Err err =
+                suites.CollectionSuite1().AEGP_GetCollectionNumItems(selection, &count))
+            return err;
+    }
+    if (count == 0) return A_Err_NONE;
+    if (const A_Err err = collect_selected_layers(count)) return err;
+    if (has_camera_popup)
+        if (const A_Err err = get_camera_orientation()) return err;
+    sort_layers();
+    if (is_reverse_order()) layers.reverse();
+    if (is_random_order()) shuffle_layers();
+    remember_scales();
+    if (const A_Err err = get_layers_pos()) return err;
+    return apply_to_layers();
+}
+
+// Records of the 3D layers among the `count` selected items, in the order of the selection.
+A_Err AssistantDlg::collect_selected_layers(A_u_long count) {
+    layers.clear();
+    AEGP_SuiteHandler suites(sSPBasic);
+    for (A_u_long i = 0; i < count; ++i) {
+        AEGP_CollectionItem found{};
+        if (const A_Err err =
+                suites.CollectionSuite1().AEGP_GetCollectionItemByIndex(selection, i, &found))
+            return err;
+        if (found.type != AEGP_CollectionItemType_LAYER) continue;
+        AEGP_ObjectType type = AEGP_ObjectType_AV;
+        if (const A_Err err = suites.LayerSuite5().AEGP_GetLayerObjectType(found.layerH, &type))
+            return err;
+        if (!is_placeable(type)) continue;
+        A_Boolean is_3d = false;
+        if (const A_Err err = suites.LayerSuite5().AEGP_IsLayer3D(found.layerH, &is_3d)) return err;
+        if (!is_3d) continue;
+        LayerInfo info;
+        if (const A_Err err = collect_info(found.layerH, &info)) return err;
+        info.sel_index = static_cast<A_long>(i);
+        layers.push_back(info);
+    }
+    return A_Err_NONE;
+}
+
+void AssistantDlg::sort_layers() {
+    layers.sort();
+}
+
+// Draws the records one by one out of those that remain. The list's nodes are moved, not the
+// records.
+void AssistantDlg::shuffle_layers() {
+    std::vector<std::list<LayerInfo>::iterator> places;
+    places.reserve(layers.size());
+    for (auto it = layers.begin(); it != layers.end(); ++it) places.push_back(it);
+    RemainingIndices remaining(places.size());
+    std::list<LayerInfo> shuffled;
+    while (remaining.size() > 0) {
+        const auto drawn = static_cast<std::uint64_t>(math::LRand());
+        const std::size_t index = remaining.take(drawn % remaining.size());
+        shuffled.splice(shuffled.end(), layers, places[index]);
+    }
+    layers = std::move(shuffled);
+}
+
+// Every fit starts from the scales that the layers had before the first one; the first Apply
+// without a fit puts them back.
+void AssistantDlg::remember_scales() {
+    const bool fit = is_scale_to_fit();
+    if (scales_saved) {
+        scales_saved = fit;
+        restore_scale();
+    } else if (fit) {
+        snap_selection(&saved_layers, &saved_scales, &saved_sizes);
+        scales_saved = true;
+    }
+}
+
+void AssistantDlg::restore_scale() {
+    LayerSet current;
+    ScaleMap scales;
+    SizeMap sizes;
+    if (!snap_selection(&current, &scales, &sizes)) return;
+
+    std::unordered_map<AEGP_LayerH, LayerInfo*> records; // the first record of each layer
+    for (LayerInfo& record : layers) records.try_emplace(record.layer, &record);
+    for (AEGP_LayerH layer : saved_layers) {
+        if (!current.count(layer)) continue;
+        const auto record = records.find(layer);
+        const auto scale = saved_scales.find(layer);
+        const auto size = saved_sizes.find(layer);
+        if (record == records.end() || scale == saved_scales.end() || size == saved_sizes.end())
+            continue;
+        record->second->scale = scale->second;
+        record->second->set_scaled_size(size->second);
+        scales[layer] = scale->second;
+        sizes[layer] = size->second;
+    }
+    saved_scales.swap(scales);
+    saved_sizes.swap(sizes);
+    saved_layers.swap(current);
+}
+
+A_Err AssistantDlg::apply_to_layers() {
+    const bool orient_changed = is_orient_changed();
+    const bool key_orient = is_key_orient(), key_pos = is_key_pos(), key_scale = is_key_scale();
+    const math::TGeomVector3D<double> offset = get_offset();
+    const AEGP_StreamValue zero{};
+    for (LayerInfo& record : layers) {
+        if (record.is_copy && !(record.layer = clone(record.layer))) continue;
+        const auto put = [&](AEGP_LayerStream stream, const AEGP_StreamValue& value, bool key) {
+            write(plugin_id, record.layer, stream, value, key ? &record.time : nullptr);
+        };
+        if (orient_changed) {
+            put(AEGP_LayerStream_ROTATE_X, zero, false);
+            put(AEGP_LayerStream_ROTATE_Y, zero, false);
+            put(AEGP_LayerStream_ROTATE_Z, zero, false);
+            put(AEGP_LayerStream_ORIENTATION, record.orient, key_orient);
+        }
+        AEGP_StreamValue position = record.pos;
+        position.val.three_d.x += offset.x;
+        position.val.three_d.y += offset.y;
+        position.val.three_d.z += offset.z;
+        put(AEGP_LayerStream_POSITION, position, key_pos);
+        put(AEGP_LayerStream_SCALE, record.scale, key_scale);
+    }
+    return A_Err_NONE;
+}
