@@ -1,4 +1,5 @@
-// Homogeneous matrices: TMatrix3D, 4 x 4, for points of space.
+// Homogeneous matrices: TMatrix3D, 4 x 4, for points of space. (TMatrix2D, for the plane, is in
+// math/plane_matrix.h, which comes along.)
 //
 // Conventions: row-major, column vectors. A point p is sent to M * (p, 1); the translation is
 // column 3, row 3 is the projective row; (A * B) * p applies B first. Angles are radians, and a
@@ -68,19 +69,93 @@ class TMatrix3D {
     // identity. With an identity, the result is a copy of the other one.
     TMatrix3D operator*(const TMatrix3D& b) const;
 
+    // The image of the direction v: that of the point v less that of the origin, without the
+    // translation. Throws VectorInFocusException like the product with a point.
+    Vector operator&(const Vector& v) const;
+
+    // Whether no two elements differ by more than the accuracy, relative to the larger of them;
+    // flags do not matter. A difference that is no number (a NaN, two infinities) is none.
+    bool operator==(const TMatrix3D& b) const;
+    // Sets the accuracy of all comparisons and returns it; with 0.0, only tells it. It starts as
+    // 0.0, with which equality is exact.
+    static T Accuracy(T a);
+
+    // -- Builders (math/matrix_build.h) ------------------------------------------------------
+
     // A translation by t.
     static TMatrix3D BuildShift(const Vector& t);
+    static TMatrix3D BuildScale(T sx, T sy, T sz);
+    // Vanishing points at px, py and pz on the axes; 0 is none on that axis. Always general.
+    static TMatrix3D BuildPerspective(T px, T py, T pz);
     // A rotation about an axis of any length through the origin. The axis (0, 0, 0), or one no
     // longer than 1e-12, gives the scale cos(angle).
     static TMatrix3D BuildRotate(Vector axis, T angle);
+    // The rotation by -angle, always called rigid.
+    static TMatrix3D BuildLRotate(Vector axis, T angle);
+    // A rotation about the line through p along the axis; always called general.
+    static TMatrix3D BuildRotate(const Vector& p, const Vector& axis, T angle);
+    // Rz(e.x) * Ry(-e.y) * Rx(e.z).
+    static TMatrix3D BuildEuler(const Vector& e);
+    // The frame with the columns a, b x a, b and the origin o: it leads from coordinates in the
+    // frame to those outside.
+    static TMatrix3D BuildHMatrix(const Vector& a, const Vector& b, const Vector& o);
+    // What turns the direction of a into that of b and scales by |b| / |a|, so that a goes to b.
+    // Opposite vectors turn about some axis at right angles to them. Lengths up to 1e-12 count as
+    // 0 and follow the rules of the division: a of no length gives infinities or NaNs.
+    static TMatrix3D BuildRotateScale(const Vector& a, const Vector& b);
+
+    // -- Relations of two matrices (math/matrix_relate.h) ------------------------------------
+
+    // The angles e with BuildEuler(e) = Rot(a)^-1 * Rot(b); e.y is in [-pi/2, pi/2]. Where |e.y|
+    // is that of a pole (its sine beyond 0.999999), only the sum or the difference of e.x and e.z
+    // is fixed, up to whole turns: those nearest to the reference are taken.
+    static Vector BuildEuler(const TMatrix3D& a, const TMatrix3D& b, const Vector& reference = {});
+    // The unit axis and the angle in [0, pi] of the rotation Rot(b) * Rot(a)^-1; the axis Ez and 0
+    // when there is none.
+    static void BuildRotate(const TMatrix3D& a, const TMatrix3D& b, Vector& axis, T& angle);
+    // The unit axis of the rotation of m, with its angle in (-pi, pi]: BuildRotate(axis, angle)
+    // gives Rot(m) again. Ez and 0 when m does not rotate, or by less than about 1e-6.
+    static Vector getRotationAxis(const TMatrix3D& m, T& angle);
+
+    // -- Parts (math/matrix_parts.h) ---------------------------------------------------------
+
+    // The images of the unit vectors as directions. They throw VectorInFocusException when the
+    // unit point is sent to infinity; an element (3, 3) of 0 gives infinities or NaNs.
+    Vector X() const { return column_image(0); }
+    Vector Y() const { return column_image(1); }
+    Vector Z() const { return column_image(2); }
+    // The lengths of the first three columns of the 3 x 3 block.
+    Vector Scale() const;
+    // The block with columns of length 1, without translation; a column of length 0 becomes the
+    // unit column of its place. Called rigid, whether its columns are at right angles or not.
+    TMatrix3D Rotate() const;
+
+    // Exchanges rows and columns of all sixteen elements. The flags stay.
+    void Transpose();
+    TMatrix3D Transposed() const;
+
+    // -- Inverse (math/matrix_inverse.h) -----------------------------------------------------
+
+    // Gauss-Jordan elimination with full pivoting for a general matrix, the transposed block for a
+    // rigid one. Throws SingularMatrix3DException when there is no inverse (or a NaN prevents it);
+    // the elements of this are no longer those of before then.
+    void Inverse();
+    TMatrix3D Inversed() const;
 
   private:
+    inline static T acc = 0;
+
     static bool near_one(T x) { return x >= T(0.9999998807907104) && x <= T(1.0000001192092896); }
     static bool near_zero(T x) { return x >= -T(smallest_float) && x <= T(smallest_float); }
     T row_product(int r, int k) const {
         return _m[4 * r] * _m[4 * k] + _m[4 * r + 1] * _m[4 * k + 1] +
                _m[4 * r + 2] * _m[4 * k + 2];
     }
+    Vector column_image(int c) const;
+    static Vector fixed_axis(const TMatrix3D& rotation, T negligible, T& largest);
+    void invert_rigid();
+    void invert_general();
+
     // The linear and translating part of row r applied to v.
     T row_times(int r, const Vector& v) const {
         return _m[4 * r] * v.x + _m[4 * r + 1] * v.y + _m[4 * r + 2] * v.z + _m[4 * r + 3];
@@ -130,35 +205,36 @@ inline TMatrix3D<T> TMatrix3D<T>::operator*(const TMatrix3D& b) const {
 }
 
 template <typename T>
-TMatrix3D<T> TMatrix3D<T>::BuildShift(const Vector& t) {
-    TMatrix3D shift;
-    shift._m[3] = t.x;
-    shift._m[7] = t.y;
-    shift._m[11] = t.z;
-    if (!(t == Vector())) shift._flags = rigid_flag;
-    return shift;
+TGeomVector3D<T> TMatrix3D<T>::operator&(const Vector& v) const {
+    if (is_identity()) return v;
+    if (is_rigid())
+        return {_m[0] * v.x + _m[1] * v.y + _m[2] * v.z, _m[4] * v.x + _m[5] * v.y + _m[6] * v.z,
+                _m[8] * v.x + _m[9] * v.y + _m[10] * v.z};
+    const T w = row_times(3, v);
+    if (w == 0) throw VectorInFocusException(0);
+    return {row_times(0, v) / w - _m[3] / _m[15], row_times(1, v) / w - _m[7] / _m[15],
+            row_times(2, v) / w - _m[11] / _m[15]};
 }
 
 template <typename T>
-TMatrix3D<T> TMatrix3D<T>::BuildRotate(Vector axis, T angle) {
-    const auto [x, y, z] = axis.Normalize();
-    const T c = std::cos(angle), s = std::sin(angle), t = 1 - c;
-    return {t * x * x + c,
-            t * x * y - s * z,
-            t * x * z + s * y,
-            0, //
-            t * x * y + s * z,
-            t * y * y + c,
-            t * y * z - s * x,
-            0, //
-            t * x * z - s * y,
-            t * y * z + s * x,
-            t * z * z + c,
-            0, //
-            0,
-            0,
-            0,
-            1};
+bool TMatrix3D<T>::operator==(const TMatrix3D& b) const {
+    for (int i = 15; i >= 0; --i) {
+        const T larger = std::fmax(std::fabs(_m[i]), std::fabs(b._m[i]));
+        if (larger != 0 && std::fabs(_m[i] - b._m[i]) / larger > acc) return false;
+    }
+    return true;
+}
+
+template <typename T>
+T TMatrix3D<T>::Accuracy(T a) {
+    if (a != 0) acc = a;
+    return acc;
 }
 
 } // namespace math
+
+#include "math/matrix_build.h"
+#include "math/matrix_inverse.h"
+#include "math/matrix_parts.h"
+#include "math/matrix_relate.h"
+#include "math/plane_matrix.h"

@@ -93,16 +93,21 @@ struct TGeomVector3D {
     friend constexpr TGeomVector3D operator/(TGeomVector3D a, T d) { return a /= d; }
     friend constexpr TGeomVector3D operator-(const TGeomVector3D& a) { return {-a.x, -a.y, -a.z}; }
     friend constexpr bool operator==(const TGeomVector3D&, const TGeomVector3D&) = default;
-
-    friend constexpr T dot(const TGeomVector3D& a, const TGeomVector3D& b) {
-        return a.x * b.x + a.y * b.y + a.z * b.z;
-    }
-    // Right-handed: cross(Ex, Ey) = Ez.
-    friend constexpr TGeomVector3D cross(const TGeomVector3D& a, const TGeomVector3D& b) {
-        return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
-    }
-    friend T length(const TGeomVector3D& a) { return std::sqrt(dot(a, a)); }
 };
+
+template <typename T>
+constexpr T dot(const TGeomVector3D<T>& a, const TGeomVector3D<T>& b) {
+    return a.x * b.x + a.y * b.y + a.z * b.z;
+}
+// Right-handed: cross(Ex, Ey) = Ez.
+template <typename T>
+constexpr TGeomVector3D<T> cross(const TGeomVector3D<T>& a, const TGeomVector3D<T>& b) {
+    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
+}
+template <typename T>
+T length(const TGeomVector3D<T>& a) {
+    return std::sqrt(dot(a, a));
+}
 
 // A vector or point of the plane: a plain value. The default is the zero vector.
 template <typename T>
@@ -150,15 +155,20 @@ struct TGeomVector2D {
     friend constexpr TGeomVector2D operator/(TGeomVector2D a, T d) { return a /= d; }
     friend constexpr TGeomVector2D operator-(const TGeomVector2D& a) { return {-a.x, -a.y}; }
     friend constexpr bool operator==(const TGeomVector2D&, const TGeomVector2D&) = default;
-
-    friend constexpr T dot(const TGeomVector2D& a, const TGeomVector2D& b) {
-        return a.x * b.x + a.y * b.y;
-    }
-    // The z component of the cross product: positive when b lies counter-clockwise of a (y up).
-    friend constexpr T cross(const TGeomVector2D& a, const TGeomVector2D& b) {
-        return a.x * b.y - a.y * b.x;
-    }
-    friend T length(const TGeomVector2D& a) { return std::sqrt(dot(a, a)); }
 };
+
+template <typename T>
+constexpr T dot(const TGeomVector2D<T>& a, const TGeomVector2D<T>& b) {
+    return a.x * b.x + a.y * b.y;
+}
+// The z component of the cross product: positive when b lies counter-clockwise of a (y up).
+template <typename T>
+constexpr T cross(const TGeomVector2D<T>& a, const TGeomVector2D<T>& b) {
+    return a.x * b.y - a.y * b.x;
+}
+template <typename T>
+T length(const TGeomVector2D<T>& a) {
+    return std::sqrt(dot(a, a));
+}
 
 } // namespace math
