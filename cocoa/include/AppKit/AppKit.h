@@ -1,0 +1,7 @@
+// All of AppKit.
+#pragma once
+
+#include <CoreGraphics/CoreGraphics.h>
+#include <Foundation/Foundation.h>
+
+// Drawing.

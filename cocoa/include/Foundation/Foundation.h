@@ -1,0 +1,18 @@
+// All of Foundation: objects, strings, collections, values, geometry, notifications.
+#pragma once
+
+#include <CoreFoundation/CoreFoundation.h>
+
+#include <Foundation/NSObjCRuntime.h>
+
+#include <Foundation/NSArray.h>
+#include <Foundation/NSAutoreleasePool.h>
+#include <Foundation/NSDictionary.h>
+#include <Foundation/NSEnumerator.h>
+#include <Foundation/NSException.h>
+#include <Foundation/NSGeometry.h>
+#include <Foundation/NSNotification.h>
+#include <Foundation/NSObject.h>
+#include <Foundation/NSRange.h>
+#include <Foundation/NSString.h>
+#include <Foundation/NSValue.h>
