@@ -1,0 +1,32 @@
+// The preview: a picture of the composition as its first camera sees it (a default camera where
+// it has none), for people who want to see what an arrangement looks like.
+
+#pragma once
+
+#include "minihost/model/Scene.h"
+
+#include <string>
+
+namespace minihost {
+
+// For --help: what the picture shows and how large it is.
+inline constexpr const char* preview_help =
+    "picture of the composition as its first camera sees it (a default camera if it has none); "
+    ".png or .svg. It has the composition's shape, its longer side 960 points long";
+
+enum class PreviewFormat { png, svg };
+
+// Pixels per point that a picture may have.
+inline constexpr double least_preview_scale = 0.1, greatest_preview_scale = 16;
+
+// The bytes of a picture of the composition at its current time. The picture has the shape of
+// the composition, its longer side 960 · scale pixels long. The same scene gives the same bytes.
+// Throws std::runtime_error where the scale is out of its range or memory does not suffice.
+std::string encode_preview(const Scene& scene, PreviewFormat format, double scale);
+
+// Writes the picture to a file whose extension (.png or .svg, in any case) says its format; the
+// file is written whole or not at all. Throws std::runtime_error, with the path in its text, for
+// any other extension, a scale out of its range, or a path that cannot be written.
+void render_preview(const Scene& scene, const std::string& path, double scale);
+
+} // namespace minihost
