@@ -1,0 +1,100 @@
+#include "minihost/view/Panel.h"
+
+#include <AppKit/NSDisplayStandIn.h>
+#include <Cocoa/Cocoa.h>
+#include <set>
+
+namespace minihost {
+
+namespace {
+
+// The windows of all panels: the others are the plug-in's.
+std::set<NSWindow*>& panel_windows() {
+    static std::set<NSWindow*> windows;
+    return windows;
+}
+
+NSWindow* floating_window() {
+    NSArray* windows = [[NSApplication sharedApplication] windows];
+    for (NSUInteger i = [windows count]; i-- > 0;) {
+        NSWindow* window = [windows objectAtIndex:i];
+        if (!panel_windows().count(window)) return window;
+    }
+    return nil;
+}
+
+NSString* string(const std::string& utf8) {
+    NSString* text = [NSString stringWithUTF8String:utf8.c_str()];
+    return text ? text : @"";
+}
+
+} // namespace
+
+Panel::Panel(double width, double height) {
+    [NSApplication sharedApplication];
+    _window = [[NSWindow alloc] initWithContentRect:NSMakeRect(100, 100, width, height)
+                                          styleMask:NSTitledWindowMask
+                                            backing:NSBackingStoreBuffered
+                                              defer:YES];
+    [_window setReleasedWhenClosed:NO];
+    NSView* container = [[NSView alloc] initWithFrame:NSMakeRect(0, 0, width, height)];
+    [_window setContentView:container];
+    [container release];
+    panel_windows().insert(_window);
+}
+
+Panel::~Panel() {
+    panel_windows().erase(_window);
+    // The plug-in may still hold its views; they stand nowhere from now on.
+    NSArray* views = [[[container() subviews] copy] autorelease];
+    for (NSUInteger i = 0; i < [views count]; ++i) [[views objectAtIndex:i] removeFromSuperview];
+    [_window close];
+    [_window release];
+}
+
+NSView* Panel::container() const {
+    return [_window contentView];
+}
+
+void Panel::resize(double width, double height) {
+    [_window setContentSize:NSMakeSize(width, height)];
+}
+
+void Panel::set_title(const std::string& utf8) {
+    [_window setTitle:string(utf8)];
+}
+
+std::string Panel::title() const {
+    return [[_window title] UTF8String];
+}
+
+void Panel::show(bool visible) {
+    if (visible)
+        [_window makeKeyAndOrderFront:nil];
+    else
+        [_window orderOut:nil];
+}
+
+bool Panel::is_visible() const {
+    return [_window isVisible];
+}
+
+NSView* floating_dialog() {
+    return [floating_window() contentView];
+}
+
+bool floating_dialog_is_visible() {
+    return [floating_window() isVisible];
+}
+
+std::string floating_dialog_title() {
+    NSString* title = [floating_window() title];
+    return title ? [title UTF8String] : "";
+}
+
+Picture render(NSView* view, double scale) {
+    NSPicture picture = NSRenderView(view, scale);
+    return {picture.width, picture.height, std::move(picture.rgba)};
+}
+
+} // namespace minihost
