@@ -74,7 +74,14 @@ int BaseADMDialog::Modal(SPPlugin* plugin, char* name, int dialogID, ADMDialogSt
 int BaseADMDialog::InitProc(_Opaque_ADMDialog* dialog) {
     BaseADMDialog* self = wrapper_of(dialog);
     self->_handle = dialog;
-    return self->Init();
+    const int error = self->Init();
+    if (error != 0) {
+        // The dialog is given up. Whoever is creating it still holds the wrapper, which therefore
+        // lets go of it here instead of deleting itself when it is destroyed.
+        ADMDialogSuite9::SetDestroyProc(dialog, nullptr);
+        self->Destroy();
+    }
+    return error;
 }
 
 void BaseADMDialog::DrawProc(_Opaque_ADMDialog* dialog, _Opaque_ADMDrawer* drawer) {

@@ -1,0 +1,19 @@
+// What a notify procedure is told: which item the user acted on.
+
+#pragma once
+
+#include "ADMLibrary/ADM_Mac64/Handles.h"
+
+// The mark that a default operation leaves: handled by default.
+constexpr std::int32_t kADMHandledByDefault = -9874;
+
+class iADMNotifier {
+  public:
+    iADMNotifier(iADMItem* acted_on, const char* notifier_type)
+        : item(acted_on), type(notifier_type) {}
+    virtual ~iADMNotifier() = default;
+
+    iADMItem* item;
+    const char* type;
+    std::int32_t result = 0;
+};
