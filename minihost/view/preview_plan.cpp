@@ -74,8 +74,8 @@ std::array<double, 4> rectangle(const Layer& layer) {
     const bool told = layer.size.width > 0 && layer.size.height > 0;
     const double w = told ? layer.size.width : unsized.width;
     const double h = told ? layer.size.height : unsized.height;
-    if (layer.has_source()) return {0, 0, w, h};
-    return {-w / 2, -h / 2, w, h};
+    if (told) return {0, 0, w, h};
+    return {-w / 2, -h / 2, w, h}; // about the anchor point that such a layer has
 }
 
 double area(const std::vector<Point>& p) {
