@@ -1,0 +1,25 @@
+// Scene files, read: JSON of the format "minihost scene 1", and nothing else.
+
+#pragma once
+
+#include "minihost/model/Scene.h"
+#include "minihost/model/SceneError.h"
+
+#include <string>
+#include <string_view>
+
+namespace minihost {
+
+// Sizes are from 1 to this many pixels.
+constexpr int max_size = 30000;
+
+// Reads a scene file; throws SceneError for a file that cannot be read or is no scene.
+Scene read_scene(const std::string& path);
+
+// The same of a text; `file` is the name in the errors.
+Scene parse_scene(std::string_view text, const std::string& file);
+
+// The whole content of a file; throws SceneError with the system's reason.
+std::string read_file(const std::string& path);
+
+} // namespace minihost
