@@ -2,8 +2,8 @@
 #pragma once
 
 #include <Foundation/NSAutoreleasePool.h>
-#include <Foundation/NSRaisedException.h>
 #include <Foundation/NSLiveObjects.h>
+#include <Foundation/NSRaisedException.h>
 #include <Foundation/NSString.h>
 
 #include <functional>
