@@ -160,11 +160,18 @@ TEST(PreviewCover, HidesOnlyWhatNothingShowsOf) {
 }
 
 TEST(PreviewCover, ASlantedEdgeCoversNoCellInPart) {
-    Cover cover(100, 100, 10);
-    cover.add({{0, 0}, {100, 0}, {0, 100}}); // above the diagonal
-    EXPECT_FALSE(cover.shows(box(11, 11, 19, 19)));
-    EXPECT_TRUE(cover.shows(box(41, 51, 49, 59))) << "the cell that the edge passes";
-    EXPECT_TRUE(cover.shows(box(71, 71, 79, 79)));
+    for (const bool mirrored : {false, true}) {
+        const auto across = [&](double x) { return mirrored ? 100 - x : x; };
+        const auto square = [&](double x, double y) { // of 8, within a cell
+            return box(std::min(across(x), across(x + 8)), y, std::max(across(x), across(x + 8)),
+                       y + 8);
+        };
+        Cover cover(100, 100, 10);
+        cover.add({{across(0), 0}, {across(100), 0}, {across(0), 100}});
+        EXPECT_FALSE(cover.shows(square(11, 11))) << mirrored;
+        EXPECT_TRUE(cover.shows(square(41, 51))) << mirrored << ": the edge passes this cell";
+        EXPECT_TRUE(cover.shows(square(71, 71))) << mirrored;
+    }
 }
 
 } // namespace
