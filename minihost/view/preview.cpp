@@ -2,16 +2,14 @@
 
 #include "minihost/view/preview.h"
 
+#include "minihost/model/OutputFile.h"
 #include "minihost/view/preview_paint.h"
 
 #include <algorithm>
 #include <cctype>
-#include <cerrno>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <stdexcept>
-#include <system_error>
 
 namespace minihost {
 
@@ -26,20 +24,6 @@ PreviewFormat format_of(const std::string& path) {
     throw std::runtime_error(
         path + ": a preview is written as .png or .svg, " +
         (extension.empty() ? "and this name has no extension" : "not as " + extension));
-}
-
-// Into a file beside it first, which then takes its name.
-void write_whole(const std::string& path, const std::string& bytes) {
-    const std::string part = path + ".part";
-    std::ofstream file(part, std::ios::binary | std::ios::trunc);
-    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    file.close();
-    std::error_code error;
-    if (file) std::filesystem::rename(part, path, error);
-    if (file && !error) return;
-    const std::string reason = error ? error.message() : std::generic_category().message(errno);
-    std::filesystem::remove(part, error);
-    throw std::runtime_error(path + ": " + reason);
 }
 
 } // namespace
@@ -58,8 +42,7 @@ std::string encode_preview(const Scene& scene, PreviewFormat format, double scal
 
 void render_preview(const Scene& scene, const std::string& path, double scale) {
     const PreviewFormat format = format_of(path);
-    const std::string file = encode_preview(scene, format, scale);
-    write_whole(path, file);
+    write_file(path, encode_preview(scene, format, scale));
 }
 
 } // namespace minihost

@@ -26,7 +26,7 @@ std::string encode_preview(const Scene& scene, PreviewFormat format, double scal
 
 // Writes the picture to a file whose extension (.png or .svg, in any case) says its format; the
 // file is written whole or not at all. Throws std::runtime_error, with the path in its text, for
-// any other extension, a scale out of its range, or a path that cannot be written.
+// any other extension, as above for the scale, and OutputError for a path that cannot be written.
 void render_preview(const Scene& scene, const std::string& path, double scale);
 
 } // namespace minihost
