@@ -5,3 +5,7 @@
 #include <Foundation/Foundation.h>
 
 // Drawing.
+#include <AppKit/NSBezierPath.h>
+#include <AppKit/NSColor.h>
+#include <AppKit/NSGradient.h>
+#include <AppKit/NSGraphicsContext.h>
