@@ -7,5 +7,8 @@
 // Drawing.
 #include <AppKit/NSBezierPath.h>
 #include <AppKit/NSColor.h>
+#include <AppKit/NSFont.h>
 #include <AppKit/NSGradient.h>
 #include <AppKit/NSGraphicsContext.h>
+#include <AppKit/NSParagraphStyle.h>
+#include <AppKit/NSStringDrawing.h>

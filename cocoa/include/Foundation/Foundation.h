@@ -6,6 +6,7 @@
 #include <Foundation/NSObjCRuntime.h>
 
 #include <Foundation/NSArray.h>
+#include <Foundation/NSAttributedString.h>
 #include <Foundation/NSAutoreleasePool.h>
 #include <Foundation/NSDictionary.h>
 #include <Foundation/NSEnumerator.h>
