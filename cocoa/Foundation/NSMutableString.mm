@@ -9,7 +9,7 @@
 }
 
 - (id)initWithText:(std::string*)text {
-    if (!_text) _text = new NSText;
+    if (!_text) _text = new NSStringText;
     _text->set(std::move(*text));
     return self;
 }

@@ -18,7 +18,7 @@ std::optional<encodings::Encoding> encoding_of(NSStringEncoding encoding);
 std::string formatted(NSString* format, va_list arguments);
 
 // A string's text and its length in UTF-16 units, which equals that in bytes for ASCII alone.
-struct NSText {
+struct NSStringText {
     std::string bytes;
     NSUInteger units = 0;
 
@@ -42,6 +42,6 @@ struct NSTextView {
 
 // What +[NSString alloc] makes.
 @interface NSPlainString : NSString {
-    NSText* _text;
+    NSStringText* _text;
 }
 @end

@@ -80,9 +80,7 @@ enum { NSLiteralSearch = 2, NSBackwardsSearch = 4, NSAnchoredSearch = 8 };
 - (NSString*)stringByAppendingFormat:(NSString*)format, ...;
 - (NSString*)stringByReplacingOccurrencesOfString:(NSString*)target withString:(NSString*)other;
 - (NSArray*)componentsSeparatedByString:(NSString*)separator;
-@end
 
-@interface NSString (NSNumbersInStrings)
 // The number at the start, after white space; 0 when there is none, and the nearest representable
 // one when it is out of range.
 - (double)doubleValue;
@@ -94,10 +92,10 @@ enum { NSLiteralSearch = 2, NSBackwardsSearch = 4, NSAnchoredSearch = 8 };
 - (BOOL)boolValue;
 @end
 
-struct NSText;
+struct NSStringText;
 
 @interface NSMutableString : NSString {
-    struct NSText* _text;
+    struct NSStringText* _text;
 }
 + (id)stringWithCapacity:(NSUInteger)capacity;
 - (id)initWithCapacity:(NSUInteger)capacity;
