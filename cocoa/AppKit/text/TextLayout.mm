@@ -55,7 +55,8 @@ void insert_attributes(PangoAttrList* list, NSDictionary* attributes, std::size_
     NSFont* font = [attributes objectForKey:NSFontAttributeName];
     if (!font) font = [NSFont systemFontOfSize:12];
     insert(list, pango_attr_font_desc_new(description(font).get()), start, end);
-    NSColor* color = [attributes objectForKey:NSForegroundColorAttributeName];
+    NSColor* color = [[attributes objectForKey:NSForegroundColorAttributeName]
+        colorUsingColorSpaceName:NSDeviceRGBColorSpace];
     if (!color) return;
     insert(list,
            pango_attr_foreground_new(part([color blueComponent]), part([color greenComponent]),
