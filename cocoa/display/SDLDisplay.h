@@ -1,0 +1,15 @@
+// A display in one window of the desktop, which is the whole screen: its size is the screen's, a
+// resize of the one resizes the other.
+#pragma once
+
+#include "Display.h"
+
+#include <memory>
+
+namespace cocoa {
+
+// nullptr, with the reason on standard error, when there is no desktop to open a window on. The
+// size is in points; a scale of 0 stands for the desktop's own.
+std::unique_ptr<Display> make_sdl_display(const std::string& title, ScreenSize size, double scale);
+
+} // namespace cocoa
