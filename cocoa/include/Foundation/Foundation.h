@@ -8,6 +8,7 @@
 #include <Foundation/NSArray.h>
 #include <Foundation/NSAttributedString.h>
 #include <Foundation/NSAutoreleasePool.h>
+#include <Foundation/NSDate.h>
 #include <Foundation/NSDictionary.h>
 #include <Foundation/NSEnumerator.h>
 #include <Foundation/NSException.h>
@@ -15,5 +16,7 @@
 #include <Foundation/NSNotification.h>
 #include <Foundation/NSObject.h>
 #include <Foundation/NSRange.h>
+#include <Foundation/NSRunLoop.h>
 #include <Foundation/NSString.h>
+#include <Foundation/NSTimer.h>
 #include <Foundation/NSValue.h>

@@ -7,7 +7,6 @@
 
 #include <objc/objc.h>
 
-#include <limits.h>
 #include <objc/message.h>
 #include <objc/runtime.h>
 #include <stdarg.h>

@@ -1,0 +1,13 @@
+// The menu bar at the top of the screen: the titles of the main menu's submenus, each of which
+// opens on a click.
+#pragma once
+
+@class NSMenu;
+
+namespace cocoa {
+
+// nil takes the bar away.
+void show_menu_bar(NSMenu* menu);
+void redraw_menu_bar();
+
+} // namespace cocoa

@@ -1,0 +1,216 @@
+// Push buttons, check boxes and radio buttons, and their cell.
+#include <AppKit/NSButton.h>
+
+#include "Internal.h"
+#include "Theme.h"
+
+#include <AppKit/AppKit.h>
+#include <cmath>
+
+using namespace cocoa;
+
+@implementation NSButtonCell
+- (id)init {
+    return [self initTextCell:@"Button"];
+}
+
+- (id)initTextCell:(NSString*)text {
+    self = [super initTextCell:text];
+    if (!self) return nil;
+    _buttonType = NSMomentaryPushInButton;
+    _bezelStyle = NSRoundedBezelStyle;
+    _keyEquivalent = @"";
+    [self setBordered:YES];
+    [self setAlignment:NSCenterTextAlignment];
+    return self;
+}
+
+- (void)dealloc {
+    [_keyEquivalent release];
+    [super dealloc];
+}
+
+- (NSButtonType)buttonType {
+    return _buttonType;
+}
+- (void)setButtonType:(NSButtonType)type {
+    _buttonType = type;
+    const BOOL marked = type == NSSwitchButton || type == NSRadioButton;
+    if (marked) {
+        [self setBordered:NO];
+        [self setAlignment:NSLeftTextAlignment];
+    }
+    [[self controlView] setNeedsDisplay:YES];
+}
+- (NSBezelStyle)bezelStyle {
+    return _bezelStyle;
+}
+- (void)setBezelStyle:(NSBezelStyle)style {
+    _bezelStyle = style;
+    [[self controlView] setNeedsDisplay:YES];
+}
+- (NSString*)keyEquivalent {
+    return _keyEquivalent;
+}
+- (void)setKeyEquivalent:(NSString*)key {
+    if (key == _keyEquivalent) return;
+    [_keyEquivalent release];
+    _keyEquivalent = key ? [key copy] : @"";
+    [[self controlView] setNeedsDisplay:YES];
+}
+
+- (NSInteger)nextState {
+    switch (_buttonType) {
+    case NSPushOnPushOffButton:
+    case NSToggleButton:
+    case NSSwitchButton:
+    case NSOnOffButton:
+        return [super nextState];
+    case NSRadioButton:
+        return NSOnState;
+    default:
+        return [self state];
+    }
+}
+
+- (NSAttributedString*)attributedTitle {
+    NSMutableParagraphStyle* style =
+        [[[NSParagraphStyle defaultParagraphStyle] mutableCopy] autorelease];
+    [style setAlignment:[self alignment]];
+    NSColor* color = [self isEnabled] ? theme::text() : theme::dim_text();
+    NSDictionary* attributes =
+        [NSDictionary dictionaryWithObjectsAndKeys:[self font], NSFontAttributeName, color,
+                                                   NSForegroundColorAttributeName, style,
+                                                   NSParagraphStyleAttributeName, nil];
+    return [[[NSAttributedString alloc] initWithString:[self title]
+                                            attributes:attributes] autorelease];
+}
+
+- (BOOL)isMarked {
+    return _buttonType == NSSwitchButton || _buttonType == NSRadioButton;
+}
+
+- (NSSize)cellSize {
+    const NSSize text = theme::measure([self title], [self font]);
+    const double width = std::ceil(text.width), height = std::ceil(text.height);
+    if ([self isMarked]) return NSMakeSize(width + 20, std::max(height, 16.0));
+    return NSMakeSize(width + 24, height + 8);
+}
+
+- (void)drawMark:(NSRect)box {
+    const BOOL on = [self state] == NSOnState, round = _buttonType == NSRadioButton;
+    NSColor* fill = on ? theme::accent() : theme::field();
+    if (![self isEnabled]) fill = theme::button();
+    theme::draw_round(box, round ? 6 : 2, [self isHighlighted] ? theme::button_pressed() : fill,
+                      theme::field_outline());
+    if (!on) return;
+    NSColor* mark = [self isEnabled] ? theme::accent_text() : theme::dim_text();
+    [mark set];
+    if (round) {
+        [[NSBezierPath bezierPathWithOvalInRect:NSInsetRect(box, 4, 4)] fill];
+        return;
+    }
+    NSBezierPath* tick = [NSBezierPath bezierPath];
+    [tick moveToPoint:NSMakePoint(NSMinX(box) + 3, NSMinY(box) + 6.5)];
+    [tick lineToPoint:NSMakePoint(NSMinX(box) + 5.2, NSMinY(box) + 9)];
+    [tick lineToPoint:NSMakePoint(NSMinX(box) + 9.2, NSMinY(box) + 3)];
+    [tick setLineWidth:1.6];
+    [tick stroke];
+}
+
+- (void)drawWithFrame:(NSRect)frame inView:(NSView*)view {
+    [self setControlView:view];
+    if ([self isBordered]) {
+        const BOOL pressed = [self isHighlighted] ||
+                             ([self state] == NSOnState && _buttonType != NSMomentaryLightButton &&
+                              _buttonType != NSMomentaryPushInButton);
+        const BOOL is_default = [_keyEquivalent isEqualToString:@"\r"];
+        NSColor* face = is_default ? theme::accent() : theme::button();
+        if (pressed) face = is_default ? theme::title_bar(true) : theme::button_pressed();
+        if (![self isEnabled]) face = theme::title_bar(true);
+        theme::draw_round(frame, _bezelStyle == NSRoundedBezelStyle ? 4 : 1, face,
+                          theme::button_outline());
+    }
+    [self drawInteriorWithFrame:frame inView:view];
+}
+
+- (void)drawInteriorWithFrame:(NSRect)frame inView:(NSView*)__attribute__((unused))view {
+    NSColor* color = [self isEnabled] ? theme::text() : theme::dim_text();
+    if ([self isEnabled] && [_keyEquivalent isEqualToString:@"\r"]) color = theme::accent_text();
+    NSRect text = NSInsetRect(frame, 3, 0);
+    if ([self isMarked]) {
+        const NSRect box = NSMakeRect(NSMinX(frame) + 2, std::floor(NSMidY(frame) - 6), 12, 12);
+        [self drawMark:box];
+        text = NSMakeRect(NSMinX(frame) + 20, NSMinY(frame), NSWidth(frame) - 20, NSHeight(frame));
+    }
+    theme::draw_line([self title], text, [self font], color,
+                     static_cast<unsigned>([self alignment]));
+}
+@end
+
+@implementation NSButton
++ (Class)cellClass {
+    return [NSButtonCell class];
+}
+
+// On the platform the replaced cell would keep what the type means to itself, and a new cell's
+// button would be momentary: whoever gives a check box a cell of his own that only draws would have
+// a check box that never changes. The button hands the type that it was given on to the new cell.
+- (void)setCell:(NSCell*)cell {
+    [super setCell:cell];
+    if (_hasGivenType && [cell isKindOfClass:[NSButtonCell class]])
+        [(NSButtonCell*)cell setButtonType:_givenType];
+}
+
+- (void)setButtonType:(NSButtonType)type {
+    _givenType = type;
+    _hasGivenType = YES;
+    [(NSButtonCell*)[self cell] setButtonType:type];
+}
+- (NSBezelStyle)bezelStyle {
+    return [(NSButtonCell*)[self cell] bezelStyle];
+}
+- (void)setBezelStyle:(NSBezelStyle)style {
+    [(NSButtonCell*)[self cell] setBezelStyle:style];
+}
+- (BOOL)isBordered {
+    return [[self cell] isBordered];
+}
+- (void)setBordered:(BOOL)flag {
+    [[self cell] setBordered:flag];
+}
+- (NSString*)title {
+    return [(NSButtonCell*)[self cell] title];
+}
+- (void)setTitle:(NSString*)title {
+    [(NSButtonCell*)[self cell] setTitle:title];
+}
+- (NSAttributedString*)attributedTitle {
+    return [(NSButtonCell*)[self cell] attributedTitle];
+}
+- (NSInteger)state {
+    return [(NSButtonCell*)[self cell] state];
+}
+- (void)setState:(NSInteger)state {
+    [(NSButtonCell*)[self cell] setState:state];
+}
+- (void)setNextState {
+    [(NSButtonCell*)[self cell] setNextState];
+}
+- (NSString*)keyEquivalent {
+    return [(NSButtonCell*)[self cell] keyEquivalent];
+}
+- (void)setKeyEquivalent:(NSString*)key {
+    [(NSButtonCell*)[self cell] setKeyEquivalent:key];
+}
+
+- (BOOL)performKeyEquivalent:(NSEvent*)event {
+    NSString* key = [self keyEquivalent];
+    if ([key length] && [self isEnabled] &&
+        [key isEqualToString:[event charactersIgnoringModifiers]]) {
+        [self performClick:self];
+        return YES;
+    }
+    return [super performKeyEquivalent:event];
+}
+@end

@@ -1,0 +1,104 @@
+#include <AppKit/NSTextFieldCell.h>
+
+#include "Internal.h"
+#include "Theme.h"
+
+#include <AppKit/AppKit.h>
+#include <cmath>
+
+using namespace cocoa;
+
+@implementation NSTextFieldCell
+- (id)init {
+    return [self initTextCell:@""];
+}
+
+- (id)initTextCell:(NSString*)text {
+    self = [super initTextCell:text];
+    if (!self) return nil;
+    [self setSendsActionOnEndEditing:YES];
+    _backgroundColor = [theme::field() retain];
+    _textColor = [theme::text() retain];
+    return self;
+}
+
+- (void)dealloc {
+    [_backgroundColor release];
+    [_textColor release];
+    [super dealloc];
+}
+
+- (NSColor*)backgroundColor {
+    return _backgroundColor;
+}
+- (void)setBackgroundColor:(NSColor*)color {
+    if (color != _backgroundColor) {
+        [_backgroundColor release];
+        _backgroundColor = [color retain];
+    }
+    [[self controlView] setNeedsDisplay:YES];
+}
+- (BOOL)drawsBackground {
+    return _drawsBackground;
+}
+- (void)setDrawsBackground:(BOOL)flag {
+    _drawsBackground = !!flag;
+    [[self controlView] setNeedsDisplay:YES];
+}
+- (NSColor*)textColor {
+    return _textColor;
+}
+- (void)setTextColor:(NSColor*)color {
+    if (color != _textColor) {
+        [_textColor release];
+        _textColor = [color retain];
+    }
+    [[self controlView] setNeedsDisplay:YES];
+}
+
+- (BOOL)isFramed {
+    return [self isBezeled] || [self isBordered];
+}
+
+// In a frame the line stands in the middle; without one the text begins at the top.
+- (NSRect)titleRectForBounds:(NSRect)bounds {
+    const NSRect room = NSInsetRect([self drawingRectForBounds:bounds], 2, 0);
+    if ([self wraps]) return room;
+    const NSSize line = theme::measure(@"X", [self font]);
+    const double y = [self isFramed] ? (room.size.height - line.height) / 2 : 0;
+    return NSMakeRect(NSMinX(room), NSMinY(room) + y, NSWidth(room), line.height);
+}
+
+- (void)drawWithFrame:(NSRect)frame inView:(NSView*)view {
+    [self setControlView:view];
+    if (_drawsBackground && _backgroundColor) {
+        [_backgroundColor setFill];
+        NSRectFill(frame);
+    }
+    if ([self isFramed]) theme::draw_round(frame, 0, nil, theme::neutral(0.9));
+    [self drawInteriorWithFrame:frame inView:view];
+}
+
+- (void)drawInteriorWithFrame:(NSRect)frame inView:(NSView*)view {
+    // While it is edited, the text is the field editor's.
+    if ([view isKindOfClass:[NSControl class]] && [(NSControl*)view currentEditor]) return;
+    NSColor* color = _textColor ? _textColor : theme::text();
+    if (![self isEnabled] && _drawsBackground)
+        color = [color colorWithAlphaComponent:[color alphaComponent] * 0.45];
+    const NSRect line = [self titleRectForBounds:frame];
+    if (![self wraps]) {
+        theme::draw_line([self stringValue], line, [self font], color,
+                         static_cast<unsigned>([self alignment]));
+        return;
+    }
+    NSMutableParagraphStyle* style =
+        [[[NSParagraphStyle defaultParagraphStyle] mutableCopy] autorelease];
+    [style setAlignment:[self alignment]];
+    [[self stringValue]
+            drawInRect:line
+        withAttributes:[NSDictionary
+                           dictionaryWithObjectsAndKeys:[self font], NSFontAttributeName, color,
+                                                        NSForegroundColorAttributeName, style,
+                                                        NSParagraphStyleAttributeName, nil]];
+}
+@end

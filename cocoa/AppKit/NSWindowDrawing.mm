@@ -1,0 +1,74 @@
+// A window's pixels: what is to be drawn again, and when.
+#include "Internal.h"
+#include "WindowServer.h"
+
+#include <algorithm>
+#include <cmath>
+
+using cocoa::WindowServer;
+
+@implementation NSWindow (NSWindowDrawing)
+- (struct NSWindowState*)state {
+    return _state;
+}
+
+- (void)addDirtyRect:(NSRect)rect {
+    _state->dirty = NSUnionRect(_state->dirty, rect);
+}
+
+- (void)prepareState {
+    const double scale = WindowServer::shared().scale();
+    const int width = std::max(1, static_cast<int>(std::ceil(_frame.size.width * scale)));
+    const int height = std::max(1, static_cast<int>(std::ceil(_frame.size.height * scale)));
+    if (_state->width == width && _state->height == height && _state->scale == scale) return;
+    _state->width = width;
+    _state->height = height;
+    _state->scale = scale;
+    _state->pixels.assign(static_cast<size_t>(width) * height * 4, 0);
+    _state->dirty = [_borderView frame];
+}
+
+// Whole pixels, so that nothing is blended at the edges of what is drawn again.
+static NSRect whole_pixels(NSRect rect, double scale, double height) {
+    const double left = std::floor(NSMinX(rect) * scale), right = std::ceil(NSMaxX(rect) * scale);
+    const double top = std::floor((height - NSMaxY(rect)) * scale);
+    const double bottom = std::ceil((height - NSMinY(rect)) * scale);
+    return NSMakeRect(left / scale, height - bottom / scale, (right - left) / scale,
+                      (bottom - top) / scale);
+}
+
+- (void)displayIfNeeded {
+    [self prepareState];
+    if (NSIsEmptyRect(_state->dirty)) return;
+    const NSRect dirty = NSIntersectionRect(
+        whole_pixels(_state->dirty, _state->scale, _frame.size.height), [_borderView frame]);
+    _state->dirty = NSZeroRect;
+    if (NSIsEmptyRect(dirty)) return;
+    if ([self isTransparent]) {
+        // Blended windows are small: they are drawn anew as a whole, on nothing.
+        std::fill(_state->pixels.begin(), _state->pixels.end(), 0);
+        cocoa::draw_tree(_borderView, _state->pixels.data(), _state->width, _state->height,
+                         _state->scale, [_borderView frame]);
+    } else {
+        cocoa::draw_tree(_borderView, _state->pixels.data(), _state->width, _state->height,
+                         _state->scale, dirty);
+    }
+    WindowServer::shared().screen_needs_update();
+}
+
+- (void)setViewsNeedDisplay:(BOOL)flag {
+    if (flag)
+        [self addDirtyRect:[_borderView frame]];
+    else
+        _state->dirty = NSZeroRect;
+}
+
+- (void)display {
+    [self setViewsNeedDisplay:YES];
+    [self displayIfNeeded];
+}
+
+- (void)flushWindow {
+    WindowServer::shared().screen_needs_update();
+}
+@end

@@ -1,0 +1,20 @@
+// Moments of time, to the precision of the system's clock.
+#pragma once
+
+#include <Foundation/NSObject.h>
+
+typedef double NSTimeInterval; // seconds
+
+@interface NSDate : NSObject {
+  @private
+    NSTimeInterval _seconds; // since the start of 2001, UTC
+}
++ (id)date; // now
++ (id)dateWithTimeIntervalSinceNow:(NSTimeInterval)seconds;
++ (id)dateWithTimeIntervalSinceReferenceDate:(NSTimeInterval)seconds;
++ (id)distantPast;
++ (id)distantFuture;
++ (NSTimeInterval)timeIntervalSinceReferenceDate;
+- (NSTimeInterval)timeIntervalSinceReferenceDate;
+- (NSTimeInterval)timeIntervalSinceNow; // negative for the past
+@end

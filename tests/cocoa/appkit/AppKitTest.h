@@ -1,0 +1,69 @@
+// What the tests of windows and controls share: a titled key window on a headless display of
+// 1440 x 900 points with a flipped content view, a target that writes down the actions it gets, and
+// the demand that a test leaves no object behind.
+#pragma once
+
+#include <AppKit/NSDisplayStandIn.h>
+#include <Cocoa/Cocoa.h>
+#include <Foundation/NSLiveObjects.h>
+
+#include <Foundation/NSRaisedException.h>
+#include <functional>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+@interface TestFlippedView : NSView
+@end
+
+// Writes "<tag>" for each action, or "<tag>=<string value>" with `values` set.
+@interface TestTarget : NSObject {
+  @public
+    std::vector<std::string>* log;
+    BOOL values;
+}
+- (void)act:(id)sender;
+@end
+
+namespace appkit_test {
+
+class AppKitTest : public testing::Test {
+  protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    template <typename View>
+    View* add(View* view, int tag = 0) {
+        if (tag) {
+            [(id)view setTag:tag];
+            [(id)view setTarget:target];
+            [(id)view setAction:@selector(act:)];
+        }
+        [content addSubview:view];
+        return [view autorelease];
+    }
+    // Controls of the kinds there are, with the target; 0 as tag: no action.
+    NSButton* button(NSRect frame, NSButtonType type, int tag);
+    NSTextField* field(NSRect frame, NSString* text, int tag);
+    NSPopUpButton* pop_up(NSRect frame, std::vector<NSString*> titles, int tag);
+
+    std::vector<std::string> take_log();
+    static std::string text(NSString* string) { return string ? [string UTF8String] : "(nil)"; }
+    static NSPoint middle(NSView* view);
+    void click(NSView* view, NSInteger clicks = 1);
+    void key(unichar character, NSUInteger modifiers = 0);
+    void type(NSString* string);
+
+    NSWindow* window = nil;
+    NSView* content = nil;
+    TestTarget* target = nil;
+
+  public:
+    static std::function<void(id)> hook; // called for each action
+
+  private:
+    NSAutoreleasePool* pool_ = nil;
+};
+
+} // namespace appkit_test

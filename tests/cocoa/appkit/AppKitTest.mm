@@ -1,0 +1,133 @@
+#include "AppKitTest.h"
+
+@implementation TestFlippedView
+- (BOOL)isFlipped {
+    return YES;
+}
+@end
+
+@implementation TestTarget
+- (id)init {
+    self = [super init];
+    if (self) log = new std::vector<std::string>();
+    return self;
+}
+- (void)dealloc {
+    delete log;
+    [super dealloc];
+}
+- (void)act:(id)sender {
+    std::string entry = std::to_string([sender tag]);
+    if (values) entry += std::string("=") + [[sender stringValue] UTF8String];
+    log->push_back(entry);
+    if (appkit_test::AppKitTest::hook) appkit_test::AppKitTest::hook(sender);
+}
+@end
+
+namespace appkit_test {
+
+std::function<void(id)> AppKitTest::hook;
+
+namespace {
+std::string live_objects() {
+    std::string all;
+    NSVisitLiveObjects(
+        [](Class aClass, NSUInteger count, void* context) {
+            // What the process keeps for good: the application and shared objects made on demand.
+            *static_cast<std::string*>(context) +=
+                std::string(class_getName(aClass)) + " " + std::to_string(count) + "\n";
+        },
+        &all);
+    return all;
+}
+std::string before;
+} // namespace
+
+void AppKitTest::SetUp() {
+    pool_ = [[NSAutoreleasePool alloc] init];
+    static const bool warm = [] {
+        // Shared objects that stay come to life before anything is counted.
+        [NSApplication sharedApplication];
+        [NSScreen mainScreen];
+        [NSPasteboard generalPasteboard];
+        [NSRunLoop mainRunLoop];
+        [NSNotificationCenter defaultCenter];
+        NSWindow* any = [[NSWindow alloc] initWithContentRect:NSMakeRect(0, 0, 50, 50)
+                                                    styleMask:NSTitledWindowMask
+                                                      backing:NSBackingStoreBuffered
+                                                        defer:YES];
+        [any setTitle:@"X"];
+        NSRenderWindow(any, 1);
+        NSPostKey('x');
+        NSDispatchEvents();
+        [any release];
+        return true;
+    }();
+    (void)warm;
+    [pool_ drain];
+    before = live_objects();
+    pool_ = [[NSAutoreleasePool alloc] init];
+    NSUseHeadlessDisplay(NSMakeSize(1440, 900), 1);
+    target = [[TestTarget alloc] init];
+    window = [[NSWindow alloc] initWithContentRect:NSMakeRect(100, 200, 400, 300)
+                                         styleMask:NSTitledWindowMask
+                                           backing:NSBackingStoreBuffered
+                                             defer:YES];
+    [window setReleasedWhenClosed:NO];
+    content = [[[TestFlippedView alloc] initWithFrame:NSZeroRect] autorelease];
+    [window setContentView:content];
+    [window makeKeyAndOrderFront:nil];
+}
+
+void AppKitTest::TearDown() {
+    NSDispatchEvents();
+    hook = nullptr;
+    [window close];
+    [window release];
+    [target release];
+    // The last event stays with the application until the next comes.
+    NSPostKey(' ');
+    NSDispatchEvents();
+    [pool_ drain];
+    EXPECT_EQ(live_objects(), before);
+}
+
+NSButton* AppKitTest::button(NSRect frame, NSButtonType type, int tag) {
+    NSButton* result = add([[NSButton alloc] initWithFrame:frame], tag);
+    [result setButtonType:type];
+    return result;
+}
+
+NSTextField* AppKitTest::field(NSRect frame, NSString* text, int tag) {
+    NSTextField* result = add([[NSTextField alloc] initWithFrame:frame], tag);
+    [result setStringValue:text];
+    return result;
+}
+
+NSPopUpButton* AppKitTest::pop_up(NSRect frame, std::vector<NSString*> titles, int tag) {
+    NSPopUpButton* result = add([[NSPopUpButton alloc] initWithFrame:frame], tag);
+    for (NSString* title : titles) [result addItemWithTitle:title];
+    return result;
+}
+
+std::vector<std::string> AppKitTest::take_log() {
+    return std::exchange(*target->log, {});
+}
+
+NSPoint AppKitTest::middle(NSView* view) {
+    return NSMakePoint(NSMidX([view bounds]), NSMidY([view bounds]));
+}
+void AppKitTest::click(NSView* view, NSInteger clicks) {
+    NSPostClick(view, middle(view), clicks);
+    NSDispatchEvents();
+}
+void AppKitTest::key(unichar character, NSUInteger modifiers) {
+    NSPostKey(character, modifiers);
+    NSDispatchEvents();
+}
+void AppKitTest::type(NSString* string) {
+    NSPostText(string);
+    NSDispatchEvents();
+}
+
+} // namespace appkit_test

@@ -1,0 +1,94 @@
+#include "AppKitTest.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <SDL.h>
+
+using appkit_test::AppKitTest;
+using testing::ElementsAre;
+
+// The display in a window of the desktop, on SDL's driver for no desktop.
+class WindowDisplayTest : public AppKitTest {
+  protected:
+    void SetUp() override {
+        setenv("SDL_VIDEODRIVER", "dummy", 1);
+        AppKitTest::SetUp();
+        ASSERT_TRUE(NSUseWindowDisplay(@"Test", NSMakeSize(800, 600), 2));
+        drain();
+    }
+    void TearDown() override {
+        NSUseHeadlessDisplay(NSMakeSize(1440, 900), 1);
+        AppKitTest::TearDown();
+    }
+    // Nothing here waits: events that are there are taken, then the call answers.
+    static void drain() { NSDispatchEvents(); }
+    // A point of a view as the desktop counts: pixels from the upper left corner.
+    SDL_Point pixel(NSView* view) {
+        const NSPoint base = [view convertPoint:middle(view) toView:nil];
+        const NSPoint screen = [[view window] convertBaseToScreen:base];
+        return {int(screen.x * 2), int((600 - screen.y) * 2)};
+    }
+    static void push_button(Uint32 type, SDL_Point at) {
+        SDL_Event event = {};
+        event.type = type;
+        event.button.button = SDL_BUTTON_LEFT;
+        event.button.clicks = 1;
+        event.button.x = at.x;
+        event.button.y = at.y;
+        SDL_PushEvent(&event);
+    }
+    void click_desktop(NSView* view) {
+        push_button(SDL_MOUSEBUTTONDOWN, pixel(view));
+        push_button(SDL_MOUSEBUTTONUP, pixel(view));
+        drain();
+    }
+    static void push_key(SDL_Keycode code, Uint16 modifiers = 0) {
+        SDL_Event event = {};
+        event.type = SDL_KEYDOWN;
+        event.key.keysym.sym = code;
+        event.key.keysym.mod = modifiers;
+        SDL_SetModState(static_cast<SDL_Keymod>(modifiers));
+        SDL_PushEvent(&event);
+        drain();
+        SDL_SetModState(KMOD_NONE);
+    }
+    static void push_text(const char* text) {
+        SDL_Event event = {};
+        event.type = SDL_TEXTINPUT;
+        std::strncpy(event.text.text, text, sizeof event.text.text - 1);
+        SDL_PushEvent(&event);
+        drain();
+    }
+};
+
+TEST_F(WindowDisplayTest, TheDesktopsMouseAndKeysReachTheControls) {
+    target->values = YES;
+    NSTextField* f = field(NSMakeRect(10, 10, 100, 20), @"", 1);
+    NSButton* b = button(NSMakeRect(200, 100, 60, 20), NSSwitchButton, 2);
+    [b setTitle:@"b"];
+    click_desktop(f);
+    push_text("4");
+    push_text("é");
+    push_key(SDLK_HOME);
+    push_text("1");
+    push_key(SDLK_a, KMOD_LCTRL);
+    push_key(SDLK_c, KMOD_LCTRL);
+    push_key(SDLK_RIGHT);
+    push_key(SDLK_v, KMOD_LCTRL);
+    push_key(SDLK_BACKSPACE);
+    push_key(SDLK_TAB);
+    EXPECT_THAT(take_log(), ElementsAre("1=14é14"));
+    EXPECT_EQ([window firstResponder], b);
+    push_text(" ");
+    click_desktop(b);
+    EXPECT_THAT(take_log(), ElementsAre("2=b", "2=b"));
+    EXPECT_EQ([b state], NSOffState);
+    push_key(SDLK_TAB, KMOD_LSHIFT);
+    EXPECT_NE([f currentEditor], nil);
+}
+
+TEST_F(WindowDisplayTest, TheScreenIsTheWindowsSize) {
+    EXPECT_EQ([[NSScreen mainScreen] frame].size.width, 800);
+    EXPECT_EQ([[NSScreen mainScreen] backingScaleFactor], 2);
+    EXPECT_EQ(NSRenderScreen().width, 1600);
+}
