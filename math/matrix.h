@@ -14,6 +14,7 @@
 #pragma once
 
 #include "core/MathExceptions.h"
+#include "math/pair.h"
 #include "math/vector.h"
 
 #include <cassert>
@@ -30,7 +31,8 @@ class TMatrix3D {
     static constexpr std::uint16_t identity_flag = 2;
 
     // The identity.
-    constexpr TMatrix3D() = default;
+    constexpr TMatrix3D()
+        : _m{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1}, _flags(rigid_flag | identity_flag) {}
     // The sixteen elements in row-major order; the flags are worked out.
     TMatrix3D(T m00, T m01, T m02, T m03, T m10, T m11, T m12, T m13, T m20, T m21, T m22, T m23,
               T m30, T m31, T m32, T m33)
@@ -153,6 +155,13 @@ class TMatrix3D {
     }
     Vector column_image(int c) const;
     static Vector fixed_axis(const TMatrix3D& rotation, T negligible, T& largest);
+    struct Unfilled {};
+    explicit TMatrix3D(Unfilled) {}
+
+    Vector general_image(const Vector& v) const;
+    [[noreturn]] static void throw_in_focus();
+    TMatrix3D general_product(const TMatrix3D& b) const;
+    bool rigid_product(const TMatrix3D& b, Pair<T> (&rows)[8]) const;
     void invert_rigid();
     void invert_general();
 
@@ -161,8 +170,8 @@ class TMatrix3D {
         return _m[4 * r] * v.x + _m[4 * r + 1] * v.y + _m[4 * r + 2] * v.z + _m[4 * r + 3];
     }
 
-    T _m[16] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
-    std::uint16_t _flags = rigid_flag | identity_flag;
+    alignas(2 * sizeof(T)) T _m[16];
+    std::uint16_t _flags;
 };
 
 template <typename T>
@@ -181,37 +190,13 @@ void TMatrix3D<T>::setFlags() {
 }
 
 template <typename T>
-inline TGeomVector3D<T> TMatrix3D<T>::operator*(const Vector& v) const {
-    if (is_identity()) return v;
-    if (is_rigid()) return {row_times(0, v), row_times(1, v), row_times(2, v)};
-    const T w = row_times(3, v);
-    if (w == 0) throw VectorInFocusException(0);
-    return {row_times(0, v) / w, row_times(1, v) / w, row_times(2, v) / w};
-}
-
-template <typename T>
-inline TMatrix3D<T> TMatrix3D<T>::operator*(const TMatrix3D& b) const {
-    if (is_identity()) return b;
-    if (b.is_identity()) return *this;
-    TMatrix3D product;
-    for (int i = 0; i < 4; ++i) {
-        T row[4] = {0, 0, 0, 0};
-        for (int k = 3; k >= 0; --k)
-            for (int j = 0; j < 4; ++j) row[j] += _m[4 * i + k] * b._m[4 * k + j];
-        for (int j = 0; j < 4; ++j) product._m[4 * i + j] = row[j];
-    }
-    product._flags = _flags & b._flags & rigid_flag;
-    return product;
-}
-
-template <typename T>
 TGeomVector3D<T> TMatrix3D<T>::operator&(const Vector& v) const {
     if (is_identity()) return v;
     if (is_rigid())
         return {_m[0] * v.x + _m[1] * v.y + _m[2] * v.z, _m[4] * v.x + _m[5] * v.y + _m[6] * v.z,
                 _m[8] * v.x + _m[9] * v.y + _m[10] * v.z};
     const T w = row_times(3, v);
-    if (w == 0) throw VectorInFocusException(0);
+    if (w == 0) throw_in_focus();
     return {row_times(0, v) / w - _m[3] / _m[15], row_times(1, v) / w - _m[7] / _m[15],
             row_times(2, v) / w - _m[11] / _m[15]};
 }
@@ -236,5 +221,6 @@ T TMatrix3D<T>::Accuracy(T a) {
 #include "math/matrix_build.h"
 #include "math/matrix_inverse.h"
 #include "math/matrix_parts.h"
+#include "math/matrix_product.h"
 #include "math/matrix_relate.h"
 #include "math/plane_matrix.h"

@@ -13,7 +13,7 @@ template <typename T>
 TGeomVector3D<T> TMatrix3D<T>::column_image(int c) const {
     if (_flags) return {_m[c], _m[4 + c], _m[8 + c]};
     const T w = _m[15] + _m[12 + c];
-    if (w == 0) throw VectorInFocusException(0);
+    if (w == 0) throw_in_focus();
     return {(_m[3] + _m[c]) / w - _m[3] / _m[15], (_m[7] + _m[4 + c]) / w - _m[7] / _m[15],
             (_m[11] + _m[8 + c]) / w - _m[11] / _m[15]};
 }
