@@ -3,7 +3,6 @@
 #pragma once
 
 #include "math/matrix.h"
-#include "math/vector.h"
 
 #include <gtest/gtest.h>
 
@@ -25,23 +24,20 @@ class Inputs {
         return std::uniform_real_distribution<double>(low, high)(_engine);
     }
     int whole(int low, int high) { return std::uniform_int_distribution<int>(low, high)(_engine); }
-    V2 point(double size) {
-        const double x = number(-size, size), y = number(-size, size);
-        return {x, y};
-    }
     V3 vector(double size) {
         const double x = number(-size, size), y = number(-size, size), z = number(-size, size);
         return {x, y, z};
     }
-    V3 unit() {
-        for (;;)
-            if (V3 v = vector(1); length(v) > 0.1) return v.Normalize();
-    }
+    V3 unit() { return vector(1).Normalize(); }
     M3 matrix(double size) {
         M3 m;
         for (int i = 0; i < 16; ++i) m(i / 4, i % 4) = number(-size, size);
         m.setFlags();
         return m;
+    }
+    M3 rotation() {
+        const V3 axis = unit();
+        return M3::BuildRotate(axis, number(-pi, pi));
     }
 
   private:
@@ -56,8 +52,7 @@ inline void expect_near(const V3& got, const V3& wanted, double tolerance) {
 
 inline void expect_near(const M3& got, const M3& wanted, double tolerance) {
     for (int i = 0; i < 16; ++i)
-        EXPECT_NEAR(got(i / 4, i % 4), wanted(i / 4, i % 4), tolerance)
-            << "element (" << i / 4 << ", " << i % 4 << ")";
+        EXPECT_NEAR(got(i / 4, i % 4), wanted(i / 4, i % 4), tolerance) << "element " << i;
 }
 
 } // namespace math_test
