@@ -1,0 +1,113 @@
+#include "minihost/suites/Serve.h"
+
+namespace minihost {
+
+namespace {
+
+// What a handle stands for, or nothing when it is none.
+template <typename Look>
+auto look_up(const Look& look) -> std::optional<std::decay_t<decltype(look())>> {
+    try {
+        return look();
+    } catch (const Misuse&) {
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+Arguments& Arguments::number(const char* name, double value) {
+    _json.member(name, value);
+    return *this;
+}
+
+Arguments& Arguments::text(const char* name, const char* value) {
+    if (value)
+        _json.member(name, value);
+    else
+        _json.key(name).null();
+    return *this;
+}
+
+Arguments& Arguments::flag(const char* name, bool value) {
+    _json.member(name, value);
+    return *this;
+}
+
+Arguments& Arguments::time(const char* name, const A_Time* value) {
+    if (value && value->scale != 0)
+        _json.member(name, static_cast<double>(value->value) / value->scale);
+    else
+        _json.key(name).null();
+    return *this;
+}
+
+Arguments& Arguments::layer_id(LayerId id) {
+    _json.member("layer", _host.document.scene().index_of(id));
+    return *this;
+}
+
+Arguments& Arguments::layer(AEGP_LayerH handle) {
+    if (const auto id = look_up([&] { return _host.handles.layer(handle); })) return layer_id(*id);
+    _json.key("layer").null();
+    return *this;
+}
+
+Arguments& Arguments::item(AEGP_ItemH handle) {
+    const auto item = look_up([&] { return _host.handles.item(handle); });
+    if (!item)
+        _json.key("item").null();
+    else if (item->kind == ItemRef::Kind::Composition)
+        _json.member("item", "composition");
+    else if (item->kind == ItemRef::Kind::Footage)
+        _json.member("item", "footage");
+    else
+        _json.member("item", "source"), layer_id(item->layer);
+    return *this;
+}
+
+Arguments& Arguments::composition(AEGP_CompH handle) {
+    if (look_up([&] { return _host.handles.composition(handle), true; }))
+        _json.member("comp", _host.document.scene().composition.name);
+    else
+        _json.key("comp").null();
+    return *this;
+}
+
+Arguments& Arguments::stream(AEGP_StreamRefH handle) {
+    if (const auto stream = look_up([&] { return _host.handles.stream(handle); })) {
+        layer_id(stream->layer);
+        _json.member("stream", static_cast<int>(stream->stream));
+    } else {
+        _json.key("layer").null().key("stream").null();
+    }
+    return *this;
+}
+
+Arguments& Arguments::collection(AEGP_CollectionH handle) {
+    _json.member("collection", static_cast<std::size_t>(Handles::number_of(handle)));
+    return *this;
+}
+
+Arguments& Arguments::panel(AEGP_PanelH handle) {
+    _json.member("panel", static_cast<std::size_t>(Handles::number_of(handle)));
+    return *this;
+}
+
+Arguments& Arguments::value(AEGP_StreamRefH handle, const AEGP_StreamVal* value) {
+    const auto stream = look_up([&] { return _host.handles.stream(handle); });
+    _json.key("value");
+    if (!stream || !value)
+        _json.null();
+    else if (dimensions(stream->stream) == 1)
+        _json.value(value->one_d);
+    else
+        _json.begin_array()
+            .value(value->three_d.x)
+            .value(value->three_d.y)
+            .value(value->three_d.z)
+            .end_array();
+    return *this;
+}
+
+} // namespace minihost

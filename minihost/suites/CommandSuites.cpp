@@ -1,0 +1,176 @@
+// Registering hooks, menus and commands, messages and undo groups.
+
+#include "minihost/suites/Serve.h"
+#include "minihost/suites/SuiteTable.h"
+
+namespace minihost {
+
+namespace {
+
+CallName register_call(const char* call) {
+    return {kAEGPRegisterSuite, kAEGPRegisterSuiteVersion, call};
+}
+CallName command_call(const char* call) {
+    return {kAEGPCommandSuite, kAEGPCommandSuiteVersion, call};
+}
+CallName utility_call(const char* call) {
+    return {kAEGPUtilitySuite, kAEGPUtilitySuiteVersion, call};
+}
+
+void require_entry(const Host& host) {
+    if (!host.is_entering()) throw Misuse("called outside of the entry function");
+}
+
+A_Err RegisterCommandHook(AEGP_PluginID id, AEGP_HookPriority priority, AEGP_Command command,
+                          AEGP_CommandHook hook, AEGP_CommandRefcon refcon) {
+    return serve(
+        register_call("RegisterCommandHook"),
+        [&](Arguments& it) {
+            it.number("plugin_id", id).number("priority", priority).number("command", command);
+        },
+        [&](Host& host) -> A_Err {
+            require_entry(host);
+            need(hook);
+            host.hooks().command.push_back({command, hook, refcon});
+            return 0;
+        });
+}
+
+A_Err RegisterUpdateMenuHook(AEGP_PluginID id, AEGP_UpdateMenuHook hook,
+                             AEGP_UpdateMenuRefcon refcon) {
+    return serve(
+        register_call("RegisterUpdateMenuHook"), [&](Arguments& it) { it.number("plugin_id", id); },
+        [&](Host& host) -> A_Err {
+            require_entry(host);
+            need(hook);
+            host.hooks().update_menu.push_back({hook, refcon});
+            return 0;
+        });
+}
+
+A_Err RegisterDeathHook(AEGP_PluginID id, AEGP_DeathHook hook, AEGP_DeathRefcon refcon) {
+    return serve(
+        register_call("RegisterDeathHook"), [&](Arguments& it) { it.number("plugin_id", id); },
+        [&](Host& host) -> A_Err {
+            require_entry(host);
+            need(hook);
+            host.hooks().death.push_back({hook, refcon});
+            return 0;
+        });
+}
+
+A_Err RegisterIdleHook(AEGP_PluginID id, AEGP_IdleHook hook, AEGP_IdleRefcon refcon) {
+    return serve(
+        register_call("RegisterIdleHook"), [&](Arguments& it) { it.number("plugin_id", id); },
+        [&](Host& host) -> A_Err {
+            require_entry(host);
+            need(hook);
+            host.hooks().idle.push_back({hook, refcon});
+            return 0;
+        });
+}
+
+A_Err GetUniqueCommand(AEGP_Command* command) {
+    return serve(
+        command_call("GetUniqueCommand"), [](Arguments&) {},
+        [&](Host& host) -> A_Err {
+            need(command) = host.new_command();
+            return 0;
+        });
+}
+
+A_Err InsertMenuCommand(AEGP_Command command, const A_char* name, AEGP_MenuID menu,
+                        A_long after_item) {
+    return serve(
+        command_call("InsertMenuCommand"),
+        [&](Arguments& it) {
+            it.number("command", command).text("name", name).number("menu", menu);
+            it.number("after_item", after_item);
+        },
+        [&](Host& host) -> A_Err {
+            require_entry(host);
+            host.insert_menu_item({command, &need(name), menu});
+            return 0;
+        });
+}
+
+// The functions that change one menu item.
+template <typename Change>
+A_Err change_item(const char* call, AEGP_Command command, const Change& change) {
+    return serve(
+        command_call(call), [&](Arguments& it) { it.number("command", command); },
+        [&](Host& host) -> A_Err {
+            MenuItem* item = host.menu_item(command);
+            if (!item) return bad_argument_error;
+            change(*item);
+            return 0;
+        });
+}
+
+A_Err EnableCommand(AEGP_Command command) {
+    return change_item("EnableCommand", command, [](MenuItem& item) { item.enabled = true; });
+}
+
+A_Err DisableCommand(AEGP_Command command) {
+    return change_item("DisableCommand", command, [](MenuItem& item) { item.enabled = false; });
+}
+
+A_Err CheckMarkMenuCommand(AEGP_Command command, A_Boolean check) {
+    return serve(
+        command_call("CheckMarkMenuCommand"),
+        [&](Arguments& it) { it.number("command", command).flag("check", check); },
+        [&](Host& host) -> A_Err {
+            MenuItem* item = host.menu_item(command);
+            if (!item) return bad_argument_error;
+            item->checked = check;
+            return 0;
+        });
+}
+
+A_Err DoCommand(AEGP_Command command) {
+    return serve(
+        command_call("DoCommand"), [&](Arguments& it) { it.number("command", command); },
+        [&](Host& host) { return host.choose(command); });
+}
+
+A_Err ReportInfo(AEGP_PluginID id, const A_char* text) {
+    return serve(
+        utility_call("ReportInfo"),
+        [&](Arguments& it) { it.number("plugin_id", id).text("text", text); },
+        [&](Host& host) -> A_Err {
+            host.alert(&need(text));
+            return 0;
+        });
+}
+
+A_Err StartUndoGroup(const A_char* name) {
+    return serve(
+        utility_call("StartUndoGroup"), [&](Arguments& it) { it.text("name", name); },
+        [&](Host& host) -> A_Err {
+            host.document.begin_group(&need(name));
+            return 0;
+        });
+}
+
+A_Err EndUndoGroup() {
+    return serve(
+        utility_call("EndUndoGroup"), [](Arguments&) {},
+        [&](Host& host) -> A_Err {
+            if (!host.document.end_group()) throw Misuse("no undo group is open");
+            return 0;
+        });
+}
+
+constexpr AEGP_RegisterSuite6 registering{RegisterCommandHook, RegisterUpdateMenuHook,
+                                          RegisterDeathHook, RegisterIdleHook};
+constexpr AEGP_CommandSuite1 commands{GetUniqueCommand, InsertMenuCommand,    EnableCommand,
+                                      DisableCommand,   CheckMarkMenuCommand, DoCommand};
+constexpr AEGP_UtilitySuite3 utilities{ReportInfo, StartUndoGroup, EndUndoGroup};
+
+} // namespace
+
+const void* const register_suite = &registering;
+const void* const command_suite = &commands;
+const void* const utility_suite = &utilities;
+
+} // namespace minihost

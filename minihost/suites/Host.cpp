@@ -1,0 +1,205 @@
+#include "minihost/suites/Host.h"
+
+#include "minihost/suites/SuiteTable.h"
+
+#include <utility>
+
+namespace minihost {
+
+namespace {
+
+thread_local Host* current_host = nullptr;
+
+// A command may choose commands; one that goes on choosing itself must end.
+constexpr int greatest_depth_of_commands = 16;
+
+constexpr A_long major_version = 1, minor_version = 0;
+constexpr AEGP_PluginID plugin_id = 1;
+constexpr A_long usual_sleep = 30; // 60ths of a second
+
+std::string times(std::size_t count, const std::string& what) {
+    return count == 1 ? "a " + what : std::to_string(count) + " " + what + "s";
+}
+
+} // namespace
+
+// Makes a host the current one as long as it is inside the plug-in.
+class Host::Visit {
+  public:
+    explicit Visit(Host& host) : _before(std::exchange(current_host, &host)) {}
+    ~Visit() { current_host = _before; }
+    Visit(const Visit&) = delete;
+    Visit& operator=(const Visit&) = delete;
+
+  private:
+    Host* _before;
+};
+
+Host::Host(Scene scene, HostOptions options, Reporter report, PanelMaker make_panel)
+    : document(std::move(scene)),
+      handles(document.scene()),
+      failures(options.failures),
+      panels(std::move(make_panel)),
+      _options(std::move(options)),
+      _report(std::move(report)) {}
+
+Host* Host::current() {
+    return current_host;
+}
+
+template <typename Body>
+A_Err Host::call_hook(const char* name, const Body& body) {
+    const Visit visit(*this);
+    A_Err error = host_error;
+    try {
+        error = body();
+        if (error == 0) return 0;
+        report(std::string("the plug-in's ") + name + " returned error " + std::to_string(error));
+    } catch (...) {
+        report(std::string("the plug-in's ") + name + " threw an exception");
+    }
+    ++_hook_errors;
+    return error;
+}
+
+A_Err Host::enter(AEGP_PluginEntryProc entry) {
+    _entering = true;
+    const A_Err error = call_hook("entry function", [&] {
+        // The interface wants it without const; the table is never written to.
+        return entry(const_cast<SPBasicSuite*>(basic_suite()), major_version, minor_version,
+                     plugin_id, &_global_refcon);
+    });
+    _entering = false;
+    return error;
+}
+
+A_Err Host::update_menu() {
+    for (MenuItem& item : _menu) item.enabled = item.checked = false;
+    A_Err first = 0;
+    for (const UpdateMenuHook& it : _hooks.update_menu) {
+        const A_Err error =
+            call_hook("menu hook", [&] { return it.hook(_global_refcon, it.refcon, 0); });
+        if (first == 0) first = error;
+    }
+    return first;
+}
+
+A_Err Host::choose(AEGP_Command command) {
+    if (_depth_of_commands >= greatest_depth_of_commands) return host_error;
+    ++_depth_of_commands;
+    A_Boolean handled = 0;
+    A_Err first = 0;
+    for (const CommandHook& it : _hooks.command) {
+        if (it.command != command && it.command != AEGP_Command_ALL) continue;
+        const A_Err error = call_hook("command hook", [&] {
+            A_Boolean handles_it = handled;
+            const A_Err result =
+                it.hook(_global_refcon, it.refcon, command, AEGP_HP_BeforeAE, handled, &handles_it);
+            handled = handled || handles_it;
+            return result;
+        });
+        if (first == 0) first = error;
+    }
+    --_depth_of_commands;
+    if (first != 0 || handled) return first;
+    if (command == AEGP_Command_DUPLICATE) {
+        document.duplicate_selection();
+        return 0;
+    }
+    return menu_item(command) ? 0 : bad_argument_error;
+}
+
+A_Err Host::idle() {
+    A_Err first = 0;
+    for (const IdleHook& it : _hooks.idle) {
+        A_long sleep = usual_sleep;
+        const A_Err error =
+            call_hook("idle hook", [&] { return it.hook(_global_refcon, it.refcon, &sleep); });
+        if (first == 0) first = error;
+    }
+    return first;
+}
+
+A_Err Host::make_panel(AEGP_CreatePanelHook hook, AEGP_CreatePanelRefcon refcon, PanelView& view,
+                       AEGP_PanelH panel, AEGP_PanelFunctions1& functions, AEGP_PanelRefcon& out) {
+    return call_hook("panel hook", [&] {
+        return hook(_global_refcon, refcon, view.container(), panel, &functions, &out);
+    });
+}
+
+A_Err Host::ask_snap_sizes(const AEGP_PanelFunctions1& functions, AEGP_PanelRefcon refcon,
+                           A_LPoint* sizes, A_long& count) {
+    if (!functions.GetSnapSizes) return 0;
+    return call_hook("panel's size function",
+                     [&] { return functions.GetSnapSizes(refcon, sizes, &count); });
+}
+
+void Host::visit(const std::function<void()>& body) {
+    const Visit visit(*this);
+    body();
+}
+
+std::vector<std::string> Host::holdings() const {
+    std::vector<std::string> lines;
+    for (const auto& [suite, count] : _acquired)
+        if (count > 0)
+            lines.push_back(suite.first + " " + std::to_string(suite.second) + ", acquired " +
+                            std::to_string(count) + (count == 1 ? " time" : " times") +
+                            " more than released");
+    if (const std::size_t count = handles.open_streams().size())
+        lines.push_back(times(count, "stream") + " not disposed of");
+    if (const std::size_t count = handles.open_collections().size())
+        lines.push_back(times(count, "collection") + " not disposed of");
+    if (document.open_groups() > 0)
+        lines.push_back(times(static_cast<std::size_t>(document.open_groups()), "undo group") +
+                        " left open");
+    return lines;
+}
+
+std::vector<std::string> Host::bury() {
+    for (const DeathHook& it : _hooks.death)
+        call_hook("death hook", [&] { return it.hook(_global_refcon, it.refcon); });
+    panels.close(*this);
+    const std::vector<std::string> held = holdings();
+    for (const std::string& line : held) report("the plug-in still holds " + line);
+    while (document.end_group()) {
+    }
+    _hooks = {};
+    _menu.clear();
+    _acquired.clear();
+    panels.forget();
+    handles.close_all();
+    return held;
+}
+
+void Host::tell_misuse(const CallName& call, const std::string& what) {
+    ++_misuses;
+    report(std::string("misuse by the plug-in: ") + call.suite + "." + call.call + ": " + what);
+}
+
+void Host::alert(const std::string& text) {
+    _alerts.push_back(text);
+    report("alert: " + text);
+}
+
+MenuItem* Host::menu_item(AEGP_Command command) {
+    for (MenuItem& item : _menu)
+        if (item.command == command) return &item;
+    return nullptr;
+}
+
+const void* Host::acquire(const char* name, A_long version) {
+    const Suite* suite = find_suite(name, version);
+    if (!suite || (suite->without && _options.without.contains(suite->without))) return nullptr;
+    ++_acquired[{name, version}];
+    return suite->functions;
+}
+
+bool Host::release(const char* name, A_long version) {
+    const auto found = _acquired.find({name, version});
+    if (found == _acquired.end() || found->second == 0) return false;
+    --found->second;
+    return true;
+}
+
+} // namespace minihost

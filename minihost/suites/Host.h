@@ -1,0 +1,146 @@
+// The host: a scene that is edited, and everything that a plug-in is served over it. One object;
+// the suites' functions, which have no context of their own, find it while it calls into the
+// plug-in.
+
+#pragma once
+
+#include "minihost/model/Document.h"
+#include "minihost/suites/CallLog.h"
+#include "minihost/suites/Colors.h"
+#include "minihost/suites/FailurePlan.h"
+#include "minihost/suites/Handles.h"
+#include "minihost/suites/Panels.h"
+#include "sdk/Host.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace minihost {
+
+// What a call that makes no sense gets: misuse_error is for handles and pointers that are none.
+constexpr A_Err misuse_error = 3;
+constexpr A_Err bad_argument_error = 5; // an index out of range, a stream that is not there
+constexpr A_Err host_error = 1;         // the host itself could not
+
+struct HostOptions {
+    std::set<std::string> without; // words of --without
+    std::vector<Failure> failures;
+    Palette palette = Palette::Dark;
+};
+
+// The plug-in's command in a menu. Enabling and checking last until the next menu update.
+struct MenuItem {
+    AEGP_Command command;
+    std::string text;
+    AEGP_MenuID menu;
+    bool enabled = false;
+    bool checked = false;
+};
+
+// What a plug-in has registered.
+struct CommandHook {
+    AEGP_Command command; // AEGP_Command_ALL for all
+    AEGP_CommandHook hook;
+    AEGP_CommandRefcon refcon;
+};
+struct UpdateMenuHook {
+    AEGP_UpdateMenuHook hook;
+    AEGP_UpdateMenuRefcon refcon;
+};
+struct DeathHook {
+    AEGP_DeathHook hook;
+    AEGP_DeathRefcon refcon;
+};
+struct IdleHook {
+    AEGP_IdleHook hook;
+    AEGP_IdleRefcon refcon;
+};
+struct Hooks {
+    std::vector<CommandHook> command;
+    std::vector<UpdateMenuHook> update_menu;
+    std::vector<DeathHook> death;
+    std::vector<IdleHook> idle;
+};
+
+class Host {
+  public:
+    // Gets messages for the user, a line each without its end.
+    using Reporter = std::function<void(const std::string&)>;
+
+    Host(Scene scene, HostOptions options, Reporter report, PanelMaker make_panel);
+    Host(const Host&) = delete;
+    Host& operator=(const Host&) = delete;
+
+    Document document;
+    Handles handles;
+    CallLog log;
+    FailurePlan failures;
+    Panels panels;
+
+    const HostOptions& options() const { return _options; }
+    const SPBasicSuite* basic_suite() const;
+    const std::vector<MenuItem>& menu() const { return _menu; }
+    // The texts that the plug-in has reported so far.
+    const std::vector<std::string>& alerts() const { return _alerts; }
+    // How many hooks have returned an error so far, or thrown.
+    int hook_errors() const { return _hook_errors; }
+    // How often the plug-in has misused the host so far.
+    int misuses() const { return _misuses; }
+
+    // What the host does with a plug-in that is loaded. Each reports a hook that fails; the first
+    // failing hook's code is the result.
+    A_Err enter(AEGP_PluginEntryProc entry);
+    A_Err update_menu();
+    // As if the user had chosen a command: the plug-in's hooks first, then the host itself.
+    A_Err choose(AEGP_Command command);
+    A_Err idle();
+    // The plug-in's last call. After it nothing of the plug-in is called any more; what it still
+    // holds is reported, and given as lines.
+    std::vector<std::string> bury();
+    // Runs something that may enter the plug-in by another way (an event, a drawing).
+    void visit(const std::function<void()>& body);
+
+    // For the suites' functions. Null outside the calls above.
+    static Host* current();
+    void report(const std::string& line) { _report(line); }
+    void tell_misuse(const CallName& call, const std::string& what);
+    void alert(const std::string& text);
+    bool is_entering() const { return _entering; }
+    Hooks& hooks() { return _hooks; }
+    AEGP_Command new_command() { return _next_command++; }
+    // A panel's hook fills its view.
+    A_Err make_panel(AEGP_CreatePanelHook hook, AEGP_CreatePanelRefcon refcon, PanelView& view,
+                     AEGP_PanelH panel, AEGP_PanelFunctions1& functions, AEGP_PanelRefcon& out);
+    // Up to 5 sizes; none when the panel has no such function.
+    A_Err ask_snap_sizes(const AEGP_PanelFunctions1& functions, AEGP_PanelRefcon refcon,
+                         A_LPoint* sizes, A_long& count);
+    void insert_menu_item(MenuItem item) { _menu.push_back(std::move(item)); }
+    MenuItem* menu_item(AEGP_Command command);
+    const void* acquire(const char* name, A_long version);
+    bool release(const char* name, A_long version);
+
+  private:
+    class Visit;
+    template <typename Body>
+    A_Err call_hook(const char* name, const Body& body);
+    std::vector<std::string> holdings() const;
+
+    HostOptions _options;
+    Reporter _report;
+    Hooks _hooks;
+    std::vector<MenuItem> _menu;
+    std::vector<std::string> _alerts;
+    std::map<std::pair<std::string, int>, int> _acquired; // by name and version
+    AEGP_GlobalRefcon _global_refcon = nullptr;
+    AEGP_Command _next_command = 5001;
+    bool _entering = false;
+    int _depth_of_commands = 0;
+    int _hook_errors = 0;
+    int _misuses = 0;
+};
+
+} // namespace minihost

@@ -1,0 +1,175 @@
+// Collections, items, and the composition with its selection.
+
+#include "minihost/suites/Serve.h"
+#include "minihost/suites/SuiteTable.h"
+
+namespace minihost {
+
+namespace {
+
+CallName collection_call(const char* call) {
+    return {kAEGPCollectionSuite, kAEGPCollectionSuiteVersion, call};
+}
+CallName item_call(const char* call) {
+    return {kAEGPItemSuite, kAEGPItemSuiteVersion, call};
+}
+CallName comp_call(const char* call) {
+    return {kAEGPCompSuite, kAEGPCompSuiteVersion, call};
+}
+
+A_Err NewCollection(AEGP_PluginID id, AEGP_CollectionH* collection) {
+    return serve(
+        collection_call("NewCollection"), [&](Arguments& it) { it.number("plugin_id", id); },
+        [&](Host& host) -> A_Err {
+            need(collection) = host.handles.open_collection({});
+            return 0;
+        });
+}
+
+A_Err DisposeCollection(AEGP_CollectionH collection) {
+    return serve(
+        collection_call("DisposeCollection"), [&](Arguments& it) { it.collection(collection); },
+        [&](Host& host) -> A_Err {
+            host.handles.close(collection);
+            return 0;
+        });
+}
+
+A_Err GetCollectionNumItems(AEGP_CollectionH collection, A_u_long* count) {
+    return serve(
+        collection_call("GetCollectionNumItems"), [&](Arguments& it) { it.collection(collection); },
+        [&](Host& host) -> A_Err {
+            A_u_long& result = need(count);
+            result = static_cast<A_u_long>(host.handles.collection(collection).size());
+            return 0;
+        });
+}
+
+A_Err GetCollectionItemByIndex(AEGP_CollectionH collection, A_u_long index,
+                               AEGP_CollectionItem* item) {
+    return serve(
+        collection_call("GetCollectionItemByIndex"),
+        [&](Arguments& it) { it.collection(collection).number("index", index); },
+        [&](Host& host) -> A_Err {
+            const Selection& items = host.handles.collection(collection);
+            AEGP_CollectionItem& result = need(item);
+            if (index >= items.size()) return bad_argument_error;
+            const LayerId layer = items[index];
+            result = layer ? AEGP_CollectionItem{AEGP_CollectionItemType_LAYER,
+                                                 host.handles.of_layer(layer)}
+                           : AEGP_CollectionItem{AEGP_CollectionItemType_NONE, nullptr};
+            return 0;
+        });
+}
+
+A_Err CollectionPushBack(AEGP_CollectionH collection, const AEGP_CollectionItem* item) {
+    return serve(
+        collection_call("CollectionPushBack"),
+        [&](Arguments& it) {
+            it.collection(collection);
+            if (item && item->type == AEGP_CollectionItemType_LAYER) it.layer(item->layerH);
+        },
+        [&](Host& host) -> A_Err {
+            Selection& items = host.handles.collection(collection);
+            const bool is_layer = need(item).type == AEGP_CollectionItemType_LAYER;
+            items.push_back(is_layer ? host.handles.layer(item->layerH) : 0);
+            return 0;
+        });
+}
+
+A_Err GetActiveItem(AEGP_ItemH* item) {
+    return serve(
+        item_call("GetActiveItem"), [](Arguments&) {},
+        [&](Host& host) -> A_Err {
+            AEGP_ItemH& result = need(item);
+            switch (host.document.scene().active) {
+            case ActiveItem::Composition:
+                result = host.handles.of_item({ItemRef::Kind::Composition});
+                break;
+            case ActiveItem::Footage:
+                result = host.handles.of_item({ItemRef::Kind::Footage});
+                break;
+            case ActiveItem::None:
+                result = nullptr;
+                break;
+            }
+            return 0;
+        });
+}
+
+A_Err GetItemType(AEGP_ItemH item, AEGP_ItemType* type) {
+    return serve(
+        item_call("GetItemType"), [&](Arguments& it) { it.item(item); },
+        [&](Host& host) -> A_Err {
+            const bool is_comp = host.handles.item(item).kind == ItemRef::Kind::Composition;
+            need(type) = is_comp ? AEGP_ItemType_COMP : AEGP_ItemType_FOOTAGE;
+            return 0;
+        });
+}
+
+A_Err GetItemDimensions(AEGP_ItemH item, A_long* width, A_long* height) {
+    return serve(
+        item_call("GetItemDimensions"), [&](Arguments& it) { it.item(item); },
+        [&](Host& host) -> A_Err {
+            const Scene& scene = host.document.scene();
+            const ItemRef ref = host.handles.item(item);
+            // The footage item that may be active is of the composition's size.
+            Size size{scene.composition.width, scene.composition.height};
+            if (ref.kind == ItemRef::Kind::Source) size = scene.find(ref.layer)->size;
+            A_long &wide = need(width), &high = need(height);
+            wide = size.width;
+            high = size.height;
+            return 0;
+        });
+}
+
+A_Err GetCompFromItem(AEGP_ItemH item, AEGP_CompH* comp) {
+    return serve(
+        comp_call("GetCompFromItem"), [&](Arguments& it) { it.item(item); },
+        [&](Host& host) -> A_Err {
+            const bool is_comp = host.handles.item(item).kind == ItemRef::Kind::Composition;
+            need(comp) = is_comp ? host.handles.of_composition() : nullptr;
+            return 0;
+        });
+}
+
+A_Err GetNewCollectionFromCompSelection(AEGP_PluginID id, AEGP_CompH comp,
+                                        AEGP_CollectionH* collection) {
+    return serve(
+        comp_call("GetNewCollectionFromCompSelection"),
+        [&](Arguments& it) { it.number("plugin_id", id).composition(comp); },
+        [&](Host& host) -> A_Err {
+            host.handles.composition(comp);
+            AEGP_CollectionH& result = need(collection);
+            result = host.handles.open_collection(host.document.scene().selection());
+            return 0;
+        });
+}
+
+A_Err SetSelection(AEGP_CompH comp, AEGP_CollectionH collection) {
+    return serve(
+        comp_call("SetSelection"),
+        [&](Arguments& it) { it.composition(comp).collection(collection); },
+        [&](Host& host) -> A_Err {
+            host.handles.composition(comp);
+            const Selection& items = host.handles.collection(collection);
+            for (const LayerId layer : items)
+                if (layer && !host.document.scene().find(layer))
+                    throw Misuse("a collection with a layer that is no more");
+            host.document.select(items);
+            return 0;
+        });
+}
+
+constexpr AEGP_CollectionSuite1 collections{NewCollection, DisposeCollection, GetCollectionNumItems,
+                                            GetCollectionItemByIndex, CollectionPushBack};
+constexpr AEGP_ItemSuite3 items{GetActiveItem, GetItemType, GetItemDimensions};
+constexpr AEGP_CompSuite4 comps{GetCompFromItem, GetNewCollectionFromCompSelection, SetSelection};
+
+} // namespace
+
+const void* const collection_suite = &collections;
+const void* const item_suite = &items;
+const void* const comp_suite = &comps;
+
+} // namespace minihost

@@ -1,0 +1,66 @@
+// Panels, and the interface colours.
+
+#include "minihost/suites/Serve.h"
+#include "minihost/suites/SuiteTable.h"
+
+namespace minihost {
+
+namespace {
+
+CallName panel_call(const char* call) {
+    return {kAEGPPanelSuite, kAEGPPanelSuiteVersion, call};
+}
+
+A_Err RegisterCreatePanelHook(AEGP_PluginID id, const A_char* match_name, AEGP_CreatePanelHook hook,
+                              AEGP_CreatePanelRefcon refcon, A_Boolean paint_background) {
+    return serve(
+        panel_call("RegisterCreatePanelHook"),
+        [&](Arguments& it) {
+            it.number("plugin_id", id).text("match_name", match_name);
+            it.flag("paint_background", paint_background);
+        },
+        [&](Host& host) -> A_Err {
+            if (!host.is_entering()) throw Misuse("called outside of the entry function");
+            need(hook);
+            host.panels.register_hook(&need(match_name), hook, refcon);
+            return 0;
+        });
+}
+
+A_Err ToggleVisibility(const A_char* match_name) {
+    return serve(
+        panel_call("ToggleVisibility"), [&](Arguments& it) { it.text("match_name", match_name); },
+        [&](Host& host) -> A_Err {
+            if (!host.panels.is_registered(&need(match_name))) return bad_argument_error;
+            return host.panels.toggle(host, match_name);
+        });
+}
+
+A_Err SetTitle(AEGP_PanelH panel, const A_char* title) {
+    return serve(
+        panel_call("SetTitle"), [&](Arguments& it) { it.panel(panel).text("title", title); },
+        [&](Host& host) -> A_Err {
+            const std::uint64_t number = host.handles.panel(panel);
+            return host.panels.set_title(number, &need(title)) ? 0 : bad_argument_error;
+        });
+}
+
+A_Err AppGetColor(PF_App_ColorType selector, PF_App_Color* color) {
+    return serve(
+        {kPFAppSuite, kPFAppSuiteVersion, "PF_AppGetColor"},
+        [&](Arguments& it) { it.number("selector", selector); },
+        [&](Host& host) -> A_Err {
+            need(color) = interface_color(host.options().palette, selector);
+            return 0;
+        });
+}
+
+constexpr AEGP_PanelSuite1 panels{RegisterCreatePanelHook, ToggleVisibility, SetTitle};
+constexpr PFAppSuite6 app{nullptr, AppGetColor};
+
+} // namespace
+
+const void* const panel_suite = &panels;
+const void* const app_suite = &app;
+
+} // namespace minihost

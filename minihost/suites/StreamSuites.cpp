@@ -1,0 +1,118 @@
+// The streams of a layer: their values and keys.
+
+#include "minihost/suites/Serve.h"
+#include "minihost/suites/SuiteTable.h"
+#include "minihost/suites/Times.h"
+
+#include <cmath>
+
+namespace minihost {
+
+namespace {
+
+CallName stream_call(const char* call) {
+    return {kAEGPStreamSuite, kAEGPStreamSuiteVersion, call};
+}
+
+std::optional<Stream> stream_of(const Layer& layer, AEGP_LayerStream number) {
+    const auto stream = stream_of_number(number);
+    return stream && layer.has_stream(*stream) ? stream : std::nullopt;
+}
+
+A_Err GetNewLayerStream(AEGP_PluginID id, AEGP_LayerH handle, AEGP_LayerStream number,
+                        AEGP_StreamRefH* result) {
+    return serve(
+        stream_call("GetNewLayerStream"),
+        [&](Arguments& it) { it.number("plugin_id", id).layer(handle).number("stream", number); },
+        [&](Host& host) -> A_Err {
+            const LayerId layer = host.handles.layer(handle);
+            AEGP_StreamRefH& reference = need(result);
+            const auto stream = stream_of(*host.document.scene().find(layer), number);
+            if (!stream) return bad_argument_error;
+            reference = host.handles.open_stream({layer, *stream});
+            return 0;
+        });
+}
+
+A_Err DisposeStream(AEGP_StreamRefH stream) {
+    return serve(
+        stream_call("DisposeStream"), [&](Arguments& it) { it.stream(stream); },
+        [&](Host& host) -> A_Err {
+            host.handles.close(stream);
+            return 0;
+        });
+}
+
+A_Err SetStreamValue(AEGP_PluginID id, AEGP_StreamRefH handle, AEGP_StreamValue* value) {
+    return serve(
+        stream_call("SetStreamValue"),
+        [&](Arguments& it) {
+            it.number("plugin_id", id).stream(handle);
+            it.value(handle, value ? &value->val : nullptr);
+        },
+        [&](Host& host) -> A_Err {
+            const StreamRef ref = host.handles.stream(handle);
+            const AEGP_StreamVal& given = need(value).val;
+            const Vec3 numbers = dimensions(ref.stream) == 1
+                                     ? Vec3{given.one_d, 0, 0}
+                                     : Vec3{given.three_d.x, given.three_d.y, given.three_d.z};
+            // No scene could hold it.
+            for (const double number : numbers)
+                if (!std::isfinite(number)) return bad_argument_error;
+            const double now = host.document.scene().composition.time;
+            host.document.set_value(ref.layer, ref.stream, numbers, to_ticks(now));
+            return 0;
+        });
+}
+
+A_Err GetLayerStreamValue(AEGP_LayerH handle, AEGP_LayerStream number, AEGP_LTimeMode mode,
+                          const A_Time* time, A_Boolean pre_expression, AEGP_StreamVal* value) {
+    return serve(
+        stream_call("GetLayerStreamValue"),
+        [&](Arguments& it) {
+            it.layer(handle).number("stream", number).number("time_mode", mode);
+            it.time("time", time).flag("pre_expression", pre_expression);
+        },
+        [&](Host& host) -> A_Err {
+            const Layer& layer = *host.document.scene().find(host.handles.layer(handle));
+            AEGP_StreamVal& result = need(value);
+            const double seconds = seconds_of(need(time), mode, layer);
+            const auto stream = stream_of(layer, number);
+            if (!stream || !is_time_mode(mode)) return bad_argument_error;
+            const Vec3 numbers = value_of(layer, *stream, seconds);
+            if (dimensions(*stream) == 1)
+                result.one_d = numbers[0];
+            else
+                result.three_d = {numbers[0], numbers[1], numbers[2]};
+            return 0;
+        });
+}
+
+A_Err InsertKeyframe(AEGP_StreamRefH handle, AEGP_LTimeMode mode, const A_Time* time,
+                     AEGP_KeyframeIndex* index) {
+    return serve(
+        {kAEGPKeyframeSuite, kAEGPKeyframeSuiteVersion, "InsertKeyframe"},
+        [&](Arguments& it) { it.stream(handle).number("time_mode", mode).time("time", time); },
+        [&](Host& host) -> A_Err {
+            const StreamRef ref = host.handles.stream(handle);
+            const Layer& layer = *host.document.scene().find(ref.layer);
+            AEGP_KeyframeIndex& result = need(index);
+            const double seconds = seconds_of(need(time), mode, layer);
+            if (!layer.keys_of(ref.stream) || !is_time_mode(mode)) return bad_argument_error;
+            if (std::fabs(seconds) > max_seconds) return bad_argument_error;
+            result = static_cast<AEGP_KeyframeIndex>(
+                host.document.insert_key(ref.layer, ref.stream, to_ticks(seconds)));
+            return 0;
+        });
+}
+
+constexpr AEGP_StreamSuite4 streams{GetNewLayerStream, DisposeStream, SetStreamValue,
+                                    GetLayerStreamValue};
+constexpr AEGP_KeyframeSuite1 keyframes{InsertKeyframe};
+
+} // namespace
+
+const void* const stream_suite = &streams;
+const void* const keyframe_suite = &keyframes;
+
+} // namespace minihost

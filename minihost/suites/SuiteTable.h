@@ -1,0 +1,47 @@
+// The suites that the host can serve, as one table: their names and versions, the words by which
+// they can be left out, their calls.
+
+#pragma once
+
+#include <initializer_list>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace minihost {
+
+struct Suite {
+    const char* name;
+    int version;
+    const char* without; // the word of --without that leaves it out; null when nothing does
+    const void* functions;
+    std::initializer_list<const char*> calls; // without "AEGP_"
+};
+
+std::span<const Suite> suites();
+
+// Null when there is none.
+const Suite* find_suite(std::string_view name, int version);
+
+// Whether "SUITE.CALL" is something that a plug-in can call.
+bool is_call_of_host(std::string_view suite_and_call);
+
+// Whether it is a word of --without.
+bool is_missing_part(std::string_view word);
+
+// The function tables, each made where its functions are.
+extern const void* const register_suite;
+extern const void* const command_suite;
+extern const void* const utility_suite;
+extern const void* const collection_suite;
+extern const void* const item_suite;
+extern const void* const comp_suite;
+extern const void* const layer_suite_5;
+extern const void* const layer_suite_8;
+extern const void* const layer_suite_10;
+extern const void* const stream_suite;
+extern const void* const keyframe_suite;
+extern const void* const panel_suite;
+extern const void* const app_suite;
+
+} // namespace minihost
