@@ -13,33 +13,7 @@ namespace minihost {
 
 namespace {
 
-class Descriptor {
-  public:
-    explicit Descriptor(int number) : _number(number) {}
-    ~Descriptor() {
-        if (_number >= 0) ::close(_number);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    int get() const { return _number; }
-    // False when the system could not bring everything home.
-    bool close() { return ::close(std::exchange(_number, -1)) == 0; }
-
-  private:
-    int _number;
-};
-
-// Removes a file unless it has become the real one.
-struct Temporary {
-    std::string path;
-    ~Temporary() {
-        if (!path.empty()) ::unlink(path.c_str());
-    }
-};
-
-[[noreturn]] void fail(const std::string& path) {
-    throw OutputError(path, std::string("cannot be written: ") + std::strerror(errno));
-}
+constexpr std::size_t most_waiting = 1 << 16;
 
 bool write_all(int file, std::string_view content) {
     while (!content.empty()) {
@@ -64,33 +38,60 @@ std::string resolved(const std::string& path) {
 
 } // namespace
 
-void write_file(const std::string& path, std::string_view content) {
+void OutputFile::fail() const {
+    throw OutputError(_path, std::string("cannot be written: ") + std::strerror(errno));
+}
+
+OutputFile::OutputFile(const std::string& path) : _path(path) {
     struct stat old {};
     const bool exists = ::stat(path.c_str(), &old) == 0;
     if (exists && S_ISDIR(old.st_mode)) {
         errno = EISDIR;
-        fail(path);
+        fail();
     }
     if (exists && !S_ISREG(old.st_mode)) {
-        Descriptor file(::open(path.c_str(), O_WRONLY | O_CLOEXEC));
-        if (file.get() < 0 || !write_all(file.get(), content)) fail(path);
+        _file = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
+        if (_file < 0) fail();
         return;
     }
     // Replacing a file asks only for a right on its folder: one that is not to be written stays.
-    if (exists && ::access(path.c_str(), W_OK) != 0) fail(path);
-    const std::string target = exists ? resolved(path) : path;
-    Temporary temporary{target + ".XXXXXX"};
-    Descriptor file(::mkostemp(temporary.path.data(), O_CLOEXEC));
-    if (file.get() < 0) {
-        temporary.path.clear();
-        fail(path);
-    }
-    const mode_t mode = exists ? old.st_mode & 07777 : mode_for_new_files();
-    if (!write_all(file.get(), content) || ::fchmod(file.get(), mode) != 0 ||
-        ::fsync(file.get()) != 0 || !file.close() ||
-        ::rename(temporary.path.c_str(), target.c_str()) != 0)
-        fail(path);
-    temporary.path.clear();
+    if (exists && ::access(path.c_str(), W_OK) != 0) fail();
+    _target = exists ? resolved(path) : path;
+    _mode = exists ? old.st_mode & 07777 : mode_for_new_files();
+    _temporary = _target + ".XXXXXX";
+    _file = ::mkostemp(_temporary.data(), O_CLOEXEC);
+    if (_file < 0) fail(); // the destructor does not run: there is nothing to remove yet
+}
+
+OutputFile::~OutputFile() {
+    if (_file >= 0) ::close(_file);
+    if (!_temporary.empty()) ::unlink(_temporary.c_str());
+}
+
+void OutputFile::write(std::string_view content) {
+    _waiting += content;
+    if (_waiting.size() >= most_waiting) flush();
+}
+
+void OutputFile::flush() {
+    if (!write_all(_file, _waiting)) fail();
+    _waiting.clear();
+}
+
+void OutputFile::commit() {
+    flush();
+    if (_temporary.empty()) return;
+    if (::fchmod(_file, _mode) != 0 || ::fsync(_file) != 0 ||
+        ::close(std::exchange(_file, -1)) != 0 ||
+        ::rename(_temporary.c_str(), _target.c_str()) != 0)
+        fail();
+    _temporary.clear();
+}
+
+void write_file(const std::string& path, std::string_view content) {
+    OutputFile file(path);
+    file.write(content);
+    file.commit();
 }
 
 } // namespace minihost

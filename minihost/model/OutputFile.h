@@ -9,9 +9,33 @@
 
 namespace minihost {
 
-// Puts `content` at `path`: under another name beside it first, then in its place, with the mode of
-// the file that was there. A link is followed; what is no regular file (a pipe, a terminal) is
-// written straight on. Throws OutputError, with the old file untouched and nothing left behind.
+// A file that is being written: under another name beside the real one first, then in its place,
+// with the mode of the file that was there. A link is followed; what is no regular file (a pipe, a
+// terminal) is written straight on. Every function throws OutputError, with the old file untouched;
+// unless commit() is reached nothing is left behind.
+class OutputFile {
+  public:
+    explicit OutputFile(const std::string& path);
+    ~OutputFile();
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
+
+    void write(std::string_view content); // may wait in memory for a while
+    void commit();
+
+  private:
+    [[noreturn]] void fail() const;
+    void flush();
+
+    std::string _path;      // as the messages name it
+    std::string _target;    // where links end
+    std::string _temporary; // empty for what is written straight on
+    std::string _waiting;
+    unsigned _mode = 0;
+    int _file = -1;
+};
+
+// The whole of it at once.
 void write_file(const std::string& path, std::string_view content);
 
 } // namespace minihost

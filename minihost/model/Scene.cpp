@@ -2,6 +2,24 @@
 
 namespace minihost {
 
+std::string_view name_of(ActiveItem item) {
+    switch (item) {
+    case ActiveItem::Composition:
+        return "composition";
+    case ActiveItem::Footage:
+        return "footage";
+    case ActiveItem::None:
+        break;
+    }
+    return "none";
+}
+
+std::optional<ActiveItem> active_item(std::string_view name) {
+    for (const auto item : {ActiveItem::Composition, ActiveItem::Footage, ActiveItem::None})
+        if (name_of(item) == name) return item;
+    return std::nullopt;
+}
+
 std::vector<const Layer*> Scene::layers() const {
     std::vector<const Layer*> all;
     all.reserve(layer_count());

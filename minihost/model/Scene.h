@@ -27,6 +27,10 @@ struct Composition {
 
 enum class ActiveItem { Composition, Footage, None };
 
+// "composition", "footage" or "none", and back; nothing for another word.
+std::string_view name_of(ActiveItem item);
+std::optional<ActiveItem> active_item(std::string_view name);
+
 // What is selected, in the collection's order; 0 stands for an item that is no layer.
 using Selection = std::vector<LayerId>;
 

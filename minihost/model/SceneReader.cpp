@@ -187,6 +187,8 @@ struct SelectionEntry {
 // Gathers the pieces of a file and makes the scene of them at its end.
 class Reader : public SceneJsonSink {
   public:
+    explicit Reader(const ReadProgress& progress) : _progress(progress) {}
+
     void member(const std::string& key) override {
         const FieldPath path{nullptr, key, -1};
         const auto name = std::find(std::begin(_names), std::end(_names), key);
@@ -212,6 +214,7 @@ class Reader : public SceneJsonSink {
         read_fields<LayerDraft>(draft, value, path, layer_fields);
         check_kind(draft, path);
         _drafts.push_back(std::move(draft));
+        if (_progress) _progress(_drafts.size());
     }
 
     void misshapen(const std::string& key) override {
@@ -244,15 +247,11 @@ class Reader : public SceneJsonSink {
     }
 
     void read_active(const JsonValue& value, const FieldPath& path) {
-        const std::string& text = read_text(value, path);
-        if (text == "composition")
-            _scene.active = ActiveItem::Composition;
-        else if (text == "footage")
-            _scene.active = ActiveItem::Footage;
-        else if (text == "none")
-            _scene.active = ActiveItem::None;
-        else
-            refuse(path, "must be \"composition\", \"footage\" or \"none\", not \"" + text + "\"");
+        const auto item = active_item(read_text(value, path));
+        if (!item)
+            refuse(path, "must be \"composition\", \"footage\" or \"none\", not \"" + value.text() +
+                             "\"");
+        _scene.active = *item;
     }
 
     void read_selection(const JsonValue& value, const FieldPath& path) {
@@ -294,6 +293,7 @@ class Reader : public SceneJsonSink {
         _scene.select(std::move(selection));
     }
 
+    const ReadProgress& _progress;
     Scene _scene;
     std::vector<LayerDraft> _drafts;
     std::vector<SelectionEntry> _selection;
@@ -302,9 +302,9 @@ class Reader : public SceneJsonSink {
 
 } // namespace
 
-Scene parse_scene(std::string_view text, const std::string& file) {
+Scene parse_scene(std::string_view text, const std::string& file, const ReadProgress& progress) {
     try {
-        Reader reader;
+        Reader reader(progress);
         parse_scene_json(text, reader);
         return reader.scene();
     } catch (const JsonSyntaxError& error) {
@@ -328,8 +328,8 @@ std::string read_file(const std::string& path) {
     return text;
 }
 
-Scene read_scene(const std::string& path) {
-    return parse_scene(read_file(path), path);
+Scene read_scene(const std::string& path, const ReadProgress& progress) {
+    return parse_scene(read_file(path), path, progress);
 }
 
 } // namespace minihost

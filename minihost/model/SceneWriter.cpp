@@ -80,18 +80,6 @@ void write_selection(JsonWriter& json, const Scene& scene) {
 
 } // namespace
 
-std::string_view name_of(ActiveItem active) {
-    switch (active) {
-    case ActiveItem::Composition:
-        return "composition";
-    case ActiveItem::Footage:
-        return "footage";
-    case ActiveItem::None:
-        break;
-    }
-    return "none";
-}
-
 std::string scene_text(const Document& document) {
     const Scene& scene = document.scene();
     std::string text;

@@ -13,7 +13,4 @@ namespace minihost {
 // that read back exactly.
 std::string scene_text(const Document& document);
 
-// "composition", "footage" or "none".
-std::string_view name_of(ActiveItem active);
-
 } // namespace minihost

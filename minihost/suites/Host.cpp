@@ -18,7 +18,7 @@ constexpr AEGP_PluginID plugin_id = 1;
 constexpr A_long usual_sleep = 30; // 60ths of a second
 
 std::string times(std::size_t count, const std::string& what) {
-    return count == 1 ? "a " + what : std::to_string(count) + " " + what + "s";
+    return count == 1 ? "one " + what : std::to_string(count) + " " + what + "s";
 }
 
 } // namespace

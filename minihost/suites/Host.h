@@ -12,6 +12,7 @@
 #include "minihost/suites/Panels.h"
 #include "sdk/Host.h"
 
+#include <cstddef>
 #include <functional>
 #include <map>
 #include <memory>
@@ -81,6 +82,9 @@ class Host {
     FailurePlan failures;
     Panels panels;
 
+    // Gets the number of calls that the plug-in has made so far, at each.
+    std::function<void(std::size_t)> on_call;
+
     const HostOptions& options() const { return _options; }
     const SPBasicSuite* basic_suite() const;
     const std::vector<MenuItem>& menu() const { return _menu; }
@@ -107,6 +111,10 @@ class Host {
     // For the suites' functions. Null outside the calls above.
     static Host* current();
     void report(const std::string& line) { _report(line); }
+    void count_call() {
+        ++_calls;
+        if (on_call) on_call(_calls);
+    }
     void tell_misuse(const CallName& call, const std::string& what);
     void alert(const std::string& text);
     bool is_entering() const { return _entering; }
@@ -139,6 +147,7 @@ class Host {
     AEGP_Command _next_command = 5001;
     bool _entering = false;
     int _depth_of_commands = 0;
+    std::size_t _calls = 0;
     int _hook_errors = 0;
     int _misuses = 0;
 };

@@ -54,6 +54,7 @@ A_Err serve(const CallName& name, const Describe& describe, const Body& body) no
     Host* host = Host::current();
     if (!host) return misuse_error; // from outside of every callback
     try {
+        host->count_call();
         std::size_t logged = 0;
         if (host->log.is_on()) {
             Arguments arguments(*host);

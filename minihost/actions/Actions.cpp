@@ -1,0 +1,245 @@
+#include "minihost/actions/Actions.h"
+
+#include "minihost/actions/State.h"
+
+#include <charconv>
+#include <cmath>
+#include <ostream>
+
+namespace minihost {
+
+namespace {
+
+// --- What actions share
+
+Document& document(Session& session) {
+    return session.host().document;
+}
+
+// A layer by its name, or by "#" and its index.
+LayerId layer(Session& session, const std::string& word) {
+    const Scene& scene = session.host().document.scene();
+    const std::vector<const Layer*> layers = scene.layers();
+    for (const Layer* it : layers)
+        if (it->name == word) return it->id;
+    std::size_t index = 0;
+    const char* end = word.data() + word.size();
+    if (word.size() > 1 && word[0] == '#') {
+        const auto [stop, error] = std::from_chars(word.data() + 1, end, index);
+        if (error == std::errc() && stop == end && index < layers.size()) return layers[index]->id;
+    }
+    throw ActionError("there is no layer \"" + word + "\"");
+}
+
+template <typename Number>
+Number number(const std::string& word, Number least, Number greatest) {
+    Number value{};
+    const char* end = word.data() + word.size();
+    const auto [stop, error] = std::from_chars(word.data(), end, value);
+    if (error != std::errc() || stop != end || !(value >= least && value <= greatest))
+        throw ActionError("\"" + word + "\" is no number from " + std::to_string(least) + " to " +
+                          std::to_string(greatest));
+    return value;
+}
+
+// The visible dialog, and the id of a control in it.
+struct Target {
+    Dialog dialog;
+    int id;
+};
+Target target(Session& session, const std::string& name) {
+    const Dialog dialog = session.dialog();
+    if (!dialog.visible)
+        throw ActionError("control '" + name + "': the dialog is not " +
+                          (dialog.exists ? "visible" : "there"));
+    const auto id = session.control_names().id_of(name);
+    if (!id) throw ActionError("there is no control '" + name + "'");
+    return {dialog, *id};
+}
+
+void choose_command(Session& session) {
+    session.enter([&] {
+        session.host().update_menu();
+        session.host().choose(session.command().command);
+    });
+}
+
+// --- The dialog
+
+void idle(Session& session, const Words&) {
+    session.enter([&] { session.host().idle(); });
+}
+
+void menu(Session& session, const Words&) {
+    choose_command(session);
+}
+
+void open(Session& session, const Words&) {
+    if (!session.dialog().visible) choose_command(session);
+    idle(session, {});
+}
+
+void close_panel(Session& session, const Words&) {
+    bool closed = false;
+    session.enter([&] { closed = session.host().panels.close(session.host()); });
+    if (!closed) throw ActionError("no panel is open");
+}
+
+void set(Session& session, const Words& words) {
+    const std::size_t equals = words[0].find('=');
+    const std::string name = words[0].substr(0, equals), value = words[0].substr(equals + 1);
+    const auto [dialog, id] = target(session, name);
+    session.enter(
+        [&, id = id, panel = dialog.panel] { session.screen().set(panel, id, name, value); });
+}
+
+void click(Session& session, const Words& words) {
+    const auto [dialog, id] = target(session, words[0]);
+    session.enter(
+        [&, id = id, panel = dialog.panel] { session.screen().click(panel, id, words[0]); });
+}
+
+void answer(Session& session, const Words& words) {
+    session.screen().answer_next_alert(number(words[0], 1, 9));
+}
+
+// --- The composition
+
+void select(Session& session, const Words& words) {
+    Selection selection;
+    for (const std::string& word : words) selection.push_back(layer(session, word));
+    document(session).select(std::move(selection));
+}
+
+void select_all(Session& session, const Words&) {
+    Selection selection;
+    for (const Layer* it : document(session).scene().layers()) selection.push_back(it->id);
+    document(session).select(std::move(selection));
+}
+
+void deselect(Session& session, const Words&) {
+    document(session).select({});
+}
+
+void add_camera(Session& session, const Words& words) {
+    const Composition& composition = document(session).scene().composition;
+    Layer camera;
+    camera.name = words[0];
+    camera.kind = LayerKind::Camera;
+    camera.transform.anchor_point = camera.transform.position = composition.middle();
+    // A lens of 50 mm before a film of 36: the composition just fills the picture.
+    camera.transform.position[2] = -composition.width * 50.0 / 36.0;
+    document(session).add_layer(std::move(camera), 0);
+}
+
+void remove(Session& session, const Words& words) {
+    document(session).remove_layer(layer(session, words[0]));
+}
+
+void rename(Session& session, const Words& words) {
+    document(session).rename_layer(layer(session, words[0]), words[1]);
+}
+
+void move(Session& session, const Words& words) {
+    const LayerId moved = layer(session, words[0]);
+    const std::size_t last = document(session).scene().layer_count() - 1;
+    document(session).move_layer(moved, number<std::size_t>(words[1], 0, last));
+}
+
+void time(Session& session, const Words& words) {
+    document(session).composition().time = number(words[0], -max_seconds, max_seconds);
+}
+
+void active(Session& session, const Words& words) {
+    const auto item = active_item(words[0]);
+    if (!item)
+        throw ActionError("\"" + words[0] + "\" is none of \"composition\", \"footage\", \"none\"");
+    document(session).set_active(*item);
+}
+
+void undo(Session& session, const Words&) {
+    if (!document(session).undo()) throw ActionError("there is nothing to undo");
+}
+
+void redo(Session& session, const Words&) {
+    if (!document(session).redo()) throw ActionError("there is nothing to do again");
+}
+
+// --- What is to be seen of it
+
+void state(Session& session, const Words&) {
+    session.out() << state_line(session) << std::flush;
+}
+
+void save(Session& session, const Words& words) {
+    session.save_scene(words[0]);
+}
+void preview(Session& session, const Words& words) {
+    session.save_preview(words[0]);
+}
+void panel(Session& session, const Words& words) {
+    session.save_panel(words[0]);
+}
+
+constexpr Action table[] = {
+    {"menu", "", "Chooses the plug-in's menu command.", 0, 0, menu},
+    {"idle", "", "Makes one idle call.", 0, 0, idle},
+    {"open", "", "Chooses the command unless the dialog is visible, then makes one idle call.", 0,
+     0, open},
+    {"close-panel", "", "Disposes of the panel; the next \"menu\" creates it anew.", 0, 0,
+     close_panel},
+    {"set", "NAME=VALUE", "Sets a control as a user would.", 1, 1, set},
+    {"click", "NAME", "Clicks a control.", 1, 1, click},
+    {"select", "LAYER...", "Selects layers, by name or #index, and nothing else.", 1, -1, select},
+    {"select-all", "", "Selects every layer, the top one first.", 0, 0, select_all},
+    {"deselect", "", "Selects nothing.", 0, 0, deselect},
+    {"add-camera", "NAME", "Puts a camera on top of the layers.", 1, 1, add_camera},
+    {"remove", "LAYER", "Removes a layer.", 1, 1, remove},
+    {"rename", "LAYER NAME", "Gives a layer another name.", 2, 2, rename},
+    {"move", "LAYER INDEX", "Moves a layer so that it has this index.", 2, 2, move},
+    {"time", "SECONDS", "Sets the composition's current time.", 1, 1, time},
+    {"active", "ITEM", "Sets the active item: composition, footage or none.", 1, 1, active},
+    {"undo", "", "Takes one step back.", 0, 0, undo},
+    {"redo", "", "Takes a step forward again.", 0, 0, redo},
+    {"answer", "N", "Answers the next alert panel with its N-th button.", 1, 1, answer},
+    {"state", "", "Prints menu, dialog, controls, selection and steps as one line of JSON.", 0, 0,
+     state},
+    {"save", "FILE", "Writes the scene.", 1, 1, save},
+    {"preview", "FILE", "Writes a picture of the composition (.png, .svg).", 1, 1, preview},
+    {"panel", "FILE", "Writes a picture of the dialog (.png).", 1, 1, panel},
+};
+
+} // namespace
+
+std::span<const Action> actions() {
+    return table;
+}
+
+Step make_step(const Words& words, const std::string& place) {
+    for (const Action& action : table) {
+        if (words.empty() || words[0] != action.name) continue;
+        const Words arguments(words.begin() + 1, words.end());
+        const int count = static_cast<int>(arguments.size());
+        const bool fits =
+            count >= action.least && (action.greatest < 0 || count <= action.greatest);
+        if (!fits || (action.run == set && arguments[0].find('=') == std::string::npos)) {
+            const std::string usage =
+                action.least == 0 && action.greatest == 0
+                    ? "takes no argument"
+                    : std::string("is used as: ") + action.name + " " + action.arguments;
+            throw UsageError(place + ": \"" + action.name + "\" " + usage);
+        }
+        return {&action, arguments, place};
+    }
+    throw UsageError(place + ": there is no action \"" + (words.empty() ? "" : words[0]) + "\"");
+}
+
+void run_step(Session& session, const Step& step) {
+    try {
+        step.action->run(session, step.arguments);
+    } catch (const std::runtime_error& error) {
+        throw ActionError(step.place + ": " + step.action->name + ": " + error.what());
+    }
+}
+
+} // namespace minihost

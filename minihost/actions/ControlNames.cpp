@@ -1,0 +1,42 @@
+#include "minihost/actions/ControlNames.h"
+
+#include "minihost/model/SceneReader.h"
+
+#include <charconv>
+#include <filesystem>
+#include <nlohmann/json.hpp>
+
+namespace minihost {
+
+ControlNames ControlNames::beside(const std::string& module_path) {
+    const std::string path =
+        std::filesystem::path(module_path).replace_extension("controls.json").string();
+    ControlNames names;
+    std::error_code unreadable;
+    if (!std::filesystem::exists(path, unreadable)) return names;
+    const auto table = nlohmann::json::parse(read_file(path), nullptr, false);
+    if (!table.is_object()) throw SceneError(path, "", "must be an object of names and ids");
+    for (const auto& [name, id] : table.items()) {
+        if (!id.is_number_integer() || id < 1 || id > INT_MAX)
+            throw SceneError(path, name, "must be an id, a whole number from 1");
+        names._ids[name] = id;
+        names._names.emplace(id, name);
+    }
+    return names;
+}
+
+std::optional<int> ControlNames::id_of(const std::string& name) const {
+    if (const auto found = _ids.find(name); found != _ids.end()) return found->second;
+    int id = 0;
+    const char* end = name.data() + name.size();
+    const auto [stop, error] = std::from_chars(name.data(), end, id);
+    if (error != std::errc() || stop != end || id < 1) return std::nullopt;
+    return id;
+}
+
+std::string ControlNames::name_of(int id) const {
+    const auto found = _names.find(id);
+    return found == _names.end() ? "" : found->second;
+}
+
+} // namespace minihost

@@ -1,0 +1,119 @@
+#include "minihost/actions/Run.h"
+
+#include "minihost/actions/ActionFile.h"
+#include "minihost/actions/Progress.h"
+#include "minihost/model/OutputFile.h"
+#include "minihost/model/SceneReader.h"
+
+#include <filesystem>
+#include <iostream>
+#include <iterator>
+#include <optional>
+
+namespace minihost {
+
+namespace {
+
+constexpr int bad_input_status = 2, failure_status = 1;
+
+// The module beside this program.
+std::string usual_plugin() {
+    std::error_code unknown;
+    const auto program = std::filesystem::read_symlink("/proc/self/exe", unknown);
+    return (program.parent_path() / "Tamborel.plugin").string();
+}
+
+std::vector<Step> steps_of(const Request& request) {
+    if (request.verb == Verb::Run) {
+        if (request.actions != "-")
+            return parse_actions(read_file(request.actions), request.actions);
+        const std::string text{std::istreambuf_iterator<char>(std::cin), {}};
+        return parse_actions(text, "standard input");
+    }
+    std::vector<Step> steps{make_step({"open"}, "apply")};
+    for (const std::string& text : request.sets) steps.push_back(make_step({"set", text}, "apply"));
+    steps.push_back(make_step({"click", "apply"}, "apply"));
+    steps.push_back(make_step({"idle"}, "apply"));
+    return steps;
+}
+
+class Runner {
+  public:
+    Runner(const Request& request, Scene scene)
+        : _request(request),
+          _session(std::move(scene), request.host, make_screen(), std::cout,
+                   [this](const std::string& line) { report(line); }) {
+        _session.picture_scale = request.scale;
+        _session.host().on_call = [this](std::size_t calls) { _progress.show(calls, "calls"); };
+    }
+
+    int run(const std::vector<Step>& steps) {
+        attempt([&] {
+            if (_request.calls.empty()) return;
+            _calls.emplace(_request.calls);
+            _session.host().log.set_sink([this](const std::string& line) { _calls->write(line); });
+        });
+        if (_failed) return failure_status;
+        attempt([&] {
+            _session.load(_request.plugin.empty() ? usual_plugin() : _request.plugin);
+            for (const Step& step : steps) {
+                _progress.start(step.action->name);
+                run_step(_session, step);
+            }
+        });
+        _progress.stop();
+        write_outputs();
+        return _failed || _session.host().hook_errors() > 0 ? failure_status : 0;
+    }
+
+  private:
+    void report(const std::string& line) {
+        _progress.stop();
+        std::cerr << "minihost: " << line << std::endl;
+    }
+
+    // Reports what goes wrong and goes on.
+    template <typename Body>
+    void attempt(const Body& body) {
+        try {
+            body();
+        } catch (const std::exception& error) {
+            report(error.what());
+            _failed = true;
+        }
+    }
+
+    void write_outputs() {
+        if (!_request.panel.empty()) attempt([&] { _session.save_panel(_request.panel); });
+        attempt([&] { _session.unload(); });
+        if (!_request.out.empty()) attempt([&] { _session.save_scene(_request.out); });
+        if (!_request.preview.empty()) attempt([&] { _session.save_preview(_request.preview); });
+        _session.host().log.set_sink({});
+        if (_calls) attempt([&] { _calls->commit(); });
+    }
+
+    const Request& _request;
+    Progress _progress;
+    std::optional<OutputFile> _calls;
+    bool _failed = false;
+    Session _session;
+};
+
+} // namespace
+
+int run(const Request& request) {
+    try {
+        Progress progress;
+        progress.start("reading " + request.scene);
+        Scene scene =
+            read_scene(request.scene, [&](std::size_t layers) { progress.show(layers, "layers"); });
+        progress.stop();
+        const std::vector<Step> steps = steps_of(request);
+        return Runner(request, std::move(scene)).run(steps);
+    } catch (const std::exception& error) { // what was read, or memory
+        std::cerr << "minihost: " << error.what() << std::endl;
+        return bad_input_status;
+    }
+}
+
+} // namespace minihost

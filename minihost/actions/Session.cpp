@@ -1,0 +1,80 @@
+#include "minihost/actions/Session.h"
+
+#include "minihost/model/OutputFile.h"
+#include "minihost/model/SceneWriter.h"
+#include "minihost/view/PictureFile.h"
+#include "minihost/view/preview.h"
+
+namespace minihost {
+
+Session::Session(Scene scene, HostOptions options, std::unique_ptr<Screen> screen,
+                 std::ostream& out, Host::Reporter report)
+    : _screen(std::move(screen)),
+      _out(out),
+      _host(std::move(scene), std::move(options), std::move(report),
+            [this] { return _screen->make_panel(); }) {}
+
+Session::~Session() {
+    unload();
+}
+
+void Session::load(const std::string& module_path) {
+    _names = ControlNames::beside(module_path);
+    enter([&] { _module.emplace(_host, module_path); });
+}
+
+std::vector<std::string> Session::unload() {
+    std::vector<std::string> held;
+    if (_module) enter([&] { held = _module->unload(); });
+    _module.reset();
+    return held;
+}
+
+void Session::enter(const std::function<void()>& body) {
+    _screen->with_pool([&] { _host.visit(body); });
+    for (const std::string& text : _screen->new_alerts()) _host.alert(text);
+}
+
+Dialog Session::dialog() const {
+    if (const PanelView* panel = _host.panels.view())
+        return {true, panel->is_visible(), true, panel, panel->title()};
+    if (_screen->has_window())
+        return {true, _screen->window_is_visible(), false, nullptr, _screen->window_title()};
+    return {};
+}
+
+const MenuItem& Session::command() const {
+    if (_host.menu().empty()) throw ActionError("the plug-in has no menu command");
+    return _host.menu().front();
+}
+
+void Session::save_scene(const std::string& path) {
+    try {
+        write_file(path, scene_text(_host.document));
+    } catch (const std::exception& error) {
+        throw ActionError(error.what());
+    }
+}
+
+void Session::save_preview(const std::string& path) {
+    try {
+        render_preview(_host.document.scene(), path, picture_scale);
+    } catch (const std::exception& error) {
+        throw ActionError(error.what());
+    }
+}
+
+void Session::save_panel(const std::string& path) {
+    const Dialog shown = dialog();
+    if (!shown.exists) throw ActionError(path + ": there is no dialog to take a picture of");
+    Picture picture;
+    enter([&] { picture = _screen->picture(shown.panel, picture_scale); });
+    if (picture.rgba.empty()) throw ActionError(path + ": the dialog has no picture");
+    try {
+        write_file(path, encode_png(picture));
+    } catch (const std::exception& error) {
+        throw ActionError(error.what());
+    }
+}
+
+} // namespace minihost

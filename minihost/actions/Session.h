@@ -1,0 +1,71 @@
+// One run of the host with one plug-in: what the actions work on. It owns the scene, the display
+// and the loaded module, and knows which dialog is the plug-in's.
+
+#pragma once
+
+#include "minihost/actions/ControlNames.h"
+#include "minihost/suites/Host.h"
+#include "minihost/suites/Module.h"
+#include "minihost/view/Screen.h"
+
+#include <iosfwd>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace minihost {
+
+// An action that could not be carried out.
+class ActionError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+// The plug-in's dialog as the user finds it.
+struct Dialog {
+    bool exists = false;
+    bool visible = false;
+    bool is_panel = false;            // else a window of its own
+    const PanelView* panel = nullptr; // null for a window
+    std::string title;
+};
+
+class Session {
+  public:
+    // `out` gets what actions print; `report` gets messages.
+    Session(Scene scene, HostOptions options, std::unique_ptr<Screen> screen, std::ostream& out,
+            Host::Reporter report);
+    ~Session();
+
+    // Loads the plug-in and the names of its controls. Throws LoadError or SceneError.
+    void load(const std::string& module_path);
+    // What the plug-in still held, as lines. Nothing of it is there afterwards.
+    std::vector<std::string> unload();
+
+    Host& host() { return _host; }
+    Screen& screen() { return *_screen; }
+    const ControlNames& control_names() const { return _names; }
+    std::ostream& out() { return _out; }
+    double picture_scale = 2; // pixels per point
+
+    Dialog dialog() const;
+    // The plug-in's first menu command. Throws ActionError when there is none.
+    const MenuItem& command() const;
+    // Runs something that may enter the plug-in, and takes note of the alerts that it shows.
+    void enter(const std::function<void()>& body);
+
+    // Files; each throws ActionError.
+    void save_scene(const std::string& path);
+    void save_preview(const std::string& path);
+    void save_panel(const std::string& path);
+
+  private:
+    std::unique_ptr<Screen> _screen;
+    std::ostream& _out;
+    Host _host;
+    ControlNames _names;
+    std::optional<Module> _module;
+};
+
+} // namespace minihost

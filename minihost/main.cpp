@@ -1,0 +1,8 @@
+// minihost: a small host that loads a plug-in, serves it a scene, and plays what a user would do.
+
+#include "minihost/actions/Run.h"
+
+int main(int count, char** arguments) {
+    const minihost::ParsedCommandLine parsed = minihost::parse_command_line(count, arguments);
+    return parsed.request ? minihost::run(*parsed.request) : parsed.status;
+}

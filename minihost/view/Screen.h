@@ -1,0 +1,51 @@
+// Where dialogs are seen and used, as the actions need it: in front of Cocoa, or of nothing at all
+// for a host without a display.
+
+#pragma once
+
+#include "minihost/suites/Panels.h"
+#include "minihost/view/Controls.h"
+#include "minihost/view/Panel.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace minihost {
+
+class Screen {
+  public:
+    virtual ~Screen() = default;
+
+    virtual std::unique_ptr<PanelView> make_panel() = 0;
+
+    // The floating dialog that the plug-in made last.
+    virtual bool has_window() const = 0;
+    virtual bool window_is_visible() const = 0;
+    virtual std::string window_title() const = 0;
+
+    // Of a panel, or with null of the floating dialog.
+    virtual std::vector<Control> controls(const PanelView* panel) = 0;
+    virtual Picture picture(const PanelView* panel, double scale) = 0;
+    // As a user would. Each throws ControlError.
+    virtual void set(const PanelView* panel, int id, const std::string& name,
+                     const std::string& value) = 0;
+    virtual void click(const PanelView* panel, int id, const std::string& name) = 0;
+
+    // Alert panels: the button (from 1) that answers the next one; the texts of those shown since
+    // the last asking.
+    virtual void answer_next_alert(int button) = 0;
+    virtual std::vector<std::string> new_alerts() = 0;
+
+    // Runs something that makes objects of the display, which are gone afterwards.
+    virtual void with_pool(const std::function<void()>& body) = 0;
+};
+
+// A host without a display: panels without a view, no dialog ever.
+std::unique_ptr<Screen> make_blind_screen();
+
+// The display that this build has: Cocoa's, headless.
+std::unique_ptr<Screen> make_screen();
+
+} // namespace minihost
