@@ -4,13 +4,7 @@
 #include "ADMLibrary/ADM_Mac64/Geometry.h"
 #include "ADMLibrary/ADM_Mac64/iADMDialog.h"
 #include "ADMLibrary/ADM_Mac64/iADMItem.h"
-
-#include <algorithm>
-#include <cctype>
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
-#include <limits>
+#include "ADMLibrary/ADM_Mac64/NumberText.h"
 
 namespace {
 
@@ -91,11 +85,8 @@ float iADMItem::GetFloatValue() {
 int iADMItem::GetIntValue() {
     char text[128];
     if (!read_text(text)) return adm::truncated(_value);
-    char* end = text;
-    const long number = std::strtol(text, &end, 10);
-    if (end == text) return adm::truncated(_value);
-    const int n = static_cast<int>(
-        std::clamp<long>(number, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+    int n = 0;
+    if (!adm::text_to_int(text, &n)) return adm::truncated(_value);
     int result = n;
     if (static_cast<float>(n) > _maxValue)
         result = adm::truncated(_maxValue);
@@ -106,26 +97,9 @@ int iADMItem::GetIntValue() {
 }
 
 bool iADMItem::DefaultTextToFloat(const char* text, float* value) {
-    char* end = nullptr;
-    const double number = std::strtod(text, &end);
-    if (end == text) return false;
-    *value = static_cast<float>(number); // infinite where a float ends
-    return true;
+    return adm::text_to_float(text, value);
 }
 
 bool iADMItem::DefaultFloatToText(float value, char* text) {
-    std::sprintf(text, "%f", static_cast<double>(value));
-    const std::size_t length = std::strlen(text);
-    if (length == 0 || text[length - 1] != '0') return true;
-    std::size_t last = length - 1;
-    while (last > 0 && text[last] == '0') --last;
-    if (text[last] == '.') {
-        text[last] = '\0';
-        return true;
-    }
-    std::size_t before_digits = last;
-    while (before_digits > 0 && std::isdigit(static_cast<unsigned char>(text[before_digits])))
-        --before_digits;
-    if (text[before_digits] == '.') text[last + 1] = '\0';
-    return true;
+    return adm::float_to_text(value, text);
 }
