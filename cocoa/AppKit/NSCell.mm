@@ -131,9 +131,10 @@ static NSString* shortest(Number value) {
 - (BOOL)isBordered {
     return _bordered;
 }
+// A border and a bezel take each other's place: setting one, or clearing it, removes the other.
 - (void)setBordered:(BOOL)flag {
     _bordered = !!flag;
-    if (flag) _bezeled = NO;
+    _bezeled = NO;
     [self changed];
 }
 - (BOOL)isBezeled {
@@ -141,7 +142,7 @@ static NSString* shortest(Number value) {
 }
 - (void)setBezeled:(BOOL)flag {
     _bezeled = !!flag;
-    if (flag) _bordered = NO;
+    _bordered = NO;
     [self changed];
 }
 - (BOOL)isEditable {

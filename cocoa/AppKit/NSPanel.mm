@@ -47,6 +47,7 @@ NSTextField* make_label(NSString* text, NSRect frame, NSFont* font) {
     [label setEditable:NO];
     [label setBezeled:NO];
     [label setDrawsBackground:NO];
+    [label setTextColor:theme::text()];
     [[label cell] setWraps:YES];
     [label setStringValue:text];
     return label;

@@ -17,8 +17,10 @@ using namespace cocoa;
     self = [super initTextCell:text];
     if (!self) return nil;
     [self setSendsActionOnEndEditing:YES];
-    _backgroundColor = [theme::field() retain];
-    _textColor = [theme::text() retain];
+    // Dark on light whatever the theme, as the platform has it: a program that changes one of the two
+    // counts on the other.
+    _backgroundColor = [[NSColor whiteColor] retain];
+    _textColor = [[NSColor blackColor] retain];
     return self;
 }
 
@@ -82,7 +84,7 @@ using namespace cocoa;
 - (void)drawInteriorWithFrame:(NSRect)frame inView:(NSView*)view {
     // While it is edited, the text is the field editor's.
     if ([view isKindOfClass:[NSControl class]] && [(NSControl*)view currentEditor]) return;
-    NSColor* color = _textColor ? _textColor : theme::text();
+    NSColor* color = _textColor ? _textColor : [NSColor blackColor];
     if (![self isEnabled] && _drawsBackground)
         color = [color colorWithAlphaComponent:[color alphaComponent] * 0.45];
     const NSRect line = [self titleRectForBounds:frame];

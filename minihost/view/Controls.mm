@@ -1,5 +1,7 @@
 #include "minihost/view/Controls.h"
 
+#include "minihost/view/AutoreleasePool.h"
+
 #include <algorithm>
 #include <AppKit/NSDisplayStandIn.h>
 #include <charconv>
@@ -217,12 +219,14 @@ void pick(NSPopUpButton* popup, const std::string& name, const std::string& valu
 } // namespace
 
 std::vector<Control> read_controls(NSView* root) {
+    const AutoreleasePool pool;
     std::vector<Control> controls;
     if (root) read_below(root, controls);
     return controls;
 }
 
 void set_control(NSView* root, int id, const std::string& name, const std::string& value) {
+    const AutoreleasePool pool;
     NSControl* control = usable_control(root, id, name);
     switch (kind_of(control)) {
     case Kind::check:
@@ -239,6 +243,7 @@ void set_control(NSView* root, int id, const std::string& name, const std::strin
 }
 
 void click_control(NSView* root, int id, const std::string& name) {
+    const AutoreleasePool pool;
     click(usable_control(root, id, name));
 }
 

@@ -1,5 +1,7 @@
 #include "minihost/view/Panel.h"
 
+#include "minihost/view/AutoreleasePool.h"
+
 #include <AppKit/NSDisplayStandIn.h>
 #include <Cocoa/Cocoa.h>
 #include <set>
@@ -31,6 +33,7 @@ NSString* string(const std::string& utf8) {
 } // namespace
 
 Panel::Panel(double width, double height) {
+    const AutoreleasePool pool;
     [NSApplication sharedApplication];
     _window = [[NSWindow alloc] initWithContentRect:NSMakeRect(100, 100, width, height)
                                           styleMask:NSTitledWindowMask
@@ -44,6 +47,7 @@ Panel::Panel(double width, double height) {
 }
 
 Panel::~Panel() {
+    const AutoreleasePool pool;
     panel_windows().erase(_window);
     // The plug-in may still hold its views; they stand nowhere from now on.
     NSArray* views = [[[container() subviews] copy] autorelease];
@@ -57,18 +61,22 @@ NSView* Panel::container() const {
 }
 
 void Panel::resize(double width, double height) {
+    const AutoreleasePool pool;
     [_window setContentSize:NSMakeSize(width, height)];
 }
 
 void Panel::set_title(const std::string& utf8) {
+    const AutoreleasePool pool;
     [_window setTitle:string(utf8)];
 }
 
 std::string Panel::title() const {
+    const AutoreleasePool pool;
     return [[_window title] UTF8String];
 }
 
 void Panel::show(bool visible) {
+    const AutoreleasePool pool;
     if (visible)
         [_window makeKeyAndOrderFront:nil];
     else
@@ -80,19 +88,23 @@ bool Panel::is_visible() const {
 }
 
 NSView* floating_dialog() {
+    const AutoreleasePool pool;
     return [floating_window() contentView];
 }
 
 bool floating_dialog_is_visible() {
+    const AutoreleasePool pool;
     return [floating_window() isVisible];
 }
 
 std::string floating_dialog_title() {
+    const AutoreleasePool pool;
     NSString* title = [floating_window() title];
     return title ? [title UTF8String] : "";
 }
 
 Picture render(NSView* view, double scale) {
+    const AutoreleasePool pool;
     NSPicture picture = NSRenderView(view, scale);
     return {picture.width, picture.height, std::move(picture.rgba)};
 }

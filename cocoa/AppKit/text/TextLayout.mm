@@ -165,10 +165,13 @@ LayoutPointer layout(NSAttributedString* string, const double* width) {
     return made;
 }
 
+// Heights are whole points, as the platform's are: a view that is made as high as its text, in
+// whole points, then shows all of it.
 NSSize size_of(PangoLayout* layout) {
     PangoRectangle logical;
     pango_layout_get_extents(layout, nullptr, &logical);
-    return NSMakeSize(pango_units_to_double(logical.width), pango_units_to_double(logical.height));
+    return NSMakeSize(pango_units_to_double(logical.width),
+                      std::ceil(pango_units_to_double(logical.height)));
 }
 
 } // namespace text

@@ -2,6 +2,7 @@
 #include "Pool.h"
 
 #include <AppKit/AppKit.h>
+#include <cmath>
 
 namespace {
 
@@ -48,9 +49,11 @@ TEST_F(Fonts, MeasureTextsInProportion) {
     NSFont* large = [NSFont systemFontOfSize:40];
     const NSSize one = size(@"Cylinder", small), four = size(@"Cylinder", large);
     EXPECT_NEAR(four.width, 4 * one.width, 0.1) << "nothing is hinted";
-    EXPECT_NEAR(four.height, 4 * one.height, 0.1);
-    EXPECT_NEAR(one.height, [small ascender] - [small descender] + [small leading], 0.1);
-    EXPECT_NEAR(size(@"Cylinder\nCylinder", small).height, 2 * one.height, 0.1);
+    // Heights are the lines' own, rounded up to whole points.
+    const double line = [small ascender] - [small descender] + [small leading];
+    EXPECT_EQ(one.height, std::ceil(line));
+    EXPECT_EQ(four.height, std::ceil(4 * line));
+    EXPECT_EQ(size(@"Cylinder\nCylinder", small).height, std::ceil(2 * line));
     EXPECT_NEAR(size(@"Cylinder\nCyl", small).width, one.width, 0.1);
     EXPECT_GT(size(@"Cylinders", small).width, one.width);
     EXPECT_EQ(size(@"", small).width, 0);
