@@ -26,16 +26,22 @@ NSString* const NSModalPanelRunLoopMode = @"NSModalPanelRunLoopMode";
     return nil;
 }
 
-// Moves what the display has into the queue; waits for the first of it.
-- (BOOL)fillQueueWithin:(NSTimeInterval)seconds {
+// Moves the display's next event into the queue, after waiting for it. One at a time: what becomes
+// of an event (whether anybody follows the mouse, which windows there are) may hang on the one
+// before.
+- (BOOL)fetchEventWithin:(NSTimeInterval)seconds {
     cocoa::DisplayEvent raw;
-    BOOL any = NO;
-    while (WindowServer::shared().display().next_event(raw, any ? 0 : seconds)) {
-        any = YES;
-        NSEvent* event = WindowServer::shared().translate(raw);
-        if (event) [_queue addObject:event];
-    }
-    return any;
+    if (!WindowServer::shared().display().next_event(raw, seconds)) return NO;
+    NSEvent* event = WindowServer::shared().translate(raw);
+    if (event) [_queue addObject:event];
+    return YES;
+}
+
+- (NSEvent*)presentEventMatchingMask:(NSUInteger)mask dequeue:(BOOL)dequeue {
+    NSEvent* event = [self takeEventMatchingMask:mask dequeue:dequeue];
+    while (!event && [self fetchEventWithin:0])
+        event = [self takeEventMatchingMask:mask dequeue:dequeue];
+    return event;
 }
 
 - (NSEvent*)nextEventMatchingMask:(NSUInteger)mask
@@ -44,17 +50,15 @@ NSString* const NSModalPanelRunLoopMode = @"NSModalPanelRunLoopMode";
                           dequeue:(BOOL)dequeue {
     const NSTimeInterval until = date ? [date timeIntervalSinceReferenceDate] : 0;
     for (;;) {
-        [self fillQueueWithin:0];
-        NSEvent* event = [self takeEventMatchingMask:mask dequeue:dequeue];
+        NSEvent* event = [self presentEventMatchingMask:mask dequeue:dequeue];
         if (event) return event;
-        [self updateWindows];
         // Timers fire here; what they set off is looked at before anything is waited for.
         NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
         NSDate* next = [[NSRunLoop currentRunLoop] limitDateForMode:mode];
         const bool timer = next != nil;
         const NSTimeInterval due = [next timeIntervalSinceReferenceDate];
         [pool drain];
-        event = [self takeEventMatchingMask:mask dequeue:dequeue];
+        event = [self presentEventMatchingMask:mask dequeue:dequeue];
         if (event) return event;
         [self updateWindows];
         const NSTimeInterval now = [NSDate timeIntervalSinceReferenceDate];
@@ -67,7 +71,7 @@ NSString* const NSModalPanelRunLoopMode = @"NSModalPanelRunLoopMode";
             continue;
         }
         const NSTimeInterval end = timer ? std::min(due, until) : until;
-        [self fillQueueWithin:std::max(end - now, 0.001)];
+        [self fetchEventWithin:std::max(end - now, 0.001)];
     }
 }
 

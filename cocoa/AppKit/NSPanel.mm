@@ -77,6 +77,13 @@ double wrapped_height(NSString* text, NSFont* font, double width) {
     return std::min(lines * std::ceil(line), 400.0) + 2;
 }
 
+// Escape presses the button that is called so, or else the last; a single one has no need of it.
+size_t cancel_button(const Alert& alert) {
+    for (size_t i = 1; i < alert.buttons.size(); ++i)
+        if ([alert.buttons[i] isEqualToString:@"Cancel"]) return i;
+    return alert.buttons.size() - 1;
+}
+
 void add_buttons(NSView* content, const Alert& alert, id target) {
     double right = NSWidth([content bounds]) - 16;
     for (size_t i = 0; i < alert.buttons.size(); ++i) {
@@ -90,9 +97,7 @@ void add_buttons(NSView* content, const Alert& alert, id target) {
         [button setAction:@selector(press:)];
         [button setTag:alert.codes[i]];
         if (i == 0) [button setKeyEquivalent:@"\r"];
-        const bool last = i + 1 == alert.buttons.size();
-        if ([alert.buttons[i] isEqualToString:@"Cancel"] || (last && i > 0))
-            [button setKeyEquivalent:@"\033"];
+        if (i > 0 && i == cancel_button(alert)) [button setKeyEquivalent:@"\033"];
         [content addSubview:button];
         right -= width + 10;
     }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <limits>
 #include <thread>
 #include <vector>
 
@@ -85,13 +86,14 @@ static const NSTimeInterval reference_offset = 978307200;
 - (void)fire {
     if (!_valid) return;
     [self retain];
-    // From now and not from when it was due: a loop that was busy does not catch up in a burst.
-    _fireTime = [NSDate timeIntervalSinceReferenceDate] + _interval;
+    // From now and not from when it was due: a loop that was busy does not catch up in a burst. One
+    // that does not repeat is still valid while it fires, but a loop inside must not fire it again.
+    _fireTime = _repeats ? [NSDate timeIntervalSinceReferenceDate] + _interval
+                         : std::numeric_limits<double>::infinity();
     id target = [_target retain];
-    const SEL selector = _selector;
-    if (!_repeats) [self invalidate];
-    [target performSelector:selector withObject:self];
+    [target performSelector:_selector withObject:self];
     [target release];
+    if (!_repeats) [self invalidate];
     [self release];
 }
 

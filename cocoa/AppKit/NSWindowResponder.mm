@@ -160,7 +160,8 @@
     return [_borderView performKeyEquivalent:event];
 }
 
-// What no view took: Tab moves the focus, everything else may be the key equivalent of a button.
+// What no view took: Tab moves the focus, everything else may be the key equivalent of a button or
+// of a menu item that asks for no modifier.
 - (void)keyDown:(NSEvent*)event {
     NSString* characters = [event characters];
     const unichar character = [characters length] ? [characters characterAtIndex:0] : 0;
@@ -168,7 +169,8 @@
         [self selectNextKeyView:self];
     else if (character == NSTabCharacter || character == NSBackTabCharacter)
         [self selectPreviousKeyView:self];
-    else if (![self performKeyEquivalent:event])
+    else if (![self performKeyEquivalent:event] &&
+             ([NSApp modalWindow] || ![[NSApp mainMenu] performKeyEquivalent:event]))
         [super keyDown:event];
 }
 

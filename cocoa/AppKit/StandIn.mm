@@ -70,6 +70,33 @@ void NSPostScroll(NSView* view, NSPoint point, CGFloat deltaX, CGFloat deltaY) {
                                          atStart:NO];
 }
 
+static BOOL post_to_display(cocoa::DisplayEvent event, NSPoint screen) {
+    auto* display = dynamic_cast<cocoa::HeadlessDisplay*>(&WindowServer::shared().display());
+    if (!display) return NO;
+    event.x = screen.x;
+    event.y = display->size().height - screen.y;
+    display->post(event);
+    return YES;
+}
+
+BOOL NSPostScreenMouse(NSEventType type, NSPoint screen, NSInteger clicks) {
+    using Kind = cocoa::DisplayEvent::Kind;
+    cocoa::DisplayEvent event;
+    event.kind = type == NSLeftMouseDown ? Kind::mouse_down
+                 : type == NSLeftMouseUp ? Kind::mouse_up
+                                         : Kind::mouse_move;
+    event.clicks = static_cast<int>(clicks);
+    return post_to_display(event, screen);
+}
+
+BOOL NSPostScreenScroll(NSPoint screen, CGFloat deltaX, CGFloat deltaY) {
+    cocoa::DisplayEvent event;
+    event.kind = cocoa::DisplayEvent::Kind::wheel;
+    event.dx = deltaX;
+    event.dy = deltaY;
+    return post_to_display(event, screen);
+}
+
 static void post_key(NSString* characters, NSUInteger modifiers) {
     NSApplication* application = [NSApplication sharedApplication];
     for (const NSEventType type : {NSKeyDown, NSKeyUp})

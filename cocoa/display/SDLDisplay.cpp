@@ -49,8 +49,7 @@ unsigned function_character(SDL_Keycode key) {
     return 0;
 }
 
-unsigned current_modifiers() {
-    const SDL_Keymod state = SDL_GetModState();
+unsigned modifiers_of(int state) {
     unsigned result = 0;
     if (state & KMOD_SHIFT) result |= shift;
     if (state & KMOD_CTRL) result |= control;
@@ -118,9 +117,10 @@ class SDLDisplay final : public Display {
         const int milliseconds = static_cast<int>(std::min(std::ceil(seconds * 1000), 60000.0));
         if (!(seconds > 0 ? SDL_WaitEventTimeout(&raw, milliseconds) : SDL_PollEvent(&raw)))
             return false;
+        // All there is, so that of many movements of the mouse the last is left.
         do {
             translate(raw);
-        } while (pending_.empty() && SDL_PollEvent(&raw));
+        } while (SDL_PollEvent(&raw));
         return take(event);
     }
 
@@ -140,10 +140,10 @@ class SDLDisplay final : public Display {
         return coordinate * (static_cast<double>(width) / window_width) / scale_;
     }
 
-    DisplayEvent make(DisplayEvent::Kind kind) const {
+    static DisplayEvent make(DisplayEvent::Kind kind) {
         DisplayEvent event;
         event.kind = kind;
-        event.modifiers = current_modifiers();
+        event.modifiers = modifiers_of(SDL_GetModState());
         return event;
     }
 
@@ -169,6 +169,8 @@ class SDLDisplay final : public Display {
         DisplayEvent event = make(kind);
         event.characters = characters;
         event.characters_unmodified = unmodified;
+        if (raw)
+            event.modifiers = modifiers_of(raw->keysym.mod); // as they were when it was pressed
         if (raw) event.key_code = static_cast<unsigned short>(raw->keysym.scancode);
         if (raw) event.repeat = raw->repeat != 0;
         pending_.push_back(std::move(event));
@@ -221,7 +223,7 @@ class SDLDisplay final : public Display {
             translate_key(raw.key);
             break;
         case SDL_TEXTINPUT:
-            if (!(current_modifiers() & (control | command)))
+            if (!(modifiers_of(SDL_GetModState()) & (control | command)))
                 push_key(Kind::key_down, raw.text.text, raw.text.text, nullptr);
             break;
         case SDL_WINDOWEVENT:

@@ -33,6 +33,11 @@ void NSPostDrag(NSView* view, NSPoint from, NSPoint to); // press, three moves, 
 void NSPostScroll(NSView* view, NSPoint point, CGFloat deltaX, CGFloat deltaY);
 void NSPostKey(unichar character, NSUInteger modifiers = 0);
 void NSPostText(NSString* text); // a key for each character
+// The same as the display reports it: at a point of the screen, for whatever window is there, and
+// from press to release for the window where the button went down. Moves, presses and releases of
+// the left button alone; NO unless the display is headless.
+BOOL NSPostScreenMouse(NSEventType type, NSPoint screen, NSInteger clicks = 1);
+BOOL NSPostScreenScroll(NSPoint screen, CGFloat deltaX, CGFloat deltaY);
 // Hands all that waits to the application, and what comes of it; how many events that were.
 NSUInteger NSDispatchEvents();
 

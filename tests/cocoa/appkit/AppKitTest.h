@@ -17,6 +17,13 @@
 @interface TestFlippedView : NSView
 @end
 
+// Takes the focus and writes down its mouse, wheel and key events.
+@interface TestEventView : NSView {
+  @public
+    std::vector<std::string>* log;
+}
+@end
+
 // Writes "<tag>" for each action, or "<tag>=<string value>" with `values` set.
 @interface TestTarget : NSObject {
   @public

@@ -6,6 +6,28 @@
 }
 @end
 
+@implementation TestEventView
+- (void)scrollWheel:(NSEvent*)event {
+    log->push_back("wheel " + std::to_string([event deltaY]));
+}
+- (void)mouseDown:(NSEvent*)event {
+    const NSPoint at = [self convertPoint:[event locationInWindow] fromView:nil];
+    log->push_back("down " + std::to_string(int(at.x)) + " " + std::to_string(int(at.y)));
+}
+- (void)mouseDragged:(NSEvent*)__attribute__((unused))event {
+    log->push_back("drag");
+}
+- (void)mouseUp:(NSEvent*)__attribute__((unused))event {
+    log->push_back("up");
+}
+- (BOOL)acceptsFirstResponder {
+    return YES;
+}
+- (void)keyDown:(NSEvent*)event {
+    log->push_back(std::string("key ") + [[event characters] UTF8String]);
+}
+@end
+
 @implementation TestTarget
 - (id)init {
     self = [super init];

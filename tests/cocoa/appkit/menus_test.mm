@@ -4,6 +4,26 @@ using appkit_test::AppKitTest;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+@interface TestCommands : NSObject {
+  @public
+    std::vector<std::string>* log;
+    BOOL refuses;
+}
+- (void)save:(id)sender;
+- (void)other:(id)sender;
+@end
+@implementation TestCommands
+- (void)save:(id)__attribute__((unused))sender {
+    log->push_back("save");
+}
+- (void)other:(id)__attribute__((unused))sender {
+    log->push_back("other");
+}
+- (BOOL)validateMenuItem:(NSMenuItem*)item {
+    return [item action] != @selector(other:) || !refuses;
+}
+@end
+
 class MenuTest : public AppKitTest {
   protected:
     void SetUp() override {
@@ -134,26 +154,6 @@ TEST_F(MenuTest, LeavingTheListChoosesNothing) {
     }
 }
 
-@interface TestCommands : NSObject {
-  @public
-    std::vector<std::string>* log;
-    BOOL refuses;
-}
-- (void)save:(id)sender;
-- (void)other:(id)sender;
-@end
-@implementation TestCommands
-- (void)save:(id)__attribute__((unused))sender {
-    log->push_back("save");
-}
-- (void)other:(id)__attribute__((unused))sender {
-    log->push_back("other");
-}
-- (BOOL)validateMenuItem:(NSMenuItem*)item {
-    return [item action] != @selector(other:) || !refuses;
-}
-@end
-
 class MenuBarTest : public MenuTest {
   protected:
     void SetUp() override {
@@ -219,6 +219,41 @@ TEST_F(MenuBarTest, KeyEquivalentsNeedTheirModifiersAndAnEnabledItem) {
     key('o', NSCommandKeyMask);
     EXPECT_THAT(take_log(), IsEmpty());
     EXPECT_FALSE([[more itemAtIndex:0] isEnabled]);
+    // One without modifiers gets what no view wants.
+    [[file itemAtIndex:0] setKeyEquivalent:@"d"];
+    [[file itemAtIndex:0] setKeyEquivalentModifierMask:0];
+    key('d');
+    EXPECT_THAT(take_log(), ElementsAre("save"));
+    [window makeFirstResponder:field(NSMakeRect(0, 0, 80, 20), @"", 0)];
+    key('d');
+    EXPECT_THAT(take_log(), IsEmpty());
+}
+
+TEST_F(MenuBarTest, TheMouseGoesAlongTheBarAndIntoSubmenus) {
+    // On the screen, as the display tells it: File at 20, More right of it; lists open below 876.
+    const NSPoint over_file = NSMakePoint(20, 888), over_more = NSMakePoint(60, 888);
+    NSPostScreenMouse(NSLeftMouseDown, over_file);
+    NSPostScreenMouse(NSMouseMoved, over_more);
+    NSPostScreenMouse(NSMouseMoved, NSMakePoint(70, 862));
+    NSPostScreenMouse(NSLeftMouseUp, NSMakePoint(70, 862));
+    NSDispatchEvents();
+    EXPECT_THAT(take_log(), ElementsAre("other"));
+    // Click, click on the third row (behind a separator of 9), then into the list beside it.
+    NSPostScreenMouse(NSLeftMouseDown, over_file);
+    NSPostScreenMouse(NSLeftMouseUp, over_file);
+    NSPostScreenMouse(NSMouseMoved, NSMakePoint(40, 876 - 4 - 20 - 9 - 10));
+    NSPostScreenMouse(NSMouseMoved, NSMakePoint(150, 876 - 4 - 20 - 9 - 10));
+    NSPostScreenMouse(NSLeftMouseDown, NSMakePoint(150, 876 - 4 - 20 - 9 - 10));
+    NSPostScreenMouse(NSLeftMouseUp, NSMakePoint(150, 876 - 4 - 20 - 9 - 10));
+    NSDispatchEvents();
+    EXPECT_THAT(take_log(), ElementsAre("other"));
+    // A click on the title of the open menu closes it.
+    for (int i = 0; i < 2; ++i) {
+        NSPostScreenMouse(NSLeftMouseDown, over_file);
+        NSPostScreenMouse(NSLeftMouseUp, over_file);
+    }
+    EXPECT_GT(NSDispatchEvents(), 0u);
+    EXPECT_THAT(take_log(), IsEmpty());
 }
 
 TEST_F(MenuBarTest, TheBarOpensItsMenusByMouseAndLetsArrowsGoOn) {
@@ -241,6 +276,35 @@ TEST_F(MenuBarTest, TheBarOpensItsMenusByMouseAndLetsArrowsGoOn) {
     NSPostKey('\r');
     NSDispatchEvents();
     EXPECT_THAT(take_log(), ElementsAre("other"));
+}
+
+TEST_F(MenuTest, AnItemsOwnActionGoesBeforeTheControls) {
+    TestCommands* commands = [[[TestCommands alloc] init] autorelease];
+    commands->log = target->log;
+    [[list itemAtIndex:1] setAction:@selector(save:)];
+    [[list itemAtIndex:1] setTarget:commands];
+    [window makeFirstResponder:list];
+    for (int character : {0 + ' ', 0 + NSEndFunctionKey, 0 + NSUpArrowFunctionKey, 0 + ' '})
+        NSPostKey(static_cast<unichar>(character));
+    NSDispatchEvents();
+    EXPECT_THAT(take_log(), ElementsAre("save"));
+    EXPECT_EQ([list indexOfSelectedItem], 1);
+}
+
+TEST_F(MenuTest, TheListStaysOnTheScreen) {
+    for (int i = 0; i < 20; ++i) [list addItemWithTitle:[NSString stringWithFormat:@"entry %d", i]];
+    auto on_screen = [&](NSInteger index) {
+        const NSRect rect = [list convertRect:NSRectOfPopUpItem(list, index) toView:nil];
+        return [window convertBaseToScreen:rect.origin];
+    };
+    [window setFrameOrigin:NSMakePoint(-150, -100)];
+    EXPECT_GE(on_screen(22).y, 0);
+    EXPECT_GE(on_screen(22).x, 0);
+    [window setFrameOrigin:NSMakePoint(1300, 700)];
+    [list selectItemAtIndex:22];
+    EXPECT_LE(on_screen(0).y + 20, 876);
+    EXPECT_LE(on_screen(0).x + 120, 1440);
+    EXPECT_TRUE(NSIsEmptyRect(NSRectOfPopUpItem(list, 23)));
 }
 
 TEST_F(MenuTest, AlertsAreAnsweredBeforehandAndRemembered) {

@@ -154,35 +154,9 @@ TEST_F(ViewTest, TabVisitsViewsAsTheyWereAddedUnlessToldOtherwise) {
     EXPECT_EQ([a nextValidKeyView], nil);
 }
 
-@interface HeavyView : NSView {
-  @public
-    std::vector<std::string>* log;
-}
-@end
-@implementation HeavyView
-- (void)scrollWheel:(NSEvent*)event {
-    log->push_back("wheel " + std::to_string([event deltaY]));
-}
-- (void)mouseDown:(NSEvent*)event {
-    const NSPoint at = [self convertPoint:[event locationInWindow] fromView:nil];
-    log->push_back("down " + std::to_string(int(at.x)) + " " + std::to_string(int(at.y)));
-}
-- (void)mouseDragged:(NSEvent*)__attribute__((unused))event {
-    log->push_back("drag");
-}
-- (void)mouseUp:(NSEvent*)__attribute__((unused))event {
-    log->push_back("up");
-}
-- (BOOL)acceptsFirstResponder {
-    return YES;
-}
-- (void)keyDown:(NSEvent*)event {
-    log->push_back(std::string("key ") + [[event characters] UTF8String]);
-}
-@end
-
 TEST_F(ViewTest, AViewKeepsTheMouseFromDownToUpAndGetsKeysOnceClicked) {
-    HeavyView* view = [[[HeavyView alloc] initWithFrame:NSMakeRect(10, 10, 50, 50)] autorelease];
+    TestEventView* view =
+        [[[TestEventView alloc] initWithFrame:NSMakeRect(10, 10, 50, 50)] autorelease];
     view->log = target->log;
     [content addSubview:view];
     NSView* child = make_view(view, NSMakeRect(0, 0, 20, 20));

@@ -47,10 +47,8 @@ class WindowDisplayTest : public AppKitTest {
         event.type = SDL_KEYDOWN;
         event.key.keysym.sym = code;
         event.key.keysym.mod = modifiers;
-        SDL_SetModState(static_cast<SDL_Keymod>(modifiers));
         SDL_PushEvent(&event);
         drain();
-        SDL_SetModState(KMOD_NONE);
     }
     static void push_text(const char* text) {
         SDL_Event event = {};
