@@ -164,6 +164,7 @@ class TMatrix3D {
     bool rigid_product(const TMatrix3D& b, Pair<T> (&rows)[8]) const;
     void invert_rigid();
     void invert_general();
+    [[noreturn]] static void throw_singular();
 
     // The linear and translating part of row r applied to v.
     T row_times(int r, const Vector& v) const {
