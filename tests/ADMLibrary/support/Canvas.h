@@ -1,5 +1,5 @@
 // A bitmap to draw into as into a flipped view, magnified so that edges can be told to a fraction
-// of a point.
+// of a point. White at first; while it exists it is the current graphics context.
 
 #pragma once
 
@@ -10,21 +10,17 @@
 class Canvas {
   public:
     static constexpr int kScale = 8; // pixels per point
+    static constexpr Rgb kWhite = {255, 255, 255};
 
-    // In points; white at first.
-    Canvas(int width, int height);
+    Canvas(int width, int height); // points
     ~Canvas();
     Canvas(const Canvas&) = delete;
     Canvas& operator=(const Canvas&) = delete;
 
-    // Draws a cell as its control would.
-    void draw(NSCell* cell, NSRect frame);
-    void highlight(NSCell* cell, NSRect frame, bool flag);
-
-    // The pixel that covers a point.
-    Rgb at(double x, double y) const;
-    // How many pixels of the rectangle have the colour.
+    Rgb at(double x, double y) const; // the pixel that covers the point
+    // How many pixels of the rectangle, or of all, have the colour.
     int count(NSRect rect, Rgb color) const;
+    int count(Rgb color) const;
 
     CGContextRef context() const { return _context; }
 

@@ -18,14 +18,6 @@ Canvas::~Canvas() {
     CGContextRelease(_context);
 }
 
-void Canvas::draw(NSCell* cell, NSRect frame) {
-    [cell drawWithFrame:frame inView:nil];
-}
-
-void Canvas::highlight(NSCell* cell, NSRect frame, bool flag) {
-    [cell highlight:flag withFrame:frame inView:nil];
-}
-
 Rgb Canvas::at(double x, double y) const {
     const std::size_t column = static_cast<std::size_t>(x * kScale);
     const std::size_t row = static_cast<std::size_t>(y * kScale);
@@ -34,9 +26,13 @@ Rgb Canvas::at(double x, double y) const {
 }
 
 int Canvas::count(NSRect rect, Rgb color) const {
-    constexpr double kPixel = 1.0 / kScale;
     int found = 0;
-    for (double y = NSMinY(rect); y < NSMaxY(rect); y += kPixel)
-        for (double x = NSMinX(rect); x < NSMaxX(rect); x += kPixel) found += at(x, y) == color;
+    for (double y = NSMinY(rect); y < NSMaxY(rect); y += 1.0 / kScale)
+        for (double x = NSMinX(rect); x < NSMaxX(rect); x += 1.0 / kScale)
+            found += at(x, y) == color;
     return found;
+}
+
+int Canvas::count(Rgb color) const {
+    return count(NSMakeRect(0, 0, _width / kScale, _height / kScale), color);
 }

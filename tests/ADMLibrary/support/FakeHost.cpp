@@ -1,7 +1,6 @@
 #include "tests/ADMLibrary/support/FakeHost.h"
 
 #include <algorithm>
-#include <cstring>
 #include <ostream>
 
 bool FakeHost::refuse_colors = false;
@@ -27,20 +26,15 @@ A_Err set_title(AEGP_PanelH, const A_char* title) {
     return 0;
 }
 
-std::string call(const char* verb, const char* name, A_long version) {
-    return std::string(verb) + " " + name + " " + std::to_string(version);
-}
-
 A_Err acquire(const char* name, A_long version, const void** suite) {
-    FakeHost::calls.push_back(call("acquire", name, version));
+    FakeHost::calls.push_back("acquire " + std::string(name) + " " + std::to_string(version));
     if (std::ranges::count(FakeHost::missing, name)) return 1;
-    *suite = std::strcmp(name, kPFAppSuite) == 0 ? static_cast<const void*>(&FakeHost::app)
-                                                 : static_cast<const void*>(&FakeHost::panels);
+    *suite = &FakeHost::app;
     return 0;
 }
 
 A_Err release(const char* name, A_long version) {
-    FakeHost::calls.push_back(call("release", name, version));
+    FakeHost::calls.push_back("release " + std::string(name) + " " + std::to_string(version));
     return 0;
 }
 
@@ -57,7 +51,6 @@ FakeHost::FakeHost() {
     calls.clear();
     sSPBasic = &basic;
     sPFAppSuite = &app;
-    sAEGPPanelSuite = nullptr;
 }
 
 FakeHost::~FakeHost() {

@@ -1,11 +1,10 @@
 // A host for the toolkit's tests: interface colours that tell their own number, and a record of
-// what is asked of it.
+// what is asked of it. While one exists it is the toolkit's host.
 
 #pragma once
 
 #include "ADMLibrary/ADM.h"
 
-#include <array>
 #include <string>
 #include <vector>
 
@@ -17,20 +16,16 @@ std::ostream& operator<<(std::ostream& out, const Rgb& color);
 
 class FakeHost {
   public:
-    // Becomes the host of the toolkit; at the end there is none.
     FakeHost();
     ~FakeHost();
 
-    // The colour of a selector, 8 bits each: no two selectors share one.
+    // The colour of a selector, 8 bits each: no two that are used share one.
     static Rgb color(short selector);
 
-    // Whether the host refuses the next queries of a colour, having written to it.
-    static bool refuse_colors;
+    static bool refuse_colors; // having written to the colour
     static std::string panel_title;
-
-    // The basic suite, which has the suites named here and counts their uses.
-    static std::vector<std::string> missing;
-    static std::vector<std::string> calls;
+    static std::vector<std::string> missing; // suites
+    static std::vector<std::string> calls;   // of the basic suite
     static SPBasicSuite basic;
     static AEGP_PanelSuite1 panels;
     static PFAppSuite6 app;

@@ -13,29 +13,19 @@ bool operator==(const Point& a, const Point& b);
 std::ostream& operator<<(std::ostream& out, const Rect& r);
 std::ostream& operator<<(std::ostream& out, const Point& p);
 
-// Drains at the end what was autoreleased meanwhile.
-class Pool {
-  public:
-    Pool() : _pool([[NSAutoreleasePool alloc] init]) {}
-    ~Pool() { [_pool drain]; }
-    Pool(const Pool&) = delete;
-    Pool& operator=(const Pool&) = delete;
-
-  private:
-    NSAutoreleasePool* _pool;
+// Drains at its end what was autoreleased meanwhile.
+struct Pool {
+    Pool() : pool([[NSAutoreleasePool alloc] init]) {}
+    ~Pool() { [pool drain]; }
+    NSAutoreleasePool* pool;
 };
 
 // What a user does, through the application's own events.
 namespace user {
 
-void click(NSView* view);
-void click_at(NSView* view, NSPoint point); // in the view's coordinates
-void press_key(NSWindow* window, NSString* characters);
-void type(NSWindow* window, const char* ascii);
-// Clicks into a field, replaces its text and leaves it with Return.
-void enter(NSTextField* field, const char* ascii);
-// Opens a pop-up and chooses the entry that many below the selected one.
-void pick(NSView* pop_up, int entries_below);
+void click(NSView* view); // in its middle
+void click_at(NSView* view, NSPoint point);
+void type(NSString* text); // Return and Tab are keys too
 
 } // namespace user
 
@@ -44,17 +34,23 @@ class ToolkitTest : public testing::Test {
     ToolkitTest();
     ~ToolkitTest() override;
 
-    // A panel dialog in the host's window, made at the first call.
+    // A panel in the host's window.
+    _Opaque_ADMDialog* make_panel(ADMDialogInitProc init = nullptr);
+    static _Opaque_ADMDialog* make_window(ADMDialogStyle style = 3,
+                                          ADMDialogInitProc init = nullptr);
+    // The one that is made at the first call and destroyed at the end.
     _Opaque_ADMDialog* dialog();
-    // An item of that dialog; without an id, one that no other has and that has no neighbours.
-    _Opaque_ADMItem* add(const char* type, const Rect& r = {10, 10, 30, 110}, int id = 0);
-    // The same with a text.
+    // An item of that dialog; with kAnyId, one that no other has and that has no neighbours.
+    static constexpr int kAnyId = -1000;
+    _Opaque_ADMItem* add(const char* type, const Rect& r = {10, 10, 30, 110}, int id = kAnyId);
     _Opaque_ADMItem* add_text(const char* type, const char* text, const Rect& r = {10, 10, 30, 110},
-                              int id = 0);
-    Rect bounds(_Opaque_ADMItem* item);
-    // What the user sees in an edit field, and types into it without leaving it.
-    std::string shown(_Opaque_ADMItem* item);
-    void put(_Opaque_ADMItem* item, const char* text);
+                              int id = kAnyId);
+    static Rect bounds(_Opaque_ADMItem* item);
+    static Rect bounds(_Opaque_ADMDialog* dialog);
+    static Point best(_Opaque_ADMItem* item);
+    // The text of an item's control, or that of its label.
+    static std::string shown(_Opaque_ADMItem* item);
+    static void put(_Opaque_ADMItem* item, const char* text);
 
     Pool _pool;
     FakeHost _host;
@@ -67,7 +63,7 @@ class ToolkitTest : public testing::Test {
     int _next_id = 1000;
 };
 
-// The record's views, which have no way out of the suites.
+// The records' views, which have no way out of the suites.
 NSControl* control_of(_Opaque_ADMItem* item);
 NSTextField* label_of(_Opaque_ADMItem* item);
 NSView* view_of(_Opaque_ADMDialog* dialog);

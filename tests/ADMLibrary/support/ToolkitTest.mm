@@ -2,6 +2,7 @@
 
 #include "ADMLibrary/ADM_Mac64/iADMDialog.h"
 
+#include <AppKit/NSDisplayStandIn.h>
 #include <ostream>
 
 bool operator==(const Rect& a, const Rect& b) {
@@ -32,92 +33,19 @@ NSView* view_of(_Opaque_ADMDialog* dialog) {
     return adm::record(dialog)->_view;
 }
 
-namespace user {
-
-namespace {
-
-NSEvent* mouse(NSEventType type, NSWindow* window, NSPoint location) {
-    return [NSEvent mouseEventWithType:type
-                              location:location
-                         modifierFlags:0
-                             timestamp:0
-                          windowNumber:[window windowNumber]
-                               context:nil
-                           eventNumber:0
-                            clickCount:1
-                              pressure:1];
+void user::click_at(NSView* view, NSPoint point) {
+    NSPostClick(view, point);
+    NSDispatchEvents();
 }
 
-NSEvent* key(NSWindow* window, NSString* characters) {
-    return [NSEvent keyEventWithType:NSKeyDown
-                            location:NSMakePoint(0, 0)
-                       modifierFlags:0
-                           timestamp:0
-                        windowNumber:[window windowNumber]
-                             context:nil
-                          characters:characters
-         charactersIgnoringModifiers:characters
-                           isARepeat:NO
-                             keyCode:0];
+void user::click(NSView* view) {
+    click_at(view, NSMakePoint(NSMidX([view bounds]), NSMidY([view bounds])));
 }
 
-NSString* character(unichar code) {
-    return [NSString stringWithCharacters:&code length:1];
+void user::type(NSString* text) {
+    NSPostText(text);
+    NSDispatchEvents();
 }
-
-// The control's own loop takes the end of the click from the queue.
-void press_and_release(NSView* view, NSPoint point, NSArray* then) {
-    NSWindow* window = [view window];
-    const NSPoint location = [view convertPoint:point toView:nil];
-    [NSApp postEvent:mouse(NSLeftMouseUp, window, location) atStart:NO];
-    for (NSEvent* event in then) [NSApp postEvent:event atStart:NO];
-    [NSApp sendEvent:mouse(NSLeftMouseDown, window, location)];
-    while (NSEvent* left = [NSApp nextEventMatchingMask:NSAnyEventMask
-                                              untilDate:nil
-                                                 inMode:NSEventTrackingRunLoopMode
-                                                dequeue:YES])
-        [NSApp sendEvent:left];
-}
-
-NSPoint middle_of(NSView* view) {
-    const NSRect bounds = [view bounds];
-    return NSMakePoint(NSMidX(bounds), NSMidY(bounds));
-}
-
-} // namespace
-
-void click(NSView* view) {
-    click_at(view, middle_of(view));
-}
-
-void click_at(NSView* view, NSPoint point) {
-    press_and_release(view, point, nil);
-}
-
-void press_key(NSWindow* window, NSString* characters) {
-    [NSApp sendEvent:key(window, characters)];
-}
-
-void type(NSWindow* window, const char* ascii) {
-    for (; *ascii; ++ascii) press_key(window, character(static_cast<unichar>(*ascii)));
-}
-
-void enter(NSTextField* field, const char* ascii) {
-    [[field window] makeFirstResponder:nil];
-    [field selectText:nil];
-    type([field window], ascii);
-    press_key([field window], character(NSCarriageReturnCharacter));
-}
-
-void pick(NSView* pop_up, int entries_below) {
-    NSMutableArray* keys = [NSMutableArray array];
-    for (int i = 0; i < entries_below; ++i)
-        [keys addObject:key([pop_up window], character(NSDownArrowFunctionKey))];
-    [keys addObject:key([pop_up window], character(NSCarriageReturnCharacter))];
-    press_and_release(pop_up, middle_of(pop_up), keys);
-}
-
-} // namespace user
 
 ToolkitTest::ToolkitTest() {
     [NSApplication sharedApplication];
@@ -130,22 +58,28 @@ ToolkitTest::ToolkitTest() {
 }
 
 ToolkitTest::~ToolkitTest() {
-    if (_dialog) sADMDialog->Destroy(_dialog);
+    sADMDialog->Destroy(_dialog);
     [_window close];
     [_window release];
 }
 
+_Opaque_ADMDialog* ToolkitTest::make_panel(ADMDialogInitProc init) {
+    return sADMDialog->CreatePanel(nullptr, "panel", 0, init, nullptr, &FakeHost::panels,
+                                   reinterpret_cast<AEGP_PanelH>(this), [_window contentView],
+                                   &_functions, &_refcon);
+}
+
+_Opaque_ADMDialog* ToolkitTest::make_window(ADMDialogStyle style, ADMDialogInitProc init) {
+    return sADMDialog->Create(nullptr, "window", 0, style, init, nullptr, 0);
+}
+
 _Opaque_ADMDialog* ToolkitTest::dialog() {
-    if (!_dialog)
-        _dialog = sADMDialog->CreatePanel(nullptr, "panel", 0, nullptr, nullptr, &FakeHost::panels,
-                                          reinterpret_cast<AEGP_PanelH>(this),
-                                          [_window contentView], &_functions, &_refcon);
-    return _dialog;
+    return _dialog ? _dialog : _dialog = make_panel();
 }
 
 _Opaque_ADMItem* ToolkitTest::add(const char* type, const Rect& r, int id) {
-    if (id == 0) id = _next_id += 2;
-    return sADMItem->Create(dialog(), id, type, &r, nullptr, nullptr, 0);
+    const int own_id = kAnyId == id ? _next_id += 2 : id;
+    return sADMItem->Create(dialog(), own_id, type, &r, nullptr, nullptr, 0);
 }
 
 _Opaque_ADMItem* ToolkitTest::add_text(const char* type, const char* text, const Rect& r, int id) {
@@ -160,8 +94,20 @@ Rect ToolkitTest::bounds(_Opaque_ADMItem* item) {
     return r;
 }
 
+Rect ToolkitTest::bounds(_Opaque_ADMDialog* dialog) {
+    Rect r = {0, 0, 0, 0};
+    sADMDialog->GetBoundsRect(dialog, &r);
+    return r;
+}
+
+Point ToolkitTest::best(_Opaque_ADMItem* item) {
+    Point size = {-1, -1};
+    sADMItem->GetBestSize(item, &size);
+    return size;
+}
+
 std::string ToolkitTest::shown(_Opaque_ADMItem* item) {
-    return [[control_of(item) stringValue] UTF8String];
+    return [[control_of(item) ?: label_of(item) stringValue] UTF8String];
 }
 
 void ToolkitTest::put(_Opaque_ADMItem* item, const char* text) {

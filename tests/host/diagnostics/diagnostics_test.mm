@@ -1,8 +1,8 @@
 #include "host/diagnostics/Debug.h"
 #include "host/diagnostics/LogFile.h"
 
+#include <AppKit/NSDisplayStandIn.h>
 #include <Cocoa/Cocoa.h>
-#include <cstdarg>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -10,103 +10,55 @@
 
 namespace {
 
-// What the last alert showed, and how the next one is answered.
-struct Alert {
-    int shown = 0;
-    std::string title, text;
-    std::vector<std::string> buttons;
-    NSInteger answer = 1;
-} alert;
-
-std::string text_of(NSString* string) {
-    return string ? [string UTF8String] : "";
-}
-
 struct DebugTest : testing::Test {
-    DebugTest() : _pool([[NSAutoreleasePool alloc] init]) { alert = {}; }
+    DebugTest() : _pool([[NSAutoreleasePool alloc] init]) { NSForgetShownAlerts(); }
     ~DebugTest() override { [_pool drain]; }
+    static NSShownAlert last() { return NSShownAlerts().back(); }
     NSAutoreleasePool* _pool;
 };
 
+using Buttons = std::vector<std::string>;
+
 } // namespace
 
-// Takes the place of the platform's alert in this program.
-NSInteger NSRunAlertPanel(NSString* title, NSString* format, NSString* first, NSString* second,
-                          NSString* third, ...) {
-    va_list values;
-    va_start(values, third);
-    NSString* text = [[[NSString alloc] initWithFormat:format arguments:values] autorelease];
-    va_end(values);
-    ++alert.shown;
-    alert.title = text_of(title);
-    alert.text = text_of(text);
-    alert.buttons.clear();
-    for (NSString* button : {first, second, third})
-        if (button) alert.buttons.push_back(text_of(button));
-    return alert.answer;
-}
-
 TEST_F(DebugTest, TheLowBitsOfTheTypeChooseTheButtons) {
-    struct Case {
-        unsigned int type;
-        std::vector<std::string> buttons;
-    };
-    const Case cases[] = {{0, {"OK"}},
-                          {1, {"OK", "Cancel"}},
-                          {2, {"Abort", "Retry", "Ignore"}},
-                          {3, {"Yes", "No"}},
-                          {4, {"Yes", "No", "Cancel"}},
-                          {5, {"Retry", "Cancel"}},
-                          {6, {"OK"}},
-                          {15, {"OK"}},
-                          {35, {"Yes", "No"}},
-                          {0xfff2, {"Abort", "Retry", "Ignore"}}};
-    for (const Case& c : cases) {
-        debug::MessageBox("caption", "text", c.type);
-        EXPECT_EQ(alert.buttons, c.buttons) << c.type;
-        EXPECT_EQ(alert.title, "caption");
+    const std::pair<unsigned int, Buttons> cases[] = {{0, {"OK"}},
+                                                      {1, {"OK", "Cancel"}},
+                                                      {2, {"Abort", "Retry", "Ignore"}},
+                                                      {4, {"Yes", "No", "Cancel"}},
+                                                      {5, {"Retry", "Cancel"}},
+                                                      {6, {"OK"}},
+                                                      {15, {"OK"}},
+                                                      {35, {"Yes", "No"}}};
+    for (const auto& [type, buttons] : cases) {
+        for (unsigned int answer = 1; answer <= buttons.size(); ++answer) {
+            NSSetNextAlertAnswer(answer);
+            EXPECT_EQ(debug::MessageBox("caption", "text", type), static_cast<int>(answer));
+            EXPECT_EQ(last().buttons, buttons) << type;
+        }
     }
-}
-
-TEST_F(DebugTest, TheAnswerIsTheButtonsNumber) {
-    const NSInteger answers[] = {NSAlertDefaultReturn, NSAlertAlternateReturn, NSAlertOtherReturn,
-                                 NSAlertErrorReturn};
-    const int results[] = {1, 2, 3, -1};
-    for (int i = 0; i < 4; ++i) {
-        alert.answer = answers[i];
-        EXPECT_EQ(debug::MessageBox("caption", "text", 2), results[i]);
-        EXPECT_EQ(debug::QuestionMessageBox("caption", "text"), i == 0);
-        EXPECT_EQ(alert.buttons.size(), 2u);
-    }
+    NSSetNextAlertAnswer(2);
+    EXPECT_FALSE(debug::QuestionMessageBox("caption", "text"));
+    EXPECT_TRUE(debug::QuestionMessageBox("caption", "text"));
 }
 
 TEST_F(DebugTest, NothingIsShownWithoutCaptionOrText) {
     EXPECT_EQ(debug::MessageBox(nullptr, "text", 0), -1);
     EXPECT_EQ(debug::InfoMessageBox("caption", nullptr), -1);
-    EXPECT_EQ(debug::MessageBox(0u, static_cast<const char*>(nullptr), "%d", 4), -1);
-    EXPECT_EQ(alert.shown, 0);
+    EXPECT_TRUE(NSShownAlerts().empty());
 }
 
 TEST_F(DebugTest, TextsAreShownAsTheyReadOrFormattedAndCut) {
     debug::ErrorMessageBox("100 %s", "50 %d %n");
-    EXPECT_EQ(alert.text, "50 %d %n");
-    EXPECT_EQ(alert.title, "100 %s");
+    EXPECT_EQ(last().message, "50 %d %n");
+    EXPECT_EQ(last().title, "100 %s");
     debug::MessageBox(0u, "caption", "%s is %d %%", "x", 7);
-    EXPECT_EQ(alert.text, "x is 7 %");
+    EXPECT_EQ(last().message, "x is 7 %");
     debug::MessageBox(0u, "caption", "%s", std::string(5000, 'a').c_str());
-    EXPECT_EQ(alert.text, std::string(2047, 'a'));
-}
-
-TEST_F(DebugTest, AnErrorIsShownThenThrown) {
-    try {
-        debug::ThrowError("no layer");
-        FAIL();
-    } catch (int code) {
-        EXPECT_EQ(code, -1);
-    }
-    EXPECT_EQ(alert.title, "Attention");
-    EXPECT_EQ(alert.text, "no layer");
-    EXPECT_EQ(alert.buttons, std::vector<std::string>{"OK"});
+    EXPECT_EQ(last().message, std::string(2047, 'a'));
+    EXPECT_THROW(debug::ThrowError("no layer"), int);
+    EXPECT_EQ(last().title, "Attention");
+    EXPECT_EQ(last().buttons, Buttons{"OK"});
 }
 
 TEST_F(DebugTest, TraceOnlyFormats) {
