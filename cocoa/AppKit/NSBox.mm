@@ -56,6 +56,12 @@ using namespace cocoa;
     return rect;
 }
 
+// A box takes no clicks itself: they go to what it frames, whether inside it or behind it.
+- (NSView*)hitTest:(NSPoint)point {
+    NSView* hit = [super hitTest:point];
+    return hit == self ? nil : hit;
+}
+
 - (void)drawRect:(NSRect)__attribute__((unused))dirty {
     theme::draw_round([self borderRect], 3, nil, theme::neutral(0.55));
     theme::draw_line(_title, [self titleRect], _titleFont, theme::neutral(1), 0);
