@@ -6,6 +6,8 @@
 #include "ADMLibrary/ADM_Mac64/iADMItem.h"
 #include "ADMLibrary/ADM_Mac64/NumberText.h"
 
+#include <limits>
+
 namespace {
 
 NSButton* as_button(NSControl* control) {
