@@ -1,6 +1,5 @@
 #include "math/geometry.h"
 
-#include "math/random.h"
 #include "tests/math/support.h"
 
 #include <vector>
