@@ -26,7 +26,7 @@ void AssistantDlg::Notify(IADMNotifier notifier) {
             break;
         case item_apply:
         case item_default:
-            apply_assistant();
+            apply_quietly();
             break;
         }
     }
@@ -42,9 +42,17 @@ void AssistantDlg::apply_quietly() {
     }
 }
 
+// The last chance to give the selection back. A host that refuses its suite is asked once more;
+// after that there is nothing left to do.
 void AssistantDlg::Destroy() {
     BaseDlg::Destroy();
-    release_selection();
+    for (int tries = 0; selection && tries < 2; ++tries) {
+        try {
+            release_selection();
+        } catch (int) {
+        }
+    }
+    selection = nullptr;
 }
 
 namespace {

@@ -1,0 +1,118 @@
+// Every call that the plug-in makes of the host fails once: nothing may crash, be held or be
+// misused.
+
+#include "tests/host/entry/PluginTest.h"
+
+#include "minihost/suites/Module.h"
+
+#include <map>
+#include <set>
+
+namespace {
+
+using minihost::HostOptions;
+using testing::IsEmpty;
+
+// A life of the plug-in that makes every kind of call; actions that a failure makes impossible are
+// passed over.
+constexpr const char* life[] = {"menu",
+                                "idle",
+                                "state",
+                                "set orientation.towards-camera=on",
+                                "set scale-to-fit=on",
+                                "set random-order=on",
+                                "set keys.position=on",
+                                "set keys.orientation=on",
+                                "set keys.scale=on",
+                                "set repeat=on",
+                                "set repeat.sequentially=on",
+                                "click apply",
+                                "set scale-to-fit=off",
+                                "click apply",
+                                "close-panel",
+                                "menu",
+                                "idle"};
+
+const std::string scene =
+    scene_of({solid("S"), R"({"name": "T", "kind": "text", "three_d": true})", camera("C")});
+
+// Calls that give something back: when one of them fails, the host still counts it as held.
+bool gives_back(const std::string& call) {
+    for (const char* end : {"ReleaseSuite", "DisposeCollection", "DisposeStream", "EndUndoGroup"})
+        if (call.ends_with(end)) return true;
+    return false;
+}
+
+void live(PluginHost& host) {
+    try {
+        host.session.load(PLUGIN);
+    } catch (const minihost::LoadError&) {
+        return;
+    }
+    const auto& failures = host.session.host().options().failures;
+    const bool must_close = failures.empty() || !gives_back(failures[0].call);
+    for (const char* action : life) {
+        try {
+            host.play(action);
+        } catch (const std::runtime_error&) {
+        }
+        if (must_close) {
+            ASSERT_EQ(host.document().open_groups(), 0) << action;
+        }
+    }
+}
+
+// How often each call is made in an undisturbed life.
+std::map<std::string, int> calls_of_a_life(const HostOptions& options) {
+    std::map<std::string, int> counts;
+    PluginHost host(scene, options, false);
+    host.session.host().log.set_sink([&](const std::string& line) {
+        const Json call = Json::parse(line);
+        ++counts[call["suite"].get<std::string>() + "." + call["call"].get<std::string>()];
+    });
+    live(host);
+    EXPECT_THAT(host.session.unload(), IsEmpty());
+    EXPECT_THAT(host.messages, IsEmpty());
+    return counts;
+}
+
+void sweep(std::set<std::string> without, int step) {
+    HostOptions options;
+    options.without = std::move(without);
+    int runs = 0;
+    for (auto [call, count] : calls_of_a_life(options)) {
+        // Colours are asked for at every drawing; the first failure stands for all.
+        if (call.find("GetColor") != std::string::npos) count = 1;
+        // One that is refused to be taken back is like the next.
+        const int stride = call.find("ReleaseSuite") != std::string::npos ? 20 : step;
+        for (int number = 1; number <= count; number += stride) {
+            const std::string name = call + ":" + std::to_string(number);
+            SCOPED_TRACE(name);
+            HostOptions failing = options;
+            failing.failures = {{call, number, 4 + number % 3}};
+            PluginHost host(scene, failing, false);
+            live(host);
+            const auto held = host.session.unload();
+            if (!gives_back(call)) {
+                EXPECT_THAT(held, IsEmpty());
+            }
+            EXPECT_EQ(host.session.host().misuses(), 0) << host.messages.back();
+            ++runs;
+        }
+    }
+    EXPECT_GT(runs, 50);
+}
+
+// On the whole host every single call fails; on the lesser ones, which differ in few calls, every
+// fourth of a kind.
+TEST(FailingCalls, OnAHostWithEverything) {
+    sweep({}, 1);
+}
+TEST(FailingCalls, OnAHostWithoutPanels) {
+    sweep({"panels"}, 4);
+}
+TEST(FailingCalls, OnAHostThatDuplicatesByCommand) {
+    sweep({"layer-suite-10", "layer-suite-8", "colours"}, 4);
+}
+
+} // namespace
