@@ -57,12 +57,10 @@ void add_options(CLI::App& verb, Request& request, std::vector<std::string>& fai
         ->type_name("FILE");
     verb.add_option("--without", without, "a host that lacks it: " + missing_part_names())
         ->type_name("WHAT")
-        ->expected(1)
         ->allow_extra_args(false);
     verb.add_option("--fail", failures,
                     "the K-th call (default 1) of that name returns CODE (default 4)")
         ->type_name("SUITE.CALL[:K[:CODE]]")
-        ->expected(1)
         ->allow_extra_args(false);
 }
 
@@ -112,7 +110,6 @@ ParsedCommandLine parse_command_line(int count, const char* const* arguments) {
     add_options(*apply, request, failures, without, palette);
     apply->add_option("--set", request.sets, "set a control before applying; may come often")
         ->type_name("NAME=VALUE")
-        ->expected(1)
         ->allow_extra_args(false);
     add_options(*run, request, failures, without, palette);
     run->add_option("ACTIONS", request.actions, "the file of actions; \"-\": standard input")

@@ -65,7 +65,7 @@ TEST_F(Program, BadArgumentsAndBadScenesEndWithTwoAndTouchNothing) {
         {"apply", "SCENE"},
         {"apply scene.json --nonsense", "--nonsense"},
         {"apply scene.json --set angle", "NAME=VALUE"},
-        {"apply scene.json --without legs", "legs"},
+        {"apply scene.json --without panels --without legs", "legs"},
         {"apply scene.json --fail Walk", "Walk"},
         {"apply scene.json --palette blue", "blue"},
         {"apply scene.json --scale 0", "--scale"},
@@ -168,6 +168,10 @@ TEST_F(Program, ErrorsOfThePluginAreToldAndEndWithOne) {
     EXPECT_EQ(run_actions("active none\nmenu\nstate"), 0) << "a message is no error";
     EXPECT_EQ(state()["alerts"], json({"No composition is active."}));
     EXPECT_EQ(run("run scene.json - --plugin " MODULES "/failing_entry.plugin", "idle"), 1);
+    EXPECT_EQ(
+        run("apply scene.json --set size.x=1 --set size.y=1 --plugin " MODULES "/arranger.plugin"),
+        1);
+    EXPECT_THAT(told, HasSubstr("set: control 'size.x': the dialog is not there"));
     ::setenv("TEST_PLUGIN_HOLDS", "1", 1);
     EXPECT_EQ(run_actions("idle"), 0);
     ::unsetenv("TEST_PLUGIN_HOLDS");

@@ -1,0 +1,214 @@
+// The host with the real plug-in: its panel and its window, controls used as a user would, Apply as
+// one step, what the command line gives.
+
+#include "minihost/actions/Actions.h"
+#include "minihost/model/SceneReader.h"
+#include "minihost/model/SceneWriter.h"
+
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+namespace minihost {
+namespace {
+
+using nlohmann::json;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+const char* const scene = R"({"format": "minihost scene 1",
+  "composition": {"width": 400, "height": 300, "time": 1},
+  "layers": [
+    {"name": "A", "kind": "solid", "three_d": true, "source": {"width": 20, "height": 10}},
+    {"name": "B", "kind": "solid", "three_d": true, "source": {"width": 20, "height": 10}},
+    {"name": "Flat", "kind": "solid", "source": {"width": 20, "height": 10}},
+    {"name": "Cam", "kind": "camera"}],
+  "selection": [0, 1]})";
+
+class Plugin : public testing::Test {
+  protected:
+    void start(HostOptions options = {}) {
+        session.emplace(parse_scene(scene, "test"), std::move(options), make_screen(), printed,
+                        [this](const std::string& line) { told.push_back(line); });
+        session->load(PLUGIN);
+    }
+    void act(std::initializer_list<Words> lines) {
+        for (const Words& words : lines) run_step(*session, make_step(words, "test"));
+    }
+    json state() {
+        printed.str("");
+        act({{"state"}});
+        return json::parse(printed.str());
+    }
+    json control(const std::string& name) {
+        const json all = state();
+        for (const json& it : all["controls"])
+            if (it["name"] == name) return it;
+        ADD_FAILURE() << name;
+        return {};
+    }
+    json scene_now() { return json::parse(scene_text(session->host().document)); }
+    std::string refusal(const Words& words) {
+        try {
+            act({words});
+        } catch (const ActionError& error) {
+            return error.what();
+        }
+        return "done";
+    }
+
+    std::ostringstream printed;
+    std::vector<std::string> told;
+    std::optional<Session> session;
+};
+
+TEST_F(Plugin, ShowsItsPanelWithTheMenuAndBuildsItAnewWhenItWasClosed) {
+    start();
+    EXPECT_EQ(state()["menu"], json({{"text", "Tamborel"}, {"enabled", true}, {"checked", false}}));
+    EXPECT_EQ(state()["dialog"]["exists"], false);
+    act({{"open"}, {"set", "angle.max=30"}});
+    EXPECT_EQ(
+        state()["dialog"],
+        json({{"exists", true}, {"visible", true}, {"kind", "panel"}, {"title", "Tamborel"}}));
+    EXPECT_EQ(state()["menu"]["checked"], true);
+    EXPECT_EQ(control("angle.max")["value"], 30);
+    EXPECT_EQ(control("apply")["kind"], "button");
+    EXPECT_EQ(control("apply")["id"], 3);
+    act({{"menu"}});
+    EXPECT_EQ(state()["dialog"]["visible"], false);
+    EXPECT_THAT(refusal({"set", "angle.max=40"}), HasSubstr("not visible"));
+    act({{"menu"}});
+    EXPECT_EQ(control("angle.max")["value"], 30) << "hidden and shown again it is the same";
+    act({{"close-panel"}, {"menu"}, {"idle"}});
+    EXPECT_EQ(control("angle.max")["value"], 50) << "built anew";
+    EXPECT_THAT(session->unload(), IsEmpty());
+    EXPECT_THAT(told, IsEmpty());
+}
+
+TEST_F(Plugin, ShowsAWindowOnAHostWithoutPanels) {
+    start({.without = {"panels"}, .failures = {}});
+    act({{"open"}, {"set", "size.x=7"}, {"menu"}});
+    EXPECT_EQ(state()["dialog"]["kind"], "window");
+    EXPECT_EQ(state()["dialog"]["visible"], true) << "shown again, not toggled";
+    EXPECT_EQ(control("size.x")["value"], 7);
+    EXPECT_THAT(refusal({"close-panel"}), HasSubstr("no panel is open"));
+    act({{"click", "apply"}});
+    EXPECT_EQ(scene_now()["undo"], json({"Tamborel"}));
+    EXPECT_THAT(session->unload(), IsEmpty());
+}
+
+TEST_F(Plugin, ControlsAreUsedAsAUserWould) {
+    start();
+    act({{"add-camera", "Cam 2"}, {"open"}});
+    struct Case {
+        std::string set, control;
+        json value;
+    };
+    for (const Case& it : {Case{"size.y=12", "size.y", 12},
+                           {"size.y=12.75", "size.y", 12},
+                           {"repeat=on", "repeat", true},
+                           {"repeat=on", "repeat", true},
+                           {"repeat.count=3", "repeat.count", 3},
+                           {"repeat=off", "repeat", false},
+                           {"orientation.towards-camera=on", "orientation.towards-camera", true},
+                           {"camera=Cam", "camera", "Cam"},
+                           {"camera=#0", "camera", "Cam 2"},
+                           {"orientation.xy=on", "orientation.xy", true},
+                           {"500=on", "orientation.towards-camera", false}}) {
+        act({{"set", it.set}});
+        EXPECT_EQ(control(it.control)["value"], it.value) << it.set;
+    }
+    EXPECT_EQ(control("camera")["entries"], json::array({"Cam 2", "Cam"}));
+    for (const auto& [set, cause] : {std::pair{"repeat.count=4", "is disabled"},
+                                     {"camera=Cam", "is disabled"},
+                                     {"apply=on", "no value"},
+                                     {"orientation.xy=off", "radio button"},
+                                     {"repeat=maybe", "on or off"},
+                                     {"9999=1", "not in the dialog"},
+                                     {"legs=2", "no control"}})
+        EXPECT_THAT(refusal({"set", set}), HasSubstr(cause)) << set;
+    act({{"set", "orientation.towards-camera=on"}});
+    EXPECT_THAT(refusal({"set", "camera=Cam 9"}), HasSubstr("no entry 'Cam 9'"));
+}
+
+TEST_F(Plugin, FollowsTheSelectionWhenIdle) {
+    start();
+    act({{"open"}, {"deselect"}});
+    EXPECT_EQ(state()["menu"]["enabled"], false);
+    EXPECT_EQ(control("apply")["enabled"], true) << "nothing has been idle yet";
+    act({{"idle"}});
+    EXPECT_THAT(refusal({"click", "apply"}), HasSubstr("is disabled"));
+    act({{"select", "Flat", "Cam"}, {"idle"}});
+    EXPECT_EQ(control("apply")["enabled"], false);
+    act({{"select", "B"}, {"idle"}});
+    EXPECT_EQ(control("apply")["enabled"], true);
+    EXPECT_EQ(state()["menu"]["enabled"], true);
+    act({{"active", "footage"}, {"idle"}});
+    EXPECT_EQ(control("apply")["enabled"], false);
+}
+
+TEST_F(Plugin, ApplyIsOneStepThatUndoTakesBackWhole) {
+    start();
+    const json before = scene_now();
+    act({{"open"},
+         {"set", "repeat=on"},
+         {"set", "repeat.count=2"},
+         {"set", "keys.position=on"},
+         {"click", "apply"},
+         {"idle"}});
+    const json after = scene_now();
+    EXPECT_EQ(after["undo"], json({"Tamborel"}));
+    std::vector<std::string> names;
+    for (const json& layer : after["layers"]) names.push_back(layer["name"]);
+    EXPECT_THAT(names, ElementsAre("A 2", "A 3", "A", "B 2", "B 3", "B", "Flat", "Cam"));
+    for (int i = 0; i < 6; ++i)
+        EXPECT_EQ(after["layers"][i]["keyframes"]["position"][0]["time"], 1) << i;
+    EXPECT_EQ(after["layers"][6], before["layers"][2]);
+    act({{"undo"}});
+    EXPECT_EQ(scene_now(), before);
+    act({{"redo"}});
+    EXPECT_EQ(scene_now(), after);
+    EXPECT_THAT(told, IsEmpty());
+}
+
+TEST_F(Plugin, NoFailingCallOfTheHostIsTooMuch) {
+    const std::vector<std::string> calls = [] {
+        std::vector<std::string> all{"SPBasic.AcquireSuite", "SPBasic.ReleaseSuite"};
+        for (const char* call :
+             {"AEGP Register Suite.RegisterIdleHook", "AEGP Command Suite.GetUniqueCommand",
+              "AEGP Command Suite.EnableCommand", "AEGP Utility Suite.StartUndoGroup",
+              "AEGP Collection Suite.GetCollectionItemByIndex", "AEGP Item Suite.GetActiveItem",
+              "AEGP Comp Suite.GetNewCollectionFromCompSelection", "AEGP Layer Suite.GetLayerName",
+              "AEGP Layer Suite.DuplicateLayer", "AEGP Stream Suite.GetNewLayerStream",
+              "AEGP Stream Suite.SetStreamValue", "AEGP Keyframe Suite.InsertKeyframe",
+              "AEGP Workspace Panel Suite.ToggleVisibility", "AEGP Workspace Panel Suite.SetTitle",
+              "PF AE App Suite.PF_AppGetColor"})
+            all.push_back(call);
+        return all;
+    }();
+    for (const std::string& call : calls)
+        for (const int number : {1, 2, 9}) {
+            SCOPED_TRACE(call + ":" + std::to_string(number));
+            std::vector<std::string> lines;
+            try {
+                start({.without = {},
+                       .failures = {parse_failure(call + ":" + std::to_string(number))}});
+                session->host().log.set_sink([&](const std::string& it) { lines.push_back(it); });
+                act({{"open"},
+                     {"set", "repeat=on"},
+                     {"set", "keys.position=on"},
+                     {"click", "apply"},
+                     {"idle"}});
+            } catch (const std::runtime_error&) {
+                // A host that fails may well leave the plug-in without a dialog.
+            }
+            session->unload();
+            for (const std::string& line : lines) ASSERT_TRUE(json::accept(line)) << line;
+            EXPECT_EQ(session->host().document.open_groups(), 0);
+            session.reset();
+        }
+}
+
+} // namespace
+} // namespace minihost
