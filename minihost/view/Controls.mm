@@ -163,6 +163,8 @@ bool choice(const std::string& name, const std::string& value) {
 void set_check(NSButton* button, const std::string& name, const std::string& value) {
     const bool on = choice(name, value);
     if (([button state] == NSOnState) != on) click(button);
+    if (([button state] == NSOnState) != on)
+        throw ControlError("control '" + name + "' did not go " + value);
 }
 
 void set_radio(NSButton* button, const std::string& name, const std::string& value) {
@@ -170,6 +172,7 @@ void set_radio(NSButton* button, const std::string& name, const std::string& val
         throw ControlError("control '" + name +
                            "' is a radio button: it goes off when another of its group is set on");
     click(button);
+    if ([button state] != NSOnState) throw ControlError("control '" + name + "' did not go on");
 }
 
 // The whole text is replaced by what is typed, and Return ends the editing.

@@ -106,7 +106,7 @@ TEST_F(Plugin, ControlsAreUsedAsAUserWould) {
         json value;
     };
     for (const Case& it : {Case{"size.y=12", "size.y", 12},
-                           {"size.y=12.75", "size.y", 12},
+                           {"size.y=12.75", "size.y", 12.75},
                            {"repeat=on", "repeat", true},
                            {"repeat=on", "repeat", true},
                            {"repeat.count=3", "repeat.count", 3},
