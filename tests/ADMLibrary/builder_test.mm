@@ -66,18 +66,6 @@ TEST_F(BuilderTest, EditsAreSetAgainstTheirRange) {
     EXPECT_EQ(sADMItem->GetIntValue(beyond), 5);
 }
 
-TEST_F(BuilderTest, ItemsThatCannotBeMadeAreNull) {
-    Dialog unbound;
-    EXPECT_EQ(unbound.add_static({0, 0}, "text", 1), nullptr);
-    EXPECT_EQ(unbound.add_frame({0, 0, 9, 9}, "text", 1, 4), nullptr);
-    EXPECT_EQ(unbound.add_icon({0, 0, 9, 9}, paint, 1), nullptr);
-    EXPECT_EQ(unbound.icons().size(), 1u);
-    unbound.Enable(true);
-    EXPECT_TRUE(unbound.IsEnabled());
-    sSPBasic = nullptr;
-    EXPECT_THROW(Dialog{}, int);
-}
-
 TEST_F(BuilderTest, EnablingWalksAllItemsWhenTheDialogChanges) {
     _Opaque_ADMItem* const items[] = {_dlg.add_edit({0, 0, 20, 75}, 1, 0, 1, 1),
                                       _dlg.add_static({0, 0}, "text", 2),
@@ -91,6 +79,8 @@ TEST_F(BuilderTest, EnablingWalksAllItemsWhenTheDialogChanges) {
     sADMItem->Enable(items[0], false);
     _dlg.Enable(true); // it is so already
     EXPECT_FALSE(sADMItem->IsEnabled(items[0]));
+    sSPBasic = nullptr;
+    EXPECT_THROW(Dialog{}, int);
 }
 
 TEST_F(BuilderTest, AWindowIsCentredOnTheScreenAndNeverBeforeIt) {

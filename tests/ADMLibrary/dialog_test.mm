@@ -7,12 +7,6 @@ namespace {
 using DialogTest = ToolkitTest;
 using DialogDeathTest = ToolkitTest;
 
-int add_and_fail(_Opaque_ADMDialog* dialog) {
-    const Rect r = {0, 0, 20, 100};
-    sADMItem->Create(dialog, 1, kADMTextCheckBoxType, &r, nullptr, nullptr, 0);
-    return 7;
-}
-
 } // namespace
 
 TEST_F(DialogTest, StylesChooseTheWindow) {
@@ -41,22 +35,12 @@ TEST_F(DialogTest, APanelFillsTheHostsViewAndIsVisibleWithIt) {
     EXPECT_FALSE(sADMDialog->IsVisible(dialog()));
 }
 
-TEST_F(DialogTest, AWindowIsPlacedByItsFrameInScreenCoordinates) {
-    _Opaque_ADMDialog* dialog = make_window(6);
-    const Rect placed = {100, 50, 300, 400};
-    sADMDialog->SetBoundsRect(dialog, &placed);
-    NSWindow* window = adm::record(dialog)->_window;
-    EXPECT_TRUE(NSEqualRects([window frame], NSMakeRect(50, 100, 350, 200)));
-    const Rect size = {0, 0, 250, 501};
-    sADMDialog->SetLocalRect(dialog, &size);
-    EXPECT_EQ(bounds(dialog), (Rect{100, 50, 350, 551}));
-    sADMDialog->Destroy(dialog);
-}
-
 TEST_F(DialogTest, AWindowIsShownWithNoItemHiddenByItsTitleBar) {
     _Opaque_ADMDialog* dialog = make_window(3);
-    const Rect size = {0, 0, 200, 300};
-    sADMDialog->SetBoundsRect(dialog, &size);
+    const Rect placed = {100, 50, 300, 350};
+    sADMDialog->SetBoundsRect(dialog, &placed);
+    EXPECT_TRUE(NSEqualRects([adm::record(dialog)->_window frame], NSMakeRect(50, 100, 300, 200)));
+    EXPECT_EQ(bounds(dialog), placed);
     const Rect low = {180, 10, 199, 100};
     sADMItem->Create(dialog, 1, kADMTextPushButtonType, &low, nullptr, nullptr, 0);
     EXPECT_FALSE(sADMDialog->IsVisible(dialog));
@@ -101,12 +85,6 @@ TEST_F(DialogTest, TitlesGoToTheHostAsTheyAreAndToWindowsAsMacRoman) {
     EXPECT_STREQ([[adm::record(other)->_window title] UTF8String], "caf\u00e9");
     EXPECT_EQ(adm::record(other)->_name, std::string(255, 'n'));
     sADMDialog->Destroy(other);
-}
-
-TEST_F(DialogTest, AFailingInitProcedureLeavesNothingBehind) {
-    EXPECT_EQ(make_window(3, add_and_fail), nullptr);
-    EXPECT_EQ(make_panel(add_and_fail), nullptr);
-    EXPECT_EQ([[[_window contentView] subviews] count], 0u);
 }
 
 TEST_F(DialogTest, AHundredItemsStayWhereTheyAreAndOneMoreIsRefused) {

@@ -28,7 +28,6 @@ TEST(HostSuites, AreAcquiredInOrderAndGivenBackOnlyWhenHeld) {
     EXPECT_EQ(sAEGPPanelSuite, nullptr);
 }
 
-
 TEST(SuitesDeathTest, WhatIsNotProvidedSaysSoAndStops) {
     const std::pair<const char*, void (*)()> cases[] = {
         {"ADMDialogSuite9::Create with this style",
@@ -39,22 +38,4 @@ TEST(SuitesDeathTest, WhatIsNotProvidedSaysSoAndStops) {
     for (const auto& [name, call] : cases)
         EXPECT_EXIT(call(), testing::KilledBySignal(SIGABRT),
                     std::string(name) + " is not provided");
-}
-
-TEST(Suites, ANullHandleIsAnsweredWithNothing) {
-    Rect r = {1, 2, 3, 4};
-    sADMDialog->Show(nullptr, true);
-    sADMDialog->GetBoundsRect(nullptr, &r);
-    EXPECT_EQ(sADMDialog->GetNextItem(nullptr, nullptr), nullptr);
-    EXPECT_FALSE(sADMDialog->IsVisible(nullptr));
-    EXPECT_EQ(sADMItem->Create(nullptr, 1, kADMSliderType, &r, nullptr, nullptr, 0), nullptr);
-    sADMItem->SetFloatToTextProc(nullptr, nullptr);
-    EXPECT_EQ(sADMItem->GetFloatValue(nullptr), 0.0f);
-    EXPECT_EQ(sADMItem->GetList(nullptr), nullptr);
-    EXPECT_EQ(sADMList->NumberOfEntries(nullptr), 0);
-    sADMEntry->SetText(nullptr, "text");
-    EXPECT_FALSE(sADMNotifier->IsNotifierType(nullptr, kADMUserChangedNotifier));
-    sADMDrawer->GetBoundsRect(nullptr, &r);
-    sADMImage->Destroy(nullptr);
-    EXPECT_EQ(r.right, 4);
 }

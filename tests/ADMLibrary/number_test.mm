@@ -75,22 +75,6 @@ TEST_F(NumberTest, AtMost127BytesAreRead) {
     EXPECT_EQ(sADMItem->GetFloatValue(item), 4);
 }
 
-TEST_F(NumberTest, AProcedureOfTheItemsOwnReadsTheText) {
-    _Opaque_ADMItem* item = edit(0, 10, 1);
-    sADMItem->SetTextToFloatProc(
-        item, [](_Opaque_ADMItem*, const char* text, float* value) -> unsigned char {
-            *value = text[0] == 'h' ? 0.5f : 99;
-            return text[0] != 'x';
-        });
-    const std::pair<const char*, float> cases[] = {{"half", 0.5f}, {"lots", 10}, {"x", 10}};
-    for (const auto& [text, value] : cases) {
-        put(item, text);
-        EXPECT_EQ(sADMItem->GetFloatValue(item), value) << text;
-    }
-    put(item, "3");
-    EXPECT_EQ(sADMItem->GetIntValue(item), 3); // it reads for itself
-}
-
 TEST_F(NumberTest, TheDefaultConversionsArePlain) {
     float value = 5;
     EXPECT_FALSE(sADMItem->DefaultTextToFloat(nullptr, "x1", &value));
