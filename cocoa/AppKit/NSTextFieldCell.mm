@@ -17,8 +17,8 @@ using namespace cocoa;
     self = [super initTextCell:text];
     if (!self) return nil;
     [self setSendsActionOnEndEditing:YES];
-    // Dark on light whatever the theme, as the platform has it: a program that changes one of the two
-    // counts on the other.
+    // Dark on light whatever the theme, as the platform has it: a program that changes one of the
+    // two counts on the other.
     _backgroundColor = [[NSColor whiteColor] retain];
     _textColor = [[NSColor blackColor] retain];
     return self;

@@ -13,7 +13,7 @@ struct Arguments {
 // One conversion of a format: "%-5.*lf" is flags "-", width 5, precision from the arguments,
 // length "l", conversion 'f'.
 struct Conversion {
-    std::string specification = "%";
+    std::string directive = "%";
     std::string length;
     char type = 0;
 };
@@ -23,14 +23,14 @@ Conversion read_conversion(const char*& at, const char* end, Arguments& argument
     const auto number = [&] {
         if (at < end && *at == '*') {
             ++at;
-            read.specification += std::to_string(va_arg(arguments.list, int));
+            read.directive += std::to_string(va_arg(arguments.list, int));
         }
-        while (at < end && *at >= '0' && *at <= '9') read.specification += *at++;
+        while (at < end && *at >= '0' && *at <= '9') read.directive += *at++;
     };
-    while (at < end && strchr("-+ #0'", *at)) read.specification += *at++;
+    while (at < end && strchr("-+ #0'", *at)) read.directive += *at++;
     number();
     if (at < end && *at == '.') {
-        read.specification += *at++;
+        read.directive += *at++;
         number();
     }
     while (at < end && strchr("hlqLzjt", *at)) read.length += *at++;
@@ -39,12 +39,12 @@ Conversion read_conversion(const char*& at, const char* end, Arguments& argument
 }
 
 template <typename Value>
-void print(std::string& out, const std::string& specification, Value value) {
-    const int length = snprintf(nullptr, 0, specification.c_str(), value);
+void print(std::string& out, const std::string& directive, Value value) {
+    const int length = snprintf(nullptr, 0, directive.c_str(), value);
     if (length < 0) return;
     const size_t start = out.size();
     out.resize(start + length + 1);
-    snprintf(out.data() + start, length + 1, specification.c_str(), value);
+    snprintf(out.data() + start, length + 1, directive.c_str(), value);
     out.pop_back();
 }
 
@@ -61,20 +61,20 @@ void print_whole(std::string& out, const Conversion& c, Arguments& arguments) {
     if (c.length == "h") value = is_signed ? (short)value : (unsigned short)value;
     if (c.length == "hh") value = is_signed ? (signed char)value : (unsigned char)value;
     const char type = c.type == 'D' ? 'd' : c.type == 'U' ? 'u' : c.type == 'O' ? 'o' : c.type;
-    print(out, c.specification + "ll" + type, value);
+    print(out, c.directive + "ll" + type, value);
 }
 
 void print_real(std::string& out, const Conversion& c, Arguments& arguments) {
     if (c.length == "L")
-        print(out, c.specification + "L" + c.type, va_arg(arguments.list, long double));
+        print(out, c.directive + "L" + c.type, va_arg(arguments.list, long double));
     else
-        print(out, c.specification + c.type, va_arg(arguments.list, double));
+        print(out, c.directive + c.type, va_arg(arguments.list, double));
 }
 
 void print_c_string(std::string& out, const Conversion& c, Arguments& arguments) {
     const char* bytes = va_arg(arguments.list, const char*);
     std::string cut;
-    print(cut, c.specification + "s", bytes ? bytes : "(null)");
+    print(cut, c.directive + "s", bytes ? bytes : "(null)");
     const auto encoding = encoding_of([NSString defaultCStringEncoding]);
     out += *encodings::decode(cut, *encoding); // every byte is a character there
 }
@@ -114,7 +114,7 @@ void print_conversion(std::string& out, const Conversion& c, Arguments& argument
         print_real(out, c, arguments);
         break;
     case 'c':
-        print(out, c.specification + "c", va_arg(arguments.list, int));
+        print(out, c.directive + "c", va_arg(arguments.list, int));
         break;
     case 'C': {
         const char16_t unit = static_cast<char16_t>(va_arg(arguments.list, int));
@@ -125,10 +125,10 @@ void print_conversion(std::string& out, const Conversion& c, Arguments& argument
         print_c_string(out, c, arguments);
         break;
     case 'p':
-        print(out, c.specification + "p", va_arg(arguments.list, void*));
+        print(out, c.directive + "p", va_arg(arguments.list, void*));
         break;
     default: // no conversion: it stands for itself
-        out += c.specification + c.length;
+        out += c.directive + c.length;
         if (c.type) out += c.type;
     }
 }
