@@ -21,13 +21,11 @@ void require_entry(const Host& host) {
     if (!host.is_entering()) throw Misuse("called outside of the entry function");
 }
 
-A_Err RegisterCommandHook(AEGP_PluginID id, AEGP_HookPriority priority, AEGP_Command command,
+A_Err RegisterCommandHook(AEGP_PluginID, AEGP_HookPriority priority, AEGP_Command command,
                           AEGP_CommandHook hook, AEGP_CommandRefcon refcon) {
     return serve(
         register_call("RegisterCommandHook"),
-        [&](Arguments& it) {
-            it.number("plugin_id", id).number("priority", priority).number("command", command);
-        },
+        [&](Arguments& it) { it.number("priority", priority).number("command", command); },
         [&](Host& host) -> A_Err {
             require_entry(host);
             need(hook);
@@ -36,10 +34,10 @@ A_Err RegisterCommandHook(AEGP_PluginID id, AEGP_HookPriority priority, AEGP_Com
         });
 }
 
-A_Err RegisterUpdateMenuHook(AEGP_PluginID id, AEGP_UpdateMenuHook hook,
+A_Err RegisterUpdateMenuHook(AEGP_PluginID, AEGP_UpdateMenuHook hook,
                              AEGP_UpdateMenuRefcon refcon) {
     return serve(
-        register_call("RegisterUpdateMenuHook"), [&](Arguments& it) { it.number("plugin_id", id); },
+        register_call("RegisterUpdateMenuHook"), [](Arguments&) {},
         [&](Host& host) -> A_Err {
             require_entry(host);
             need(hook);
@@ -48,9 +46,9 @@ A_Err RegisterUpdateMenuHook(AEGP_PluginID id, AEGP_UpdateMenuHook hook,
         });
 }
 
-A_Err RegisterDeathHook(AEGP_PluginID id, AEGP_DeathHook hook, AEGP_DeathRefcon refcon) {
+A_Err RegisterDeathHook(AEGP_PluginID, AEGP_DeathHook hook, AEGP_DeathRefcon refcon) {
     return serve(
-        register_call("RegisterDeathHook"), [&](Arguments& it) { it.number("plugin_id", id); },
+        register_call("RegisterDeathHook"), [](Arguments&) {},
         [&](Host& host) -> A_Err {
             require_entry(host);
             need(hook);
@@ -59,9 +57,9 @@ A_Err RegisterDeathHook(AEGP_PluginID id, AEGP_DeathHook hook, AEGP_DeathRefcon 
         });
 }
 
-A_Err RegisterIdleHook(AEGP_PluginID id, AEGP_IdleHook hook, AEGP_IdleRefcon refcon) {
+A_Err RegisterIdleHook(AEGP_PluginID, AEGP_IdleHook hook, AEGP_IdleRefcon refcon) {
     return serve(
-        register_call("RegisterIdleHook"), [&](Arguments& it) { it.number("plugin_id", id); },
+        register_call("RegisterIdleHook"), [](Arguments&) {},
         [&](Host& host) -> A_Err {
             require_entry(host);
             need(hook);
@@ -133,10 +131,9 @@ A_Err DoCommand(AEGP_Command command) {
         [&](Host& host) { return host.choose(command); });
 }
 
-A_Err ReportInfo(AEGP_PluginID id, const A_char* text) {
+A_Err ReportInfo(AEGP_PluginID, const A_char* text) {
     return serve(
-        utility_call("ReportInfo"),
-        [&](Arguments& it) { it.number("plugin_id", id).text("text", text); },
+        utility_call("ReportInfo"), [&](Arguments& it) { it.text("text", text); },
         [&](Host& host) -> A_Err {
             host.alert(&need(text));
             return 0;

@@ -17,9 +17,9 @@ CallName comp_call(const char* call) {
     return {kAEGPCompSuite, kAEGPCompSuiteVersion, call};
 }
 
-A_Err NewCollection(AEGP_PluginID id, AEGP_CollectionH* collection) {
+A_Err NewCollection(AEGP_PluginID, AEGP_CollectionH* collection) {
     return serve(
-        collection_call("NewCollection"), [&](Arguments& it) { it.number("plugin_id", id); },
+        collection_call("NewCollection"), [](Arguments&) {},
         [&](Host& host) -> A_Err {
             need(collection) = host.handles.open_collection({});
             return 0;
@@ -133,11 +133,11 @@ A_Err GetCompFromItem(AEGP_ItemH item, AEGP_CompH* comp) {
         });
 }
 
-A_Err GetNewCollectionFromCompSelection(AEGP_PluginID id, AEGP_CompH comp,
+A_Err GetNewCollectionFromCompSelection(AEGP_PluginID, AEGP_CompH comp,
                                         AEGP_CollectionH* collection) {
     return serve(
         comp_call("GetNewCollectionFromCompSelection"),
-        [&](Arguments& it) { it.number("plugin_id", id).composition(comp); },
+        [&](Arguments& it) { it.composition(comp); },
         [&](Host& host) -> A_Err {
             host.handles.composition(comp);
             AEGP_CollectionH& result = need(collection);

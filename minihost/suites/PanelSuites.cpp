@@ -11,12 +11,12 @@ CallName panel_call(const char* call) {
     return {kAEGPPanelSuite, kAEGPPanelSuiteVersion, call};
 }
 
-A_Err RegisterCreatePanelHook(AEGP_PluginID id, const A_char* match_name, AEGP_CreatePanelHook hook,
+A_Err RegisterCreatePanelHook(AEGP_PluginID, const A_char* match_name, AEGP_CreatePanelHook hook,
                               AEGP_CreatePanelRefcon refcon, A_Boolean paint_background) {
     return serve(
         panel_call("RegisterCreatePanelHook"),
         [&](Arguments& it) {
-            it.number("plugin_id", id).text("match_name", match_name);
+            it.text("match_name", match_name);
             it.flag("paint_background", paint_background);
         },
         [&](Host& host) -> A_Err {

@@ -19,11 +19,11 @@ std::optional<Stream> stream_of(const Layer& layer, AEGP_LayerStream number) {
     return stream && layer.has_stream(*stream) ? stream : std::nullopt;
 }
 
-A_Err GetNewLayerStream(AEGP_PluginID id, AEGP_LayerH handle, AEGP_LayerStream number,
+A_Err GetNewLayerStream(AEGP_PluginID, AEGP_LayerH handle, AEGP_LayerStream number,
                         AEGP_StreamRefH* result) {
     return serve(
         stream_call("GetNewLayerStream"),
-        [&](Arguments& it) { it.number("plugin_id", id).layer(handle).number("stream", number); },
+        [&](Arguments& it) { it.layer(handle).number("stream", number); },
         [&](Host& host) -> A_Err {
             const LayerId layer = host.handles.layer(handle);
             AEGP_StreamRefH& reference = need(result);
@@ -43,11 +43,11 @@ A_Err DisposeStream(AEGP_StreamRefH stream) {
         });
 }
 
-A_Err SetStreamValue(AEGP_PluginID id, AEGP_StreamRefH handle, AEGP_StreamValue* value) {
+A_Err SetStreamValue(AEGP_PluginID, AEGP_StreamRefH handle, AEGP_StreamValue* value) {
     return serve(
         stream_call("SetStreamValue"),
         [&](Arguments& it) {
-            it.number("plugin_id", id).stream(handle);
+            it.stream(handle);
             it.value(handle, value ? &value->val : nullptr);
         },
         [&](Host& host) -> A_Err {

@@ -314,10 +314,10 @@ TEST_F(Suites, AreLoggedInTheOrderInWhichCallsBegin) {
             "{\"n\": 1, \"suite\": \"SPBasic\", \"version\": 1, \"call\": \"AcquireSuite\", "
             "\"args\": {\"name\": \"No \\\"Suite\\\"\", \"version\": 2}, \"result\": 516}\n",
             "{\"n\": 2, \"suite\": \"AEGP Stream Suite\", \"version\": 4, \"call\": "
-            "\"GetNewLayerStream\", \"args\": {\"plugin_id\": 1, \"layer\": 2, \"stream\": 8}, "
+            "\"GetNewLayerStream\", \"args\": {\"layer\": 2, \"stream\": 8}, "
             "\"result\": 0}\n",
             "{\"n\": 3, \"suite\": \"AEGP Stream Suite\", \"version\": 4, \"call\": "
-            "\"SetStreamValue\", \"args\": {\"plugin_id\": 1, \"layer\": 2, \"stream\": 8, "
+            "\"SetStreamValue\", \"args\": {\"layer\": 2, \"stream\": 8, "
             "\"value\": 0.25}, \"result\": 0}\n",
             "{\"n\": 4, \"suite\": \"AEGP Stream Suite\", \"version\": 4, \"call\": "
             "\"GetLayerStreamValue\", \"args\": {\"layer\": null, \"stream\": 0, \"time_mode\": 1, "
