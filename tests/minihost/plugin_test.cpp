@@ -132,22 +132,6 @@ TEST_F(Plugin, ControlsAreUsedAsAUserWould) {
     EXPECT_THAT(refusal({"set", "camera=Cam 9"}), HasSubstr("no entry 'Cam 9'"));
 }
 
-TEST_F(Plugin, FollowsTheSelectionWhenIdle) {
-    start();
-    act({{"open"}, {"deselect"}});
-    EXPECT_EQ(state()["menu"]["enabled"], false);
-    EXPECT_EQ(control("apply")["enabled"], true) << "nothing has been idle yet";
-    act({{"idle"}});
-    EXPECT_THAT(refusal({"click", "apply"}), HasSubstr("is disabled"));
-    act({{"select", "Flat", "Cam"}, {"idle"}});
-    EXPECT_EQ(control("apply")["enabled"], false);
-    act({{"select", "B"}, {"idle"}});
-    EXPECT_EQ(control("apply")["enabled"], true);
-    EXPECT_EQ(state()["menu"]["enabled"], true);
-    act({{"active", "footage"}, {"idle"}});
-    EXPECT_EQ(control("apply")["enabled"], false);
-}
-
 TEST_F(Plugin, ApplyIsOneStepThatUndoTakesBackWhole) {
     start();
     const json before = scene_now();
@@ -170,44 +154,6 @@ TEST_F(Plugin, ApplyIsOneStepThatUndoTakesBackWhole) {
     act({{"redo"}});
     EXPECT_EQ(scene_now(), after);
     EXPECT_THAT(told, IsEmpty());
-}
-
-TEST_F(Plugin, NoFailingCallOfTheHostIsTooMuch) {
-    const std::vector<std::string> calls = [] {
-        std::vector<std::string> all{"SPBasic.AcquireSuite", "SPBasic.ReleaseSuite"};
-        for (const char* call :
-             {"AEGP Register Suite.RegisterIdleHook", "AEGP Command Suite.GetUniqueCommand",
-              "AEGP Command Suite.EnableCommand", "AEGP Utility Suite.StartUndoGroup",
-              "AEGP Collection Suite.GetCollectionItemByIndex", "AEGP Item Suite.GetActiveItem",
-              "AEGP Comp Suite.GetNewCollectionFromCompSelection", "AEGP Layer Suite.GetLayerName",
-              "AEGP Layer Suite.DuplicateLayer", "AEGP Stream Suite.GetNewLayerStream",
-              "AEGP Stream Suite.SetStreamValue", "AEGP Keyframe Suite.InsertKeyframe",
-              "AEGP Workspace Panel Suite.ToggleVisibility", "AEGP Workspace Panel Suite.SetTitle",
-              "PF AE App Suite.PF_AppGetColor"})
-            all.push_back(call);
-        return all;
-    }();
-    for (const std::string& call : calls)
-        for (const int number : {1, 2, 9}) {
-            SCOPED_TRACE(call + ":" + std::to_string(number));
-            std::vector<std::string> lines;
-            try {
-                start({.without = {},
-                       .failures = {parse_failure(call + ":" + std::to_string(number))}});
-                session->host().log.set_sink([&](const std::string& it) { lines.push_back(it); });
-                act({{"open"},
-                     {"set", "repeat=on"},
-                     {"set", "keys.position=on"},
-                     {"click", "apply"},
-                     {"idle"}});
-            } catch (const std::runtime_error&) {
-                // A host that fails may well leave the plug-in without a dialog.
-            }
-            session->unload();
-            for (const std::string& line : lines) ASSERT_TRUE(json::accept(line)) << line;
-            EXPECT_EQ(session->host().document.open_groups(), 0);
-            session.reset();
-        }
 }
 
 } // namespace
