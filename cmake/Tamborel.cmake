@@ -41,11 +41,11 @@ add_compile_definitions("$<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>")
 if(TAMBOREL_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -O1)
     add_link_options(-fsanitize=address,undefined)
-    # Built into each test program, so that it finds no fault either when it only lists its cases.
+    # Built into each program that tests run, so that it finds no fault either when it only lists cases.
     file(READ ${CMAKE_SOURCE_DIR}/tests/lsan.supp suppressions)
     file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/lsan_suppressions.cpp CONTENT
         "extern \"C\" const char* __lsan_default_suppressions() { return R\"(@suppressions@)\"; }\n" @ONLY)
-    set(TAMBOREL_TEST_SOURCES ${CMAKE_BINARY_DIR}/lsan_suppressions.cpp)
+    set(TAMBOREL_LEAK_SUPPRESSIONS ${CMAKE_BINARY_DIR}/lsan_suppressions.cpp)
 endif()
 
 # tamborel_library(NAME SOURCES ... LINKS ...): a static library of one folder.
@@ -59,7 +59,7 @@ endfunction()
 # tamborel_test(NAME SOURCES ... LINKS ...): a GoogleTest program whose cases CTest knows one by one.
 function(tamborel_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;ENVIRONMENT" ${ARGN})
-    add_executable(${name} ${ARG_SOURCES} ${TAMBOREL_TEST_SOURCES})
+    add_executable(${name} ${ARG_SOURCES} ${TAMBOREL_LEAK_SUPPRESSIONS})
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gmock GTest::gtest_main)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
