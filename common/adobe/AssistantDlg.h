@@ -135,9 +135,20 @@ class AssistantDlg : public BaseDlg {
     LayerSet saved_layers;
 
   private:
-    A_Err read_selection(LayerSet* set);
+    A_Err read_selection(std::vector<AEGP_LayerH>* selected);
+    A_Err append_selection(std::vector<AEGP_LayerH>* selected);
     A_Err active_comp(AEGP_SuiteHandler& suites, AEGP_ItemH* item, AEGP_CompH* found);
-    A_Err measure_largest_source(AEGP_SuiteHandler& suites, const LayerSet& selected);
+    A_Err measure_largest_source(AEGP_SuiteHandler& suites,
+                                 const std::vector<AEGP_LayerH>& selected);
+    struct Snapshot { // of a selected layer; without its numbers when it cannot be measured
+        AEGP_LayerH layer;
+        bool is_measured;
+        AEGP_StreamValue scale;
+        A_LPoint size;
+    };
+    bool read_scales(std::vector<Snapshot>* snapshots);
+    static void keep(const std::vector<Snapshot>& snapshots, LayerSet* set, ScaleMap* scales,
+                     SizeMap* sizes);
     struct CameraList {
         std::vector<AEGP_LayerH> layers;
         std::vector<std::string> names;

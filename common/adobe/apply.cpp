@@ -9,7 +9,9 @@
 
 #include <algorithm>
 #include <ctime>
-#include <unordered_map>
+#include <functional>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -20,6 +22,48 @@ void write(AEGP_PluginID plugin_id, AEGP_LayerH layer, AEGP_LayerStream stream,
     StreamValue target(plugin_id, layer, stream);
     if (key_time) target.insert_key(*key_time, AEGP_LTimeMode_CompTime, nullptr);
     target.set_value(value);
+}
+
+// Finds layers that are asked for in rising order: walks once along a container in that order.
+template <typename Container>
+class Walk {
+  public:
+    explicit Walk(Container& container) : _at(container.begin()), _end(container.end()) {}
+
+    // Null for a layer that is not there.
+    auto* find(AEGP_LayerH layer) {
+        while (_at != _end && std::less<AEGP_LayerH>()(layer_of(*_at), layer)) ++_at;
+        return _at != _end && layer_of(*_at) == layer ? &*_at : nullptr;
+    }
+
+  private:
+    static AEGP_LayerH layer_of(AEGP_LayerH layer) { return layer; }
+    template <typename Value>
+    static AEGP_LayerH layer_of(const std::pair<AEGP_LayerH, Value>& entry) {
+        return entry.first;
+    }
+    template <typename Value>
+    static AEGP_LayerH layer_of(const std::pair<const AEGP_LayerH, Value>& entry) {
+        return entry.first;
+    }
+
+    typename Container::iterator _at, _end;
+};
+
+// Moves values among their places: the i-th gets what stood at the place drawn[i], a permutation.
+void rearrange(const std::vector<LayerInfo*>& places, std::vector<std::size_t>& drawn) {
+    for (std::size_t start = 0; start < drawn.size(); ++start) {
+        if (drawn[start] == start) continue;
+        const LayerInfo first = *places[start];
+        std::size_t to = start;
+        for (std::size_t from = drawn[to]; from != start; from = drawn[to]) {
+            *places[to] = *places[from];
+            drawn[to] = to;
+            to = from;
+        }
+        *places[to] = first;
+        drawn[to] = to;
+    }
 }
 
 bool is_placeable(AEGP_ObjectType type) {
@@ -82,32 +126,32 @@ A_Err AssistantDlg::collect_selected_layers(A_u_long count) {
         A_Boolean is_3d = false;
         if (const A_Err err = suites.LayerSuite5().AEGP_IsLayer3D(found.layerH, &is_3d)) return err;
         if (!is_3d) continue;
-        LayerInfo info;
-        if (const A_Err err = collect_info(found.layerH, &info)) return err;
+        LayerInfo& info = layers.emplace_back();
+        if (const A_Err err = collect_info(found.layerH, &info)) {
+            layers.pop_back();
+            return err;
+        }
         info.sel_index = static_cast<A_long>(i);
-        layers.push_back(info);
     }
     return A_Err_NONE;
 }
 
 void AssistantDlg::sort_layers() {
-    layers.sort();
+    if (!std::is_sorted(layers.begin(), layers.end())) layers.sort();
 }
 
-// Draws the records one by one out of those that remain. The list's nodes are moved, not the
-// records.
+// Draws the records one by one out of those that remain.
 void AssistantDlg::shuffle_layers() {
-    std::vector<std::list<LayerInfo>::iterator> places;
+    std::vector<LayerInfo*> places;
     places.reserve(layers.size());
-    for (auto it = layers.begin(); it != layers.end(); ++it) places.push_back(it);
+    for (LayerInfo& record : layers) places.push_back(&record);
     RemainingIndices remaining(places.size());
-    std::list<LayerInfo> shuffled;
-    while (remaining.size() > 0) {
-        const auto drawn = static_cast<std::uint64_t>(math::LRand());
-        const std::size_t index = remaining.take(drawn % remaining.size());
-        shuffled.splice(shuffled.end(), layers, places[index]);
+    std::vector<std::size_t> drawn(places.size());
+    for (std::size_t& index : drawn) {
+        const auto number = static_cast<std::uint64_t>(math::LRand());
+        index = remaining.take(number % remaining.size());
     }
-    layers = std::move(shuffled);
+    rearrange(places, drawn);
 }
 
 // Every fit starts from the scales that the layers had before the first one; the first Apply
@@ -124,28 +168,39 @@ void AssistantDlg::remember_scales() {
 }
 
 void AssistantDlg::restore_scale() {
-    LayerSet current;
-    ScaleMap scales;
-    SizeMap sizes;
-    if (!snap_selection(&current, &scales, &sizes)) return;
+    std::vector<Snapshot> current;
+    if (!read_scales(&current)) return;
 
-    std::unordered_map<AEGP_LayerH, LayerInfo*> records; // the first record of each layer
-    for (LayerInfo& record : layers) records.try_emplace(record.layer, &record);
-    for (AEGP_LayerH layer : saved_layers) {
-        if (!current.count(layer)) continue;
-        const auto record = records.find(layer);
-        const auto scale = saved_scales.find(layer);
-        const auto size = saved_sizes.find(layer);
-        if (record == records.end() || scale == saved_scales.end() || size == saved_sizes.end())
-            continue;
-        record->second->scale = scale->second;
-        record->second->set_scaled_size(size->second);
-        scales[layer] = scale->second;
-        sizes[layer] = size->second;
+    std::vector<std::pair<AEGP_LayerH, LayerInfo*>> records; // of a layer with several the first
+    records.reserve(layers.size());
+    for (LayerInfo& record : layers) records.emplace_back(record.layer, &record);
+    std::stable_sort(records.begin(), records.end(), [](const auto& a, const auto& b) {
+        return std::less<AEGP_LayerH>()(a.first, b.first);
+    });
+    Walk in_records(records);
+    Walk in_layers(saved_layers);
+    Walk in_scales(saved_scales);
+    Walk in_sizes(saved_sizes);
+    std::size_t restored = 0, measured = 0, known = 0;
+    for (Snapshot& it : current) {
+        const auto* record = in_records.find(it.layer);
+        const auto* scale = in_scales.find(it.layer);
+        const auto* size = in_sizes.find(it.layer);
+        const bool is_saved = in_layers.find(it.layer);
+        known += is_saved;
+        if (is_saved && record && scale && size) {
+            record->second->scale = it.scale = scale->second;
+            record->second->set_scaled_size(it.size = size->second);
+            it.is_measured = true;
+            ++restored;
+        }
+        measured += it.is_measured;
     }
-    saved_scales.swap(scales);
-    saved_sizes.swap(sizes);
-    saved_layers.swap(current);
+    // Mostly the same layers are selected as before: all that is remembered stays.
+    const bool same_layers = known == current.size() && known == saved_layers.size();
+    const bool same_scales =
+        measured == restored && measured == saved_scales.size() && measured == saved_sizes.size();
+    if (!same_layers || !same_scales) keep(current, &saved_layers, &saved_scales, &saved_sizes);
 }
 
 A_Err AssistantDlg::apply_to_layers() {

@@ -4,7 +4,9 @@
 #include "common/adobe/AssistantDlg.h"
 #include "common/adobe/item_ids.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <functional>
 
 namespace {
 
@@ -71,13 +73,14 @@ A_Err AssistantDlg::save_selection() {
     // A composition of unknown size is no reason to give up the selection.
     suites.ItemSuite3().AEGP_GetItemDimensions(item, &comp_width, &comp_height);
     max_width = max_height = 0;
-    LayerSet selected;
+    std::vector<AEGP_LayerH> selected;
     if (const A_Err err = read_selection(&selected)) return err;
     return measure_largest_source(suites, selected);
 }
 
 // Of equal areas the first in the order of handles counts.
-A_Err AssistantDlg::measure_largest_source(AEGP_SuiteHandler& suites, const LayerSet& selected) {
+A_Err AssistantDlg::measure_largest_source(AEGP_SuiteHandler& suites,
+                                           const std::vector<AEGP_LayerH>& selected) {
     for (AEGP_LayerH layer : selected) {
         A_Boolean is_3d = false;
         if (const A_Err err = suites.LayerSuite5().AEGP_IsLayer3D(layer, &is_3d)) return err;
@@ -97,9 +100,19 @@ A_Err AssistantDlg::measure_largest_source(AEGP_SuiteHandler& suites, const Laye
     return A_Err_NONE;
 }
 
-// Adds the selected layers to `set`; on an error those before it.
-A_Err AssistantDlg::read_selection(LayerSet* set) {
-    set->clear();
+// The selected layers, each once, in the order of their handles; on an error those before it.
+A_Err AssistantDlg::read_selection(std::vector<AEGP_LayerH>* selected) {
+    selected->clear();
+    const A_Err err = append_selection(selected);
+    // Mostly they come in order, so that there is nothing to sort.
+    const std::less<AEGP_LayerH> before;
+    if (!std::is_sorted(selected->begin(), selected->end(), before))
+        std::sort(selected->begin(), selected->end(), before);
+    selected->erase(std::unique(selected->begin(), selected->end()), selected->end());
+    return err;
+}
+
+A_Err AssistantDlg::append_selection(std::vector<AEGP_LayerH>* selected) {
     AEGP_SuiteHandler suites(sSPBasic);
     const AEGP_CollectionSuite1& collections = suites.CollectionSuite1();
     A_u_long count = 0;
@@ -108,26 +121,59 @@ A_Err AssistantDlg::read_selection(LayerSet* set) {
         AEGP_CollectionItem found{};
         if (const A_Err err = collections.AEGP_GetCollectionItemByIndex(selection, i, &found))
             return err;
-        if (found.type == AEGP_CollectionItemType_LAYER) set->insert(found.layerH);
+        if (found.type == AEGP_CollectionItemType_LAYER) selected->push_back(found.layerH);
     }
     return A_Err_NONE;
 }
 
 bool AssistantDlg::snap_selection(LayerSet* set) {
-    return selection && set && read_selection(set) == A_Err_NONE;
+    if (!selection || !set) return false;
+    std::vector<AEGP_LayerH> selected;
+    const A_Err err = read_selection(&selected);
+    set->clear();
+    set->insert(selected.begin(), selected.end());
+    return err == A_Err_NONE;
+}
+
+// Every selected layer in the order of the handles, with what could be read of it. False when the
+// selection could not be read, with the layers so far and nothing of them.
+bool AssistantDlg::read_scales(std::vector<Snapshot>* snapshots) {
+    snapshots->clear();
+    if (!selection) return false;
+    std::vector<AEGP_LayerH> selected;
+    const bool is_whole = read_selection(&selected) == A_Err_NONE;
+    snapshots->reserve(selected.size());
+    for (AEGP_LayerH layer : selected) {
+        LayerInfo info;
+        const bool is_measured = is_whole && collect_info(layer, &info) == A_Err_NONE;
+        snapshots->push_back({layer, is_measured, info.scale, info.scaled_size()});
+    }
+    return is_whole;
+}
+
+void AssistantDlg::keep(const std::vector<Snapshot>& snapshots, LayerSet* set, ScaleMap* scales,
+                        SizeMap* sizes) {
+    set->clear();
+    scales->clear();
+    if (sizes) sizes->clear();
+    for (const Snapshot& it : snapshots) {
+        set->insert(set->end(), it.layer);
+        if (!it.is_measured) continue;
+        scales->emplace_hint(scales->end(), it.layer, it.scale);
+        if (sizes) sizes->emplace_hint(sizes->end(), it.layer, it.size);
+    }
 }
 
 bool AssistantDlg::snap_selection(LayerSet* set, ScaleMap* scales, SizeMap* sizes) {
-    if (!set || !scales || !snap_selection(set)) return false;
-    scales->clear();
-    if (sizes) sizes->clear();
-    for (AEGP_LayerH layer : *set) {
-        LayerInfo info;
-        if (collect_info(layer, &info)) continue;
-        scales->emplace(layer, info.scale);
-        if (sizes) sizes->emplace(layer, info.scaled_size());
+    if (!selection || !set || !scales) return false;
+    std::vector<Snapshot> snapshots;
+    if (read_scales(&snapshots)) {
+        keep(snapshots, set, scales, sizes);
+        return true;
     }
-    return true;
+    set->clear();
+    for (const Snapshot& it : snapshots) set->insert(set->end(), it.layer);
+    return false;
 }
 
 bool AssistantDlg::snap_comp(LayerSet* set) {
@@ -148,8 +194,8 @@ bool AssistantDlg::snap_comp(LayerSet* set) {
 }
 
 bool AssistantDlg::isCurSelectionContains(unsigned int mask) {
-    LayerSet selected;
-    if (save_selection() || !snap_selection(&selected)) return false;
+    std::vector<AEGP_LayerH> selected;
+    if (save_selection() || !selection || read_selection(&selected)) return false;
     AEGP_SuiteHandler suites(sSPBasic);
     bool contains = false;
     for (AEGP_LayerH layer : selected) {

@@ -12,7 +12,8 @@ AEGP_SuiteHandler::~AEGP_SuiteHandler() {
 
 const void* AEGP_SuiteHandler::LoadSuite(const char* name, A_long version) {
     for (std::size_t i = 0; i < _used; ++i)
-        if (_slots[i].version == version && std::strcmp(_slots[i].name, name) == 0)
+        if (_slots[i].version == version &&
+            (_slots[i].name == name || std::strcmp(_slots[i].name, name) == 0))
             return _slots[i].suite;
 
     const void* suite = nullptr;

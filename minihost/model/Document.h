@@ -5,6 +5,7 @@
 
 #include "minihost/model/Scene.h"
 
+#include <deque>
 #include <memory>
 #include <string>
 #include <variant>
@@ -85,7 +86,7 @@ class Document {
     using Change = std::variant<Presence, Place, Name, Value, Key>;
     struct Step {
         std::string name;
-        std::vector<Change> changes;
+        std::deque<Change> changes; // of a large step never moved when it grows
         std::shared_ptr<const Selection> before, after;
     };
 
@@ -98,7 +99,7 @@ class Document {
 
     Scene _scene;
     std::vector<std::string> _names_before; // of the steps that the file told of
-    std::vector<Step> _done, _undone;
+    std::deque<Step> _done, _undone;
     Step _open;
     int _open_groups = 0;
 };
