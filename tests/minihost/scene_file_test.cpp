@@ -50,6 +50,8 @@ TEST(SceneReader, RefusesWhatIsNoSceneAndNamesThePlace) {
         {"7", "", "a scene must be an object"},
         {"{}", "format", "missing"},
         {R"({"format": "minihost scene 2"})", "format", "not \"minihost scene 2\""},
+        {R"({"format": "a\nb\u007f"})", "format", R"(not "a\u000ab\u007f")"},
+        {R"({"a\tb": 1})", R"(a\u0009b)", "unknown field"},
         {R"({"format": 1})", "format", "must be a text"},
         {scene(R"("layer": [])"), "layer", "unknown field"},
         {scene(R"("active": "none", "active": "none")"), "active", "given twice"},
