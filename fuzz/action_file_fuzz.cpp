@@ -1,0 +1,63 @@
+// Any text as a file of actions: refused with its place, or carried out on a small scene, where an
+// action that cannot be done tells so. What would write files is left out.
+
+#include "fuzz/Bytes.h"
+#include "minihost/actions/ActionFile.h"
+#include "minihost/model/SceneReader.h"
+#include "minihost/view/PictureFile.h"
+#include "minihost/view/preview.h"
+
+#include <sstream>
+
+using namespace minihost;
+
+// Pictures are no part of this.
+namespace minihost {
+std::string encode_png(const Picture&) {
+    return {};
+}
+void render_preview(const Scene&, const std::string&, double) {}
+} // namespace minihost
+
+namespace {
+
+bool writes_files(const Step& step) {
+    const std::string_view name = step.action->name;
+    return name == "save" || name == "preview" || name == "panel";
+}
+
+void carry_out(const std::vector<Step>& steps) {
+    std::ostringstream out;
+    Session session(parse_scene(R"({"format": "minihost scene 1", "layers": [
+                        {"name": "A", "kind": "shape", "three_d": true},
+                        {"name": "B C", "kind": "camera"}], "selection": [0]})",
+                                "small"),
+                    {}, make_blind_screen(), out, [](const std::string&) {});
+    for (const Step& step : steps) {
+        if (writes_files(step)) continue;
+        try {
+            run_step(session, step);
+        } catch (const ActionError&) {
+        }
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view text(reinterpret_cast<const char*>(data), size);
+    try {
+        const std::vector<Step> steps = parse_actions(text, "input");
+        for (const Step& step : steps) {
+            const int count = static_cast<int>(step.arguments.size());
+            fuzz::require(count >= step.action->least &&
+                              (step.action->greatest < 0 || count <= step.action->greatest),
+                          "as many arguments as the action takes");
+        }
+        carry_out(steps);
+    } catch (const UsageError& error) {
+        fuzz::require(std::string_view(error.what()).starts_with("input:"),
+                      "an error names file and line");
+    }
+    return 0;
+}
