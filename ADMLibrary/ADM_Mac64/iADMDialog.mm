@@ -51,8 +51,10 @@ iADMDialog::~iADMDialog() {
     } catch (...) {
         adm::report_exception("destroy");
     }
-    // Controls that somebody else still holds have nobody to tell any more.
+    // Controls that somebody else still holds have nobody to tell any more, and a window that is
+    // still held does not draw them.
     for (const iADMItem& item : _items) [item._control setTarget:nil];
+    for (const iADMItem& item : _items) [item._control removeFromSuperview];
     if (_window) {
         [_window close];
         [_window release];

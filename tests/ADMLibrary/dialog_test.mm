@@ -2,6 +2,8 @@
 
 #include "ADMLibrary/ADM_Mac64/iADMDialog.h"
 
+#include <AppKit/NSDisplayStandIn.h>
+
 namespace {
 
 using DialogTest = ToolkitTest;
@@ -101,6 +103,23 @@ TEST_F(DialogTest, AHundredItemsStayWhereTheyAreAndOneMoreIsRefused) {
         walked = sADMDialog->GetNextItem(dialog(), walked);
     }
     EXPECT_EQ(walked, nullptr);
+}
+
+TEST_F(DialogTest, AViewThatIsHeldLongerDrawsNoPictures) {
+    static int drawn;
+    drawn = 0;
+    _Opaque_ADMDialog* other = make_window();
+    const Rect r = {5, 5, 25, 25};
+    _Opaque_ADMItem* item =
+        sADMItem->Create(other, 1, kADMPictureStaticType, &r, nullptr, nullptr, 0);
+    sADMItem->SetDrawProc(item, [](_Opaque_ADMItem*, _Opaque_ADMDrawer*) { ++drawn; });
+    NSView* held = [view_of(other) retain];
+    NSRenderView(held, 1);
+    EXPECT_EQ(drawn, 1);
+    sADMDialog->Destroy(other);
+    NSRenderView(held, 1);
+    EXPECT_EQ(drawn, 1);
+    [held release];
 }
 
 TEST_F(DialogDeathTest, WhatMustHoldIsAsserted) {
