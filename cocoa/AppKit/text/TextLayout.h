@@ -27,6 +27,7 @@ FontPointer description(const char* family, double size, bool bold, bool italic)
 FontPointer description(NSFont* font);
 
 // One line after the other as the text has them; wrapped and aligned if `width` (points) is given.
+// Not to be changed: the layout of a text that was asked for before may be the same one.
 LayoutPointer layout(NSAttributedString* string, const double* width);
 
 // In points.

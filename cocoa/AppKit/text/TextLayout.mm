@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <unordered_map>
+#include <vector>
 
 namespace text {
 
@@ -49,23 +51,26 @@ void insert(PangoAttrList* list, PangoAttribute* attribute, std::size_t start, s
     pango_attr_list_insert(list, attribute);
 }
 
+// A part of a text that looks the same throughout.
+struct Run {
+    std::size_t start, end; // bytes
+    NSFont* font;
+    NSColor* color; // of the device's space; nil for the usual one
+};
+
 // The text's colour goes in with red and blue exchanged, as all that is drawn.
-void insert_attributes(PangoAttrList* list, NSDictionary* attributes, std::size_t start,
-                       std::size_t end) {
-    NSFont* font = [attributes objectForKey:NSFontAttributeName];
-    if (!font) font = [NSFont systemFontOfSize:12];
-    insert(list, pango_attr_font_desc_new(description(font).get()), start, end);
-    NSColor* color = [[attributes objectForKey:NSForegroundColorAttributeName]
-        colorUsingColorSpaceName:NSDeviceRGBColorSpace];
+void insert_attributes(PangoAttrList* list, const Run& run) {
+    insert(list, pango_attr_font_desc_new(description(run.font).get()), run.start, run.end);
+    NSColor* color = run.color;
     if (!color) return;
     insert(list,
            pango_attr_foreground_new(part([color blueComponent]), part([color greenComponent]),
                                      part([color redComponent])),
-           start, end);
+           run.start, run.end);
     // Pango takes no attribute of alpha 0 for one.
     insert(list,
            pango_attr_foreground_alpha_new(std::max<guint16>(1, part([color alphaComponent]))),
-           start, end);
+           run.start, run.end);
 }
 
 // How many bytes the first `units` UTF-16 units of the text take.
@@ -119,6 +124,68 @@ void set_style(PangoLayout* layout, NSParagraphStyle* style, double width) {
     }
 }
 
+std::vector<Run> runs_of(NSAttributedString* string, std::string_view text) {
+    std::vector<Run> runs;
+    const NSUInteger length = [string length];
+    std::size_t start = 0;
+    for (NSUInteger at = 0; at < length && start < text.size();) {
+        NSRange range;
+        NSDictionary* attributes = [string attributesAtIndex:at effectiveRange:&range];
+        at = range.location + range.length;
+        const std::size_t end =
+            at == length ? text.size() : start + bytes_of_units(text.substr(start), range.length);
+        NSFont* font = [attributes objectForKey:NSFontAttributeName];
+        NSColor* color = [attributes objectForKey:NSForegroundColorAttributeName];
+        runs.push_back({start, end, font ? font : [NSFont systemFontOfSize:12],
+                        [color colorUsingColorSpaceName:NSDeviceRGBColorSpace]});
+        start = end;
+    }
+    return runs;
+}
+
+LayoutPointer make_layout(std::string_view text, const std::vector<Run>& runs,
+                          NSParagraphStyle* style, const double* width) {
+    LayoutPointer made(pango_layout_new(context()));
+    // A string made from a literal may hold bytes that are no UTF-8; pango shows them as such.
+    pango_layout_set_text(made.get(), text.data(), static_cast<int>(text.size()));
+    if (width) set_style(made.get(), style, *width);
+    PangoAttrList* list = pango_attr_list_new();
+    for (const Run& run : runs) insert_attributes(list, run);
+    pango_layout_set_attributes(made.get(), list);
+    pango_attr_list_unref(list);
+    return made;
+}
+
+template <typename Value>
+void append(std::string& key, Value value) {
+    key.append(reinterpret_cast<const char*>(&value), sizeof value);
+}
+
+// All that a layout comes from: the same for two exactly if their layouts are.
+std::string recipe(std::string_view text, const std::vector<Run>& runs, NSParagraphStyle* style,
+                   const double* width) {
+    std::string key;
+    append(key, width != nullptr);
+    append(key, width ? *width : 0);
+    append(key, width ? [style alignment] : 0);
+    append(key, width ? [style lineBreakMode] : 0);
+    for (const Run& run : runs) {
+        append(key, run.end);
+        append(key, [run.font pointSize]);
+        key.append(text_of([run.font fontName])) += '\0';
+        append(key, run.color != nil);
+        if (!run.color) continue;
+        append(key, [run.color redComponent]);
+        append(key, [run.color greenComponent]);
+        append(key, [run.color blueComponent]);
+        append(key, [run.color alphaComponent]);
+    }
+    return key.append(text);
+}
+
+// Dialogs draw the same short texts again and again. As many are kept as a few dialogs have.
+constexpr std::size_t most_kept = 256, longest_kept = 256;
+
 } // namespace
 
 PangoContext* context() {
@@ -137,32 +204,24 @@ FontPointer description(const char* family, double size, bool bold, bool italic)
 }
 
 LayoutPointer layout(NSAttributedString* string, const double* width) {
-    LayoutPointer made(pango_layout_new(context()));
+    static std::unordered_map<std::string, LayoutPointer> kept;
     NSString* characters = [string string];
     const std::string_view text = shown(text_of(characters));
-    // A string made from a literal may hold bytes that are no UTF-8; pango shows them as such.
-    pango_layout_set_text(made.get(), text.data(), static_cast<int>(text.size()));
-    if (width) {
-        NSDictionary* first =
-            [string length] ? [string attributesAtIndex:0 effectiveRange:NULL] : nil;
-        set_style(made.get(), [first objectForKey:NSParagraphStyleAttributeName], *width);
+    const std::vector<Run> runs = runs_of(string, text);
+    NSParagraphStyle* style = nil;
+    if (width && [string length]) {
+        style = [[string attributesAtIndex:0
+                            effectiveRange:NULL] objectForKey:NSParagraphStyleAttributeName];
+        if (!style) style = [NSParagraphStyle defaultParagraphStyle];
     }
-
-    PangoAttrList* list = pango_attr_list_new();
-    const NSUInteger length = [string length];
-    std::size_t start = 0;
-    for (NSUInteger at = 0; at < length && start < text.size();) {
-        NSRange run;
-        NSDictionary* attributes = [string attributesAtIndex:at effectiveRange:&run];
-        at = run.location + run.length;
-        const std::size_t end =
-            at == length ? text.size() : start + bytes_of_units(text.substr(start), run.length);
-        insert_attributes(list, attributes, start, end);
-        start = end;
+    if (text.size() > longest_kept) return make_layout(text, runs, style, width);
+    std::string key = recipe(text, runs, style, width);
+    auto place = kept.find(key);
+    if (place == kept.end()) {
+        if (kept.size() >= most_kept) kept.clear();
+        place = kept.emplace(std::move(key), make_layout(text, runs, style, width)).first;
     }
-    pango_layout_set_attributes(made.get(), list);
-    pango_attr_list_unref(list);
-    return made;
+    return LayoutPointer(static_cast<PangoLayout*>(g_object_ref(place->second.get())));
 }
 
 // Heights are whole points, as the platform's are: a view that is made as high as its text, in

@@ -4,6 +4,7 @@
 
 #include <AppKit/AppKit.h>
 
+#include <algorithm>
 #include <climits>
 #include <memory>
 
@@ -139,6 +140,56 @@ TEST_F(TextDrawing, WrapsAndLeavesOutWhatDoesNotFit) {
     });
     EXPECT_GT(ink(cut).right, 36);
     EXPECT_LT(ink(cut).right, 40);
+}
+
+TEST_F(TextDrawing, LooksAsItsAttributesSayWhateverWasDrawnBefore) {
+    struct Look {
+        NSFont* font;
+        double red, alpha;
+        NSTextAlignment alignment;
+        NSLineBreakMode mode;
+        double width;
+        NSString* text;
+    };
+    NSFont* font = [NSFont systemFontOfSize:10];
+    const auto left = NSLeftTextAlignment;
+    const auto wrapped = NSLineBreakByWordWrapping;
+    NSString* words = @"alpha beta gamma";
+    const Look looks[] = {
+        {font, 1, 1, left, wrapped, 60, words},
+        {[NSFont systemFontOfSize:10.5], 1, 1, left, wrapped, 60, words},
+        {[NSFont boldSystemFontOfSize:10], 1, 1, left, wrapped, 60, words},
+        {font, 0.5, 1, left, wrapped, 60, words},
+        {font, 1, 0.5, left, wrapped, 60, words},
+        {font, 1, 1, NSRightTextAlignment, wrapped, 60, words},
+        {font, 1, 1, left, NSLineBreakByTruncatingTail, 60, words},
+        {font, 1, 1, left, wrapped, 40, words},
+        {font, 1, 1, left, wrapped, 60, @"alpha beta gamme"},
+    };
+    const auto picture = [&](const Look& look) {
+        NSMutableParagraphStyle* style = [[[NSMutableParagraphStyle alloc] init] autorelease];
+        [style setAlignment:look.alignment];
+        [style setLineBreakMode:look.mode];
+        NSColor* color = [NSColor colorWithDeviceRed:look.red green:0 blue:0 alpha:look.alpha];
+        NSDictionary* attributes =
+            [NSDictionary dictionaryWithObjectsAndKeys:look.font, NSFontAttributeName, color,
+                                                       NSForegroundColorAttributeName, style,
+                                                       NSParagraphStyleAttributeName, nil];
+        Canvas canvas(80, 60);
+        draw(canvas, true, [&] {
+            [look.text drawInRect:NSMakeRect(0, 0, look.width, 60) withAttributes:attributes];
+        });
+        return canvas.bytes();
+    };
+    std::vector<std::vector<uint8_t>> pictures;
+    for (const Look& look : looks) {
+        const auto made = picture(look);
+        EXPECT_EQ(std::count(pictures.begin(), pictures.end(), made), 0) << pictures.size();
+        pictures.push_back(made);
+    }
+    for (int i = 0; i < 600; ++i) // more than anybody would keep
+        [[NSString stringWithFormat:@"%d", i] sizeWithAttributes:nil];
+    for (std::size_t i = 0; i < pictures.size(); ++i) EXPECT_EQ(picture(looks[i]), pictures[i]);
 }
 
 TEST_F(TextDrawing, DrawsNothingWithoutAContextOrText) {
