@@ -113,6 +113,7 @@ Pair idle_pair(int layers) {
 }
 
 constexpr double quarter_more = 1.25;
+constexpr int layer_counts[] = {1, 10, 100, 1000, 10000, 100000};
 
 int turns_for(long layers) {
     return static_cast<int>(std::clamp(200000 / layers, 5l, 201l));
@@ -123,7 +124,7 @@ int turns_for(long layers) {
 std::vector<Case> apply_cases() {
     std::vector<Case> cases;
     for (const Mode& mode : modes())
-        for (const int layers : {1, 10, 100, 1000, 10000, 100000})
+        for (const int layers : layer_counts)
             cases.push_back(
                 {std::string("apply: ") + mode.name, layers, turns_for(layers), quarter_more,
                  [&mode, layers] { return apply_pair(mode, layers); },
@@ -133,7 +134,7 @@ std::vector<Case> apply_cases() {
 
 std::vector<Case> idle_cases() {
     std::vector<Case> cases;
-    for (const int layers : {100, 10000, 100000})
+    for (const int layers : layer_counts)
         cases.push_back({"idle", layers, turns_for(layers), quarter_more,
                          [layers] { return idle_pair(layers); },
                          [layers] { ready_to_idle(layers, Rig::Plugin::direct); }});
