@@ -1,5 +1,6 @@
 #include "fuzz/events/UsersHands.h"
 
+#include <algorithm>
 #include <AppKit/NSDisplayStandIn.h>
 #include <Cocoa/Cocoa.h>
 
@@ -42,9 +43,17 @@ const Item& any(fuzz::Bytes& bytes, const Item (&items)[count]) {
 
 // A little around the rectangle, too.
 NSPoint place(fuzz::Bytes& bytes, NSRect r) {
-    const int width = static_cast<int>(NSWidth(r)), height = static_cast<int>(NSHeight(r));
+    const int width = std::max(static_cast<int>(NSWidth(r)), 0); // some rectangles are inside out
+    const int height = std::max(static_cast<int>(NSHeight(r)), 0);
     const double x = bytes.integer(-10, width + 10), y = bytes.integer(-10, height + 10);
     return NSMakePoint(NSMinX(r) + x, NSMinY(r) + y);
+}
+
+// Hands that aim at a control find one more often.
+NSView* some_view(fuzz::Bytes& bytes, NSView* view) {
+    for (auto depth = bytes.take<std::uint8_t>(); depth % 4 && [[view subviews] count]; depth /= 4)
+        view = [[view subviews] objectAtIndex:bytes.take<std::uint8_t>() % [[view subviews] count]];
+    return view;
 }
 
 void use(fuzz::Bytes& bytes, NSView* view) {
@@ -99,7 +108,7 @@ void fuzz::use_hands(Bytes& bytes) {
     if (how % 8 == 7)
         NSSetNextAlertAnswer(1 + how % 3);
     else
-        use(bytes, [window contentView]);
+        use(bytes, some_view(bytes, [window contentView]));
     if (how < 224) let_go();
 }
 

@@ -6,6 +6,7 @@
 #include "fuzz/events/UsersHands.h"
 #include "tests/ADMLibrary/support/FakeHost.h"
 
+#include <algorithm>
 #include <AppKit/NSDisplayStandIn.h>
 #include <Cocoa/Cocoa.h>
 #include <iterator>
@@ -64,8 +65,15 @@ class Program {
     static void answer(_Opaque_ADMDialog* dialog, _Opaque_ADMNotifier* notifier) {
         sADMDialog->DefaultNotify(dialog, notifier);
         if (!running || running->_bytes.empty() || running->_depth >= deepest) return;
+        const auto what = running->_bytes.take<std::uint8_t>();
+        if (what % 16 == 0) {
+            std::replace(std::begin(running->_dialogs), std::end(running->_dialogs), dialog,
+                         static_cast<_Opaque_ADMDialog*>(nullptr));
+            sADMDialog->Destroy(dialog);
+            return;
+        }
         ++running->_depth;
-        running->change(dialog, running->_bytes.take<std::uint8_t>());
+        running->change(dialog, what);
         --running->_depth;
     }
 
