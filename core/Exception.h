@@ -12,8 +12,10 @@ class Exception {
   public:
     explicit Exception(std::string text) : _message(std::move(text)) {}
     explicit Exception(const char* text) : _message(text ? text : "") {}
-    // Texts are not kept as resources, so that every identifier stands for the same words.
+    // Texts are not kept as resources, so that every identifier stands for the same words. (A
+    // literal 0 would be a text as well as a long: it is an identifier.)
     explicit Exception(unsigned long /*resourceID*/) : _message(_resource_text) {}
+    explicit Exception(int resourceID) : Exception(static_cast<unsigned long>(resourceID)) {}
     virtual ~Exception() = default;
 
     // Replaces the text by the format itself; the arguments are accepted and not formatted.
@@ -25,6 +27,10 @@ class Exception {
     template <typename... Values>
     void message(unsigned long /*resourceID*/, const Values&...) {
         _message = _resource_text;
+    }
+    template <typename... Values>
+    void message(int resourceID, const Values&... values) {
+        message(static_cast<unsigned long>(resourceID), values...);
     }
 
     const std::string& getMessage() const { return _message; }

@@ -19,7 +19,7 @@ class MatrixException : public MathException {
 // An element was addressed that the matrix does not have; the three numbers tell the access.
 class MatrixIndexOutOfRangeException : public MatrixException {
   public:
-    MatrixIndexOutOfRangeException(unsigned long resourceID, long, long, long)
+    explicit MatrixIndexOutOfRangeException(unsigned long resourceID, long = 0, long = 0, long = 0)
         : MatrixException(resourceID) {}
 };
 
@@ -54,14 +54,19 @@ class VectorInFocusException : public MatrixException {
   public:
     using MatrixException::MatrixException;
     // The sixteen values of the offending matrix may be told; they are not kept.
-    VectorInFocusException(unsigned long resourceID, const float (&)[16])
+    VectorInFocusException(unsigned long resourceID, const float* /*values*/)
         : MatrixException(resourceID) {}
 };
 
 // The library that throws them offers them under its own name too.
 namespace math {
+using ::InvalidMatrixSizeException;
 using ::MathException;
+using ::MatrixDifferentSizesException;
 using ::MatrixException;
+using ::MatrixIndexOutOfRangeException;
+using ::NoMultiplyableMatrixException;
+using ::NotSquareMatrixException;
 using ::SingularMatrix3DException;
 using ::VectorInFocusException;
 } // namespace math

@@ -13,6 +13,10 @@ V LinApprox(const V& a, const V& b, double s) {
     return a + (b - a) * s;
 }
 
+inline double LinApprox(double a, double b, double s) {
+    return LinApprox<double>(a, b, s);
+}
+
 // The cubic that runs from p0 at s = 0 to p1 at s = 1 with the tangents t0 and t1 there (Hermite's
 // form).
 template <typename V>
@@ -20,6 +24,10 @@ V HermitSpline(const V& p0, const V& p1, const V& t0, const V& t1, double s) {
     const double r = 1 - s;
     return p0 * (r * r * (1 + 2 * s)) + p1 * (s * s * (3 - 2 * s)) +
            LinApprox(t0, V(-t1), s) * (s * r);
+}
+
+inline double HermitSpline(double p0, double p1, double t0, double t1, double s) {
+    return HermitSpline<double>(p0, p1, t0, t1, s);
 }
 
 // A root of f in [a, b], where f(a) and f(b) differ in sign, to within 1e-12 |root| + tol / 2:

@@ -56,7 +56,7 @@ class TMatrix3D {
         return _m[4 * row + column];
     }
 
-    std::uint16_t flags() const { return _flags; }
+    std::uint16_t flags() const { return _flags & (rigid_flag | identity_flag); }
     bool is_rigid() const { return _flags & rigid_flag; }
     bool is_identity() const { return _flags & identity_flag; }
     // Works the flags out from the elements. Lengths of rows may differ from 1 by 2^-23, their
@@ -147,6 +147,10 @@ class TMatrix3D {
   private:
     inline static T acc = 0;
 
+    // Beside the rigid flag: row 3 is not (0, 0, 0, 1), since the matrix comes from a transposed
+    // one or has elements that are not finite. Products then take no short cut through it.
+    static constexpr std::uint16_t odd_last_row = 4;
+
     static bool near_one(T x) { return x >= T(0.9999998807907104) && x <= T(1.0000001192092896); }
     static bool near_zero(T x) { return x >= -T(smallest_float) && x <= T(smallest_float); }
     T row_product(int r, int k) const {
@@ -162,6 +166,7 @@ class TMatrix3D {
     [[noreturn]] static void throw_in_focus();
     TMatrix3D general_product(const TMatrix3D& b) const;
     bool rigid_product(const TMatrix3D& b, Pair<T> (&rows)[8]) const;
+    void note_last_row();
     void invert_rigid();
     void invert_general();
     [[noreturn]] static void throw_singular();

@@ -4,7 +4,6 @@
 
 #include "math/matrix.h"
 
-#include <bit>
 #include <cstdint>
 #include <limits>
 #include <type_traits>
@@ -58,27 +57,31 @@ struct InverseMasks {
                                           {none, none, none, all}};
     static constexpr Bits in_column[4][2] = {
         {left, none}, {right, none}, {none, left}, {none, right}};
-    // A magnitude with its place in the lowest four bits still compares like a magnitude, if two
-    // that differ by a few units in the last place may change places.
-    static constexpr Whole size_bits = std::numeric_limits<Whole>::max() - 15;
-    static constexpr Bits places[8] = {{0, 1}, {2, 3},   {4, 5},   {6, 7},
-                                       {8, 9}, {10, 11}, {12, 13}, {14, 15}};
+    static constexpr Whole size_bits = std::numeric_limits<Whole>::max(); // all but the sign
+    // From 1, as numbers, so that 0 is none.
+    static constexpr Pair<T> places[8] = {{1, 2},  {3, 4},   {5, 6},   {7, 8},
+                                          {9, 10}, {11, 12}, {13, 14}, {15, 16}};
 
     static Bits bits(Pair<T> pair) { return reinterpret_cast<Bits>(pair); }
     static Pair<T> numbers(Bits pair) { return reinterpret_cast<Pair<T>>(pair); }
 
-    // The largest element in what is open of the rows and columns: its place, or -1 when it is 0.
-    static int find_pivot(const Pair<T> (&m)[8], const Bits (&rows)[4], const Bits (&columns)[2]) {
-        const auto key = [&](int i) {
-            return numbers((bits(m[i]) & rows[i / 2] & columns[i % 2]) | places[i]);
-        };
-        const auto larger = [](Pair<T> a, Pair<T> b) { return a > b ? a : b; };
-        const Pair<T> upper = larger(larger(key(0), key(1)), larger(key(2), key(3)));
-        const Pair<T> lower = larger(larger(key(4), key(5)), larger(key(6), key(7)));
+    static Pair<T> larger(Pair<T> a, Pair<T> b) { return a > b ? a : b; }
+    static T largest(const Pair<T> (&of)[8]) {
+        const Pair<T> upper = larger(larger(of[0], of[1]), larger(of[2], of[3]));
+        const Pair<T> lower = larger(larger(of[4], of[5]), larger(of[6], of[7]));
         const Pair<T> best = larger(upper, lower);
-        const T largest = best[0] > best[1] ? best[0] : best[1];
-        const Whole found = std::bit_cast<Whole>(largest);
-        return found > 15 && largest == largest ? static_cast<int>(found & 15) : -1;
+        return best[0] > best[1] ? best[0] : best[1];
+    }
+
+    // The largest element in what is open of the rows and columns, of several the last: its place,
+    // or -1 when it is 0.
+    static int find_pivot(const Pair<T> (&m)[8], const Bits (&rows)[4], const Bits (&columns)[2]) {
+        Pair<T> sizes[8], found[8];
+        for (int i = 0; i < 8; ++i) sizes[i] = numbers(bits(m[i]) & rows[i / 2] & columns[i % 2]);
+        const T size = largest(sizes);
+        for (int i = 0; i < 8; ++i)
+            found[i] = numbers(Bits(sizes[i] == both(size)) & bits(places[i]));
+        return size > 0 ? static_cast<int>(largest(found)) - 1 : -1;
     }
 };
 

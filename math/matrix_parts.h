@@ -41,6 +41,7 @@ void TMatrix3D<T>::Transpose() {
     if (is_identity()) return;
     for (int r = 0; r < 4; ++r)
         for (int c = 0; c < r; ++c) std::swap(_m[4 * r + c], _m[4 * c + r]);
+    if (is_rigid()) note_last_row();
 }
 
 template <typename T>

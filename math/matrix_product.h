@@ -10,7 +10,7 @@
 
 namespace math {
 
-// The rigid case alone stands in the loops of callers, where compilers can take it apart.
+// The common rigid case alone stands in the loops of callers, where compilers can take it apart.
 template <typename T>
 inline TGeomVector3D<T> TMatrix3D<T>::operator*(const Vector& v) const {
     if (_flags == rigid_flag) return {row_times(0, v), row_times(1, v), row_times(2, v)};
@@ -26,6 +26,7 @@ template <typename T>
 template <typename T>
 [[gnu::noinline]] TGeomVector3D<T> TMatrix3D<T>::general_image(const Vector& v) const {
     if (is_identity()) return v;
+    if (is_rigid()) return {row_times(0, v), row_times(1, v), row_times(2, v)};
     const Pair<T> xy = load_pair(&v.x), z1 = {v.z, 1};
     const auto two_rows = [&](int r) {
         const Pair<T> a = load_pair(_m + 4 * r) * xy, b = load_pair(_m + 4 * r + 4) * xy;
@@ -66,8 +67,16 @@ template <typename T>
     return product;
 }
 
-// The rows 3 of both are (0, 0, 0, 1), so that a3 * b3 is 0 or the translation, as long as that is
-// finite: otherwise 0 times it would be none, and the result is false. Row by row, two pairs each.
+// Of a rigid matrix.
+template <typename T>
+[[gnu::cold, gnu::noinline]] void TMatrix3D<T>::note_last_row() {
+    const bool plain = _m[12] == 0 && _m[13] == 0 && _m[14] == 0 && _m[15] == 1;
+    _flags = flags() | (plain ? 0 : odd_last_row);
+}
+
+// The rows 3 of both are (0, 0, 0, 1), so that a3 * b3 is 0 or the translation, and that of the
+// product is the same, as long as all is finite: 0 times anything else would be none, and the
+// result is false. Row by row, two pairs each.
 template <typename T>
 inline bool TMatrix3D<T>::rigid_product(const TMatrix3D& b, Pair<T> (&rows)[8]) const {
     const Pair<T> left0 = load_pair(b._m), right0 = load_pair(b._m + 2);
@@ -85,8 +94,9 @@ inline bool TMatrix3D<T>::rigid_product(const TMatrix3D& b, Pair<T> (&rows)[8]) 
     fill_row(2);
     rows[6] = zero;
     rows[7] = Pair<T>{0, 1};
-    const Pair<T> sum = (rows[1] + rows[3]) + rows[5];
-    return sum[1] - sum[1] == 0;
+    const Pair<T> sums = ((rows[0] + rows[2]) + rows[4]) + ((rows[1] + rows[3]) + rows[5]);
+    const T sum = sums[0] + sums[1];
+    return sum - sum == 0;
 }
 
 // Both cases end in the same pairs, so that these need not go through memory before the copy that
@@ -97,7 +107,8 @@ inline TMatrix3D<T> TMatrix3D<T>::operator*(const TMatrix3D& b) const {
     Pair<T> rows[8];
     product._flags = rigid_flag;
     if (!(_flags == rigid_flag && b._flags == rigid_flag && rigid_product(b, rows))) {
-        const TMatrix3D general = general_product(b);
+        TMatrix3D general = general_product(b);
+        if (general.is_rigid()) general.note_last_row();
         for (int i = 0; i < 8; ++i) rows[i] = load_pair(general._m + 2 * i);
         product._flags = general._flags;
     }

@@ -102,7 +102,7 @@ Vector Fract(const Vector& p, const Vector& a, const Vector& b, const Vector& c,
         const Vector away = p - *k;
         const double weight = 1 / dot(away, away);
         weights += weight;
-        squares += weight * k->z * k->z;
+        squares += weight * (k->z * k->z);
     }
     const double mean = std::sqrt(squares / weights), h = p.z < 0 ? -mean : mean;
     return {p.x, p.y, h + Rand(h - p.z)};

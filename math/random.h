@@ -76,10 +76,10 @@ double Gauss();
 // A source of random numbers that can be read again and started over.
 class RandomNumber {
   public:
-    virtual ~RandomNumber() = default;
     virtual void reset() = 0;
     virtual double current() const = 0;
     virtual void do_next() = 0;
+    virtual ~RandomNumber() = default;
 };
 
 // Normal values of mean 0 and the given standard deviation (Box-Muller), from a state of its own.

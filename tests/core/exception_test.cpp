@@ -12,13 +12,14 @@ TEST(Exception, CarriesTheTextItWasMadeFrom) {
     EXPECT_EQ(core::Exception("no such layer").getMessage(), "no such layer");
     EXPECT_EQ(core::Exception(std::string("gone")).getMessage(), "gone");
     EXPECT_EQ(core::Exception(42ul).getMessage(), fixed_text);
+    EXPECT_EQ(core::Exception(0).getMessage(), fixed_text) << "an identifier, not a null text";
 }
 
 TEST(Exception, ReplacesItsTextByTheFormatUnformatted) {
     core::Exception e("first");
     e.message("%d of %d", 1, 2);
     EXPECT_EQ(e.getMessage(), "%d of %d");
-    e.message(7ul, "ignored");
+    e.message(0, "ignored");
     EXPECT_EQ(e.getMessage(), fixed_text);
 }
 

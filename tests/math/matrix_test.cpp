@@ -83,7 +83,8 @@ TEST(Matrix, ProductIsExactToTheLastBit) {
         M3 m = M3::BuildRotate(inputs.whole(0, 1) ? V3::Ex() : V3::Ey(), inputs.number(-3, 3));
         const V3 t = inputs.vector(inputs.whole(0, 20) ? 9 : 1e308);
         m(0, 3) = t.x, m(1, 3) = inputs.whole(0, 9) ? t.y : -0.0, m(2, 3) = t.z;
-        if (inputs.whole(0, 20) == 0) m(inputs.whole(0, 2), 3) = INFINITY;
+        if (inputs.whole(0, 20) == 0) m(inputs.whole(0, 2), inputs.whole(0, 3)) = INFINITY;
+        if (inputs.whole(0, 9) == 0) m.Transpose(); // still called rigid
         return m;
     };
     for (int n = 0; n < 4000; ++n) {
