@@ -15,6 +15,7 @@ struct ShownAlert {
 struct AlertRecord {
     std::vector<ShownAlert> shown;
     size_t next_answer = 1;   // the button, from 1, of the next panel alone
+    bool skip_next = false;   // the next one is not remembered
     bool interactive = false; // runs the panel even without a user
 };
 

@@ -84,7 +84,8 @@ std::vector<unsigned char> WindowServer::compose(int& width, int& height) {
     width = std::max(1, static_cast<int>(std::lround(size.width * scale)));
     height = std::max(1, static_cast<int>(std::lround(size.height * scale)));
     std::vector<unsigned char> pixels(static_cast<size_t>(width) * height * 4);
-    for (size_t i = 0; i < pixels.size(); ++i) pixels[i] = desktop_colour[i % 4];
+    for (size_t i = 0; i < pixels.size(); i += 4)
+        std::memcpy(pixels.data() + i, desktop_colour.data(), 4);
     const Picture screen = {pixels.data(), width, height};
     for (auto i = ordered_.rbegin(); i != ordered_.rend(); ++i) {
         NSWindow* window = *i;
@@ -93,7 +94,8 @@ std::vector<unsigned char> WindowServer::compose(int& width, int& height) {
         const NSRect frame = [window frame];
         const int left = static_cast<int>(std::lround(NSMinX(frame) * scale));
         const int top = static_cast<int>(std::lround((size.height - NSMaxY(frame)) * scale));
-        if (!NSEqualRects(frame, NSMakeRect(0, 0, size.width, size.height)))
+        // What goes from edge to edge lies beside the others, not above them.
+        if (frame.size.width < size.width)
             cast_shadow(screen, left, top, state.width, state.height, static_cast<int>(12 * scale));
         place(screen, state, left, top, [window isTransparent]);
     }
@@ -109,8 +111,11 @@ void WindowServer::update() {
     if (!stale_) return;
     stale_ = false;
     int width = 0, height = 0;
-    const std::vector<unsigned char> pixels = compose(width, height);
-    display_->present({pixels.data(), width, height});
+    std::vector<unsigned char> pixels = compose(width, height);
+    ++frames_;
+    if (pixels == shown_) return; // its size changes with the screen's alone
+    shown_ = std::move(pixels);
+    display_->present({shown_.data(), width, height});
 }
 
 } // namespace cocoa

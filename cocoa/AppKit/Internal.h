@@ -20,6 +20,14 @@ struct NSWindowState {
     int height = 0;
     double scale = 0;
     NSRect dirty = {{0, 0}, {0, 0}}; // base coordinates
+    // Controls that have been enabled, disabled or coloured since the window was last drawn, and
+    // how they were then: those that are the same again need no drawing.
+    struct Look {
+        NSControl* control; // not retained: it is taken out when it leaves the window
+        BOOL enabled;
+        NSColor* color; // of its text, retained; nil for none
+    };
+    std::vector<Look> looks;
 };
 
 @interface NSResponder (Internal)
@@ -50,8 +58,11 @@ struct NSWindowState {
 - (void)addDirtyRect:(NSRect)rect; // base coordinates
 - (void)prepareState;              // pixels of the right size and scale
 - (void)viewWillLeave:(NSView*)view;
+- (void)controlWillLookDifferent:(NSControl*)control; // enabled, or its text's colour
+- (void)forgetLooksOf:(NSView*)view;
 - (void)setVisibleFlag:(BOOL)flag;
 - (void)screenDidChange;
+- (void)tellTitle;     // to the display
 - (BOOL)isListed;      // NO for the windows of menus
 - (BOOL)isTransparent; // its pixels are blended, not copied
 - (NSView*)focusView;  // the view to ring
@@ -113,6 +124,10 @@ struct NSWindowState {
 @end
 
 namespace cocoa {
+
+// Of the application-defined event that stands for the user's wish to quit: whoever has a loop of
+// its own ends it and leaves the event to the application.
+constexpr short quit_subtype = 0x7175;
 
 // Draws a view tree into RGBA pixels of the given size (a multiple of the root's outside by
 // `scale`); `dirty` is in the coordinates outside the root.

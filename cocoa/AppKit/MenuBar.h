@@ -1,5 +1,5 @@
 // The menu bar at the top of the screen: the titles of the main menu's submenus, each of which
-// opens on a click.
+// opens on a click, the first on F10.
 #pragma once
 
 @class NSMenu;
@@ -9,5 +9,7 @@ namespace cocoa {
 // nil takes the bar away.
 void show_menu_bar(NSMenu* menu);
 void redraw_menu_bar();
+// Opens its first menu for the keyboard; false without a bar.
+bool open_menu_bar();
 
 } // namespace cocoa

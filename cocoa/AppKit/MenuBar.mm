@@ -15,6 +15,7 @@ using namespace cocoa;
     NSInteger _open;
 }
 - (void)finish:(NSMenuItem*)chosen;
+- (void)openMenu:(NSInteger)index from:(NSPoint)start pressed:(bool)pressed;
 @end
 
 @interface NSMenuBarWindow : NSMenuWindow
@@ -84,17 +85,20 @@ NSRect bar_rect() {
             [theme::accent() setFill];
             NSRectFill(NSMakeRect(NSMinX(rect), 0, NSWidth(rect), NSHeight(rect) - 1));
         }
-        theme::draw_line([self titleOf:i], rect, i == 0 ? theme::bold_font() : theme::menu_font(),
+        theme::draw_line([self titleOf:i], rect, theme::menu_font(),
                          i == _open ? theme::accent_text() : theme::text(), 2);
     }
 }
 
-// Opens the menu of a title and, as the mouse or the arrows go along the bar, those beside it.
 - (void)mouseDown:(NSEvent*)event {
+    [self openMenu:[self titleAt:[self convertPoint:[event locationInWindow] fromView:nil]]
+              from:[[self window] convertBaseToScreen:[event locationInWindow]]
+           pressed:true];
+}
+
+// Opens the menu of a title and, as the mouse or the arrows go along the bar, those beside it.
+- (void)openMenu:(NSInteger)index from:(NSPoint)start pressed:(bool)pressed {
     [[self retain] autorelease];
-    NSPoint start = [[self window] convertBaseToScreen:[event locationInWindow]];
-    NSInteger index = [self titleAt:[self convertPoint:[event locationInWindow] fromView:nil]];
-    bool pressed = true;
     NSMenuItem* chosen = nil;
     const NSInteger count = [[NSApp mainMenu] numberOfItems];
     while (index >= 0 && index < count && [self window]) {
@@ -107,6 +111,7 @@ NSRect bar_rect() {
         MenuTracker tracker;
         tracker.set_bar(bar, NSOffsetRect(title, NSMinX(bar), NSMinY(bar)));
         tracker.open(menu, NSMakePoint(NSMinX(title), NSMinY(bar)), 0, -1);
+        if (!pressed && start.x < 0) tracker.step(1);
         chosen = tracker.run(start, pressed);
         if (tracker.side_step()) {
             index = (index + tracker.side_step() + count) % count;
@@ -160,6 +165,14 @@ void show_menu_bar(NSMenu* menu) {
         [bar_window orderFront:nil];
     }
     redraw_menu_bar();
+}
+
+bool open_menu_bar() {
+    if (!bar_window) return false;
+    [(NSMenuBarView*)[bar_window contentView] openMenu:0
+                                                  from:NSMakePoint(-100, -100)
+                                               pressed:false];
+    return true;
 }
 
 void redraw_menu_bar() {

@@ -38,6 +38,10 @@ class MenuTracker {
     // screen, with `pressed` saying whether the button is still down.
     NSMenuItem* run(NSPoint start, bool pressed);
 
+    // Moves the highlight of the innermost list to the next item that can be chosen (1), or back
+    // (-1).
+    void step(int direction);
+
     // For the menu bar: the screen rectangle in which the tracker hands the mouse back to its
     // caller, but for the title of the open list, and which way the arrows left it (-1, 0, 1).
     void set_bar(NSRect bar, NSRect title) {
@@ -66,7 +70,6 @@ class MenuTracker {
     Verdict on_mouse(NSEvent* event);
     Verdict on_key(NSEvent* event);
     Verdict choose();
-    void step(int direction);
 
     std::vector<Level> levels_;
     NSPoint start_ = {0, 0};

@@ -221,14 +221,19 @@ NSMenuItem* MenuTracker::run(NSPoint start, bool pressed) {
     moved_ = !pressed;
     const NSUInteger mask = NSLeftMouseDownMask | NSLeftMouseUpMask | NSLeftMouseDraggedMask |
                             NSRightMouseDownMask | NSRightMouseUpMask | NSRightMouseDraggedMask |
-                            NSMouseMovedMask | NSScrollWheelMask | NSKeyDownMask | NSKeyUpMask;
+                            NSMouseMovedMask | NSScrollWheelMask | NSKeyDownMask | NSKeyUpMask |
+                            NSApplicationDefinedMask;
     while (!levels_.empty()) {
         NSEvent* event = [NSApp nextEventMatchingMask:mask
                                             untilDate:[NSDate distantFuture]
                                                inMode:NSEventTrackingRunLoopMode
                                               dequeue:YES];
         if (!event) return nil;
-        if ([event type] == NSKeyUp) continue;
+        if ([event type] == NSApplicationDefined && [event subtype] == quit_subtype) {
+            [NSApp postEvent:event atStart:YES];
+            return nil;
+        }
+        if ([event type] == NSKeyUp || [event type] == NSApplicationDefined) continue;
         const Verdict verdict = [event type] == NSKeyDown ? on_key(event) : on_mouse(event);
         if (verdict == Verdict::cancelled) return nil;
         if (verdict == Verdict::go_on) continue;

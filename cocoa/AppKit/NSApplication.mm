@@ -162,7 +162,7 @@ NSString* const NSApplicationWillTerminateNotification = @"NSApplicationWillTerm
     [old resignKeyWindow];
     // Whoever heard of it may have chosen another.
     if (_keyWindow != window || !window) return;
-    WindowServer::shared().display().set_title([[window title] UTF8String]);
+    [window tellTitle];
     [window becomeKeyWindow];
 }
 

@@ -1,5 +1,6 @@
 // The event queue, and who gets which event.
 #include "Internal.h"
+#include "MenuBar.h"
 #include "WindowServer.h"
 
 #include <algorithm>
@@ -86,6 +87,9 @@ NSString* const NSModalPanelRunLoopMode = @"NSModalPanelRunLoopMode";
 
 // Key equivalents: commands are looked for in the key window's views, then in the menu bar.
 - (BOOL)isKeyEquivalent:(NSEvent*)event {
+    NSString* key = [event charactersIgnoringModifiers];
+    if (!_modalWindow && [key length] == 1 && [key characterAtIndex:0] == NSF10FunctionKey)
+        return cocoa::open_menu_bar();
     if (!([event modifierFlags] & (NSCommandKeyMask | NSControlKeyMask))) return NO;
     if ([_keyWindow performKeyEquivalent:event]) return YES;
     return !_modalWindow && [_mainMenu performKeyEquivalent:event];
@@ -98,7 +102,9 @@ NSString* const NSModalPanelRunLoopMode = @"NSModalPanelRunLoopMode";
         if (![self isKeyEquivalent:event]) [_keyWindow sendEvent:event];
     } else if (type == NSKeyUp) {
         [_keyWindow sendEvent:event];
-    } else if (type != NSApplicationDefined) {
+    } else if (type == NSApplicationDefined) {
+        if ([event subtype] == cocoa::quit_subtype) [self terminate:self];
+    } else {
         NSWindow* window = [event window];
         // A modal window has the mouse for itself.
         if (_modalWindow && window != _modalWindow) return;

@@ -59,6 +59,32 @@ using namespace cocoa;
     [[self controlView] setNeedsDisplay:YES];
 }
 
+// The number of a button is its state.
+- (float)floatValue {
+    return [self state];
+}
+- (void)setFloatValue:(float)value {
+    [self setState:value != 0];
+}
+- (double)doubleValue {
+    return [self state];
+}
+- (void)setDoubleValue:(double)value {
+    [self setState:value != 0];
+}
+- (int)intValue {
+    return static_cast<int>([self state]);
+}
+- (void)setIntValue:(int)value {
+    [self setState:value != 0];
+}
+- (NSInteger)integerValue {
+    return [self state];
+}
+- (void)setIntegerValue:(NSInteger)value {
+    [self setState:value != 0];
+}
+
 - (NSInteger)nextState {
     switch (_buttonType) {
     case NSPushOnPushOffButton:
@@ -202,6 +228,41 @@ using namespace cocoa;
 }
 - (void)setKeyEquivalent:(NSString*)key {
     [(NSButtonCell*)[self cell] setKeyEquivalent:key];
+}
+
+// The radio buttons of one view that send the same action to the same target are a group.
+- (void)chooseRadioBeside:(NSInteger)direction {
+    NSArray* siblings = [[self superview] subviews];
+    const NSInteger count = (NSInteger)[siblings count];
+    NSInteger at = (NSInteger)[siblings indexOfObjectIdenticalTo:self];
+    for (NSInteger tries = 1; tries < count; ++tries) {
+        at = (at + direction + count) % count;
+        NSButton* other = [siblings objectAtIndex:(NSUInteger)at];
+        if (![other isKindOfClass:[NSButton class]] || ![other canBecomeKeyView]) continue;
+        if ([(NSButtonCell*)[other cell] buttonType] != NSRadioButton) continue;
+        if ([other action] != [self action] || [other target] != [self target]) continue;
+        [[self window] makeFirstResponder:other];
+        [other performClick:other];
+        return;
+    }
+}
+
+// Space presses any button. The arrows choose within a group of radio buttons; Return presses a
+// push button that has the focus, unless the window has a default button.
+- (void)keyDown:(NSEvent*)event {
+    NSString* characters = [event characters];
+    const unichar key = [characters length] == 1 ? [characters characterAtIndex:0] : 0;
+    const NSButtonType type = [(NSButtonCell*)[self cell] buttonType];
+    const BOOL back = key == NSUpArrowFunctionKey || key == NSLeftArrowFunctionKey;
+    const BOOL forward = key == NSDownArrowFunctionKey || key == NSRightArrowFunctionKey;
+    if (type == NSRadioButton && (back || forward)) {
+        [self chooseRadioBeside:back ? -1 : 1];
+    } else if (key == NSCarriageReturnCharacter && type != NSRadioButton &&
+               type != NSSwitchButton && ![[self window] performKeyEquivalent:event]) {
+        [self performClick:self];
+    } else {
+        [super keyDown:event];
+    }
 }
 
 - (BOOL)performKeyEquivalent:(NSEvent*)event {

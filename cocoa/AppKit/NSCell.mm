@@ -125,8 +125,11 @@ static NSString* shortest(Number value) {
 }
 - (void)setEnabled:(BOOL)flag {
     if (_enabled == !!flag) return;
+    NSView* view = [self controlView];
+    const BOOL is_controls = [view window] && [view isKindOfClass:[NSControl class]];
+    if (is_controls) [[view window] controlWillLookDifferent:(NSControl*)view];
     _enabled = !!flag;
-    [self changed];
+    if (!is_controls) [self changed];
 }
 - (BOOL)isBordered {
     return _bordered;

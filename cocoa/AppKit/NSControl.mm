@@ -85,7 +85,6 @@
         if ([[self window] firstResponder] == self) [[self window] makeFirstResponder:nil];
     }
     [_cell setEnabled:flag];
-    [self setNeedsDisplay:YES];
 }
 - (NSUInteger)alignment {
     return [(NSCell*)_cell alignment];
@@ -133,14 +132,16 @@
     return [_cell intValue];
 }
 - (void)setIntValue:(int)value {
-    [self setStringValue:[NSString stringWithFormat:@"%d", value]];
+    [self setIntegerValue:value];
 }
 - (NSInteger)integerValue {
     [self validateEditing];
     return [_cell integerValue];
 }
 - (void)setIntegerValue:(NSInteger)value {
-    [self setStringValue:[NSString stringWithFormat:@"%ld", value]];
+    const BOOL editing = [self abortEditing];
+    [_cell setIntegerValue:value];
+    if (editing) [[self window] makeFirstResponder:self];
 }
 
 - (void)sizeToFit {

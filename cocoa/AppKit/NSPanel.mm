@@ -10,6 +10,7 @@
 #include <AppKit/AppKit.h>
 #include <cmath>
 #include <cstdarg>
+#include <utility>
 
 using namespace cocoa;
 
@@ -162,9 +163,11 @@ NSInteger NSRunAlertPanel(NSString* title, NSString* format, NSString* defaultBu
         alert.codes.push_back(answers[i]);
     }
     AlertRecord& record = alert_record();
-    record.shown.push_back({[alert.title UTF8String], [alert.message UTF8String], {}});
-    for (NSString* button : alert.buttons)
-        record.shown.back().buttons.push_back([button UTF8String]);
+    if (!std::exchange(record.skip_next, false)) {
+        record.shown.push_back({[alert.title UTF8String], [alert.message UTF8String], {}});
+        for (NSString* button : alert.buttons)
+            record.shown.back().buttons.push_back([button UTF8String]);
+    }
     const size_t answer = record.next_answer;
     record.next_answer = 1;
     if (record.interactive || WindowServer::shared().display().has_user()) return run_panel(alert);

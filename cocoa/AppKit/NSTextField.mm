@@ -220,12 +220,14 @@ NSString* const NSControlTextDidEndEditingNotification = @"NSControlTextDidEndEd
         [self sendAction:[self action] to:[self target]];
 }
 
-// Escape.
+// Escape: what was typed is taken back, and the window's Cancel button is pressed where it has one.
 - (void)textDidCancel {
     if (!_editor) return;
     [_editor setString:_original];
     [_editor selectAll:nil];
     if (_edited) [[self cell] setStringValue:_original];
     _edited = NO;
+    NSEvent* event = [NSApp currentEvent];
+    if ([event type] == NSKeyDown) [[self window] performKeyEquivalent:event];
 }
 @end

@@ -51,11 +51,12 @@ using namespace cocoa;
     return _textColor;
 }
 - (void)setTextColor:(NSColor*)color {
-    if (color != _textColor) {
-        [_textColor release];
-        _textColor = [color retain];
-    }
-    [[self controlView] setNeedsDisplay:YES];
+    if (color == _textColor) return;
+    NSView* view = [self controlView];
+    if ([view isKindOfClass:[NSControl class]])
+        [[view window] controlWillLookDifferent:(NSControl*)view];
+    [_textColor release];
+    _textColor = [color retain];
 }
 
 - (BOOL)isFramed {

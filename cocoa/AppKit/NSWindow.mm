@@ -82,6 +82,11 @@ NSString* const NSWindowDidResignKeyNotification = @"NSWindowDidResignKeyNotific
     [_title release];
     _title = title ? [title copy] : @"";
     [_borderView setNeedsDisplay:YES];
+    if ([self isKeyWindow]) [self tellTitle];
+}
+// A window without a title (an alert) leaves the display's as it is.
+- (void)tellTitle {
+    if ([_title length]) WindowServer::shared().display().set_title([_title UTF8String]);
 }
 - (NSUInteger)styleMask {
     return _styleMask;

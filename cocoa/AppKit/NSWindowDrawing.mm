@@ -3,7 +3,9 @@
 #include "WindowServer.h"
 
 #include <algorithm>
+#include <AppKit/NSColor.h>
 #include <cmath>
+#include <utility>
 
 using cocoa::WindowServer;
 
@@ -37,8 +39,39 @@ static NSRect whole_pixels(NSRect rect, double scale, double height) {
                       (bottom - top) / scale);
 }
 
+static NSColor* text_color(NSControl* control) {
+    return [control respondsToSelector:@selector(textColor)] ? [(NSTextField*)control textColor]
+                                                             : nil;
+}
+
+- (void)controlWillLookDifferent:(NSControl*)control {
+    for (const NSWindowState::Look& look : _state->looks)
+        if (look.control == control) return;
+    _state->looks.push_back({control, [control isEnabled], [text_color(control) retain]});
+}
+
+- (void)forgetLooksOf:(NSView*)view {
+    std::erase_if(_state->looks, [view](const NSWindowState::Look& look) {
+        if (look.control != (NSControl*)view) return false;
+        [look.color release];
+        return true;
+    });
+}
+
+// A plug-in may disable everything and enable it again at each idle call: nothing of that is seen.
+- (void)drawWhatLooksDifferent {
+    for (const NSWindowState::Look& look : std::exchange(_state->looks, {})) {
+        NSColor* color = text_color(look.control);
+        const BOOL same_color = color == look.color || [color isEqual:look.color];
+        if ([look.control isEnabled] != look.enabled || !same_color)
+            [look.control setNeedsDisplay:YES];
+        [look.color release];
+    }
+}
+
 - (void)displayIfNeeded {
     [self prepareState];
+    [self drawWhatLooksDifferent];
     if (NSIsEmptyRect(_state->dirty)) return;
     const NSRect dirty = NSIntersectionRect(
         whole_pixels(_state->dirty, _state->scale, _frame.size.height), [_borderView frame]);

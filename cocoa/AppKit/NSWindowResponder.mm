@@ -44,6 +44,7 @@
 }
 
 - (void)viewWillLeave:(NSView*)view {
+    [self forgetLooksOf:view];
     if (_mouseView == view) _mouseView = nil;
     if (_initialFirstResponder == view) _initialFirstResponder = nil;
     if (_contentView == view) _contentView = nil;

@@ -19,11 +19,21 @@ void NSUseHeadlessDisplay(NSSize size, CGFloat scale) {
         cocoa::ScreenSize{size.width, size.height}, scale > 0 ? scale : 1));
 }
 
-BOOL NSUseWindowDisplay(NSString* title, NSSize size, CGFloat scale) {
-    auto display = cocoa::make_sdl_display([title UTF8String], { size.width, size.height }, scale);
+BOOL NSUseWindowDisplay(NSString* title, NSSize size, CGFloat scale, NSSize least) {
+    auto display = cocoa::make_sdl_display([title UTF8String], { size.width, size.height }, scale,
+                                           {least.width, least.height});
     if (!display) return NO;
     WindowServer::shared().set_display(std::move(display));
     return YES;
+}
+
+void NSUseLightAppearance(BOOL flag) {
+    cocoa::theme::use_light(flag);
+    for (NSWindow* window : WindowServer::shared().all()) [window setViewsNeedDisplay:YES];
+}
+
+NSUInteger NSFramesDrawn() {
+    return WindowServer::shared().frames();
 }
 
 void NSPostMouse(NSWindow* window, NSEventType type, NSPoint location, NSInteger clicks,
@@ -193,6 +203,10 @@ std::vector<NSShownAlert> NSShownAlerts() {
 }
 void NSForgetShownAlerts() {
     cocoa::alert_record().shown.clear();
+}
+
+void NSLeaveNextAlertOut() {
+    cocoa::alert_record().skip_next = true;
 }
 
 NSButtonType NSTypeOfButton(NSButton* button) {

@@ -1,4 +1,4 @@
-// The looks of what AppKit itself draws: one dark theme, in named colours and sizes.
+// The looks of what AppKit itself draws: named colours, dark or light, and sizes.
 #pragma once
 
 #include <Foundation/NSGeometry.h>
@@ -6,6 +6,8 @@
 @class NSColor, NSDictionary, NSFont, NSString;
 
 namespace cocoa::theme {
+
+void use_light(bool flag); // dark at first
 
 NSColor* desktop();
 NSColor* window();

@@ -11,53 +11,63 @@ static NSColor* rgb(unsigned hex, double alpha = 1) {
                                  alpha:alpha];
 }
 
+static bool light = false;
+
+void use_light(bool flag) {
+    light = flag;
+}
+
+static NSColor* either(unsigned dark_hex, unsigned light_hex) {
+    return rgb(light ? light_hex : dark_hex);
+}
+
 NSColor* desktop() {
-    return rgb(0x141416);
+    return either(0x141416, 0x8e8e93);
 }
 NSColor* window() {
-    return rgb(0x262628);
+    return either(0x262628, 0xececee);
 }
 NSColor* title_bar(bool key) {
-    return rgb(key ? 0x38383b : 0x2c2c2e);
+    return key ? either(0x38383b, 0xdcdcdf) : either(0x2c2c2e, 0xe6e6e8);
 }
 NSColor* outline() {
-    return rgb(0x0b0b0c);
+    return either(0x0b0b0c, 0xa6a6aa);
 }
 NSColor* menu() {
-    return rgb(0x303033);
+    return either(0x303033, 0xf4f4f6);
 }
 NSColor* separator() {
-    return rgb(0x4a4a4e);
+    return either(0x4a4a4e, 0xc8c8cc);
 }
 NSColor* text() {
-    return rgb(0xdedee0);
+    return either(0xdedee0, 0x1d1d1f);
 }
 NSColor* dim_text() {
-    return rgb(0x808084);
+    return either(0x808084, 0x8a8a8e);
 }
 NSColor* accent() {
-    return rgb(0x2f7de1);
+    return either(0x2f7de1, 0x1f6fd6);
 }
 NSColor* accent_text() {
     return rgb(0xffffff);
 }
 NSColor* button() {
-    return rgb(0x4a4a4e);
+    return either(0x4a4a4e, 0xffffff);
 }
 NSColor* button_pressed() {
-    return rgb(0x2f7de1);
+    return either(0x2f7de1, 0x1f6fd6);
 }
 NSColor* button_outline() {
-    return rgb(0x161618);
+    return either(0x161618, 0xb0b0b4);
 }
 NSColor* field() {
-    return rgb(0x1a1a1c);
+    return either(0x1a1a1c, 0xffffff);
 }
 NSColor* field_outline() {
-    return rgb(0x58585c);
+    return either(0x58585c, 0xb4b4b8);
 }
 NSColor* knob() {
-    return rgb(0xc4c4c8);
+    return either(0xc4c4c8, 0xffffff);
 }
 NSColor* neutral(double alpha) {
     return rgb(0x808084, alpha);

@@ -42,6 +42,7 @@ class WindowServer {
     // Draws the windows that need it and brings them to the display, if anybody sees it.
     void update();
     void screen_needs_update() { stale_ = true; }
+    unsigned long frames() const { return frames_; }
     // The screen as it looks: RGBA, rows top to bottom.
     std::vector<unsigned char> compose(int& width, int& height);
 
@@ -61,6 +62,9 @@ class WindowServer {
     bool right_pressed_ = false;
     int moves_ = 0;
     bool stale_ = true;
+    std::vector<unsigned char>
+        shown_; // what the display has; empty when it must get the screen anew
+    unsigned long frames_ = 0;
     NSPoint mouse_ = {0, 0};
 };
 

@@ -72,6 +72,7 @@ void WindowServer::order_out(NSWindow* window) {
 
 void WindowServer::screen_changed() {
     stale_ = true;
+    shown_.clear();
     const std::vector<NSWindow*> windows = all_;
     for (NSWindow* window : windows)
         if (std::find(all_.begin(), all_.end(), window) != all_.end()) [window screenDidChange];
@@ -97,8 +98,15 @@ NSEvent* WindowServer::translate(const DisplayEvent& event) {
         screen_changed();
         return nil;
     case Kind::quit:
-        [NSApp performSelector:@selector(terminate:) withObject:nil];
-        return nil;
+        return [NSEvent otherEventWithType:NSApplicationDefined
+                                  location:NSZeroPoint
+                             modifierFlags:0
+                                 timestamp:[NSDate timeIntervalSinceReferenceDate]
+                              windowNumber:0
+                                   context:nil
+                                   subtype:quit_subtype
+                                     data1:0
+                                     data2:0];
     default:
         return translate_mouse(event);
     }

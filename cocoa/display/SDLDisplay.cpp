@@ -25,7 +25,7 @@ struct FunctionKey {
     SDL_Keycode key;
     unsigned character;
 };
-constexpr std::array<FunctionKey, 17> function_keys = {{{SDLK_RETURN, 0x0d},
+constexpr std::array<FunctionKey, 18> function_keys = {{{SDLK_RETURN, 0x0d},
                                                         {SDLK_KP_ENTER, 0x03},
                                                         {SDLK_TAB, 0x09},
                                                         {SDLK_ESCAPE, 0x1b},
@@ -41,7 +41,8 @@ constexpr std::array<FunctionKey, 17> function_keys = {{{SDLK_RETURN, 0x0d},
                                                         {SDLK_PAGEDOWN, 0xf72d},
                                                         {SDLK_F1, 0xf704},
                                                         {SDLK_F2, 0xf705},
-                                                        {SDLK_F5, 0xf708}}};
+                                                        {SDLK_F5, 0xf708},
+                                                        {SDLK_F10, 0xf70d}}};
 
 unsigned function_character(SDL_Keycode key) {
     for (const FunctionKey& entry : function_keys)
@@ -260,7 +261,8 @@ std::unique_ptr<Display> give_up(const char* step) {
 
 } // namespace
 
-std::unique_ptr<Display> make_sdl_display(const std::string& title, ScreenSize size, double scale) {
+std::unique_ptr<Display> make_sdl_display(const std::string& title, ScreenSize size, double scale,
+                                          ScreenSize least) {
     SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
     if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) return give_up("video");
     if (!(scale > 0)) scale = desktop_scale();
@@ -269,7 +271,8 @@ std::unique_ptr<Display> make_sdl_display(const std::string& title, ScreenSize s
                          static_cast<int>(std::lround(size.width * scale)),
                          static_cast<int>(std::lround(size.height * scale)), SDL_WINDOW_RESIZABLE);
     if (!window) return give_up("window");
-    SDL_SetWindowMinimumSize(window, 320, 200);
+    SDL_SetWindowMinimumSize(window, static_cast<int>(std::lround(least.width * scale)),
+                             static_cast<int>(std::lround(least.height * scale)));
     SDL_Renderer* renderer = SDL_CreateRenderer(window, -1, SDL_RENDERER_SOFTWARE);
     if (!renderer) {
         SDL_DestroyWindow(window);

@@ -9,7 +9,9 @@
 namespace cocoa {
 
 // nullptr, with the reason on standard error, when there is no desktop to open a window on. The
-// size is in points; a scale of 0 stands for the desktop's own.
-std::unique_ptr<Display> make_sdl_display(const std::string& title, ScreenSize size, double scale);
+// sizes are in points, `least` being the smallest that the user can give it; a scale of 0 stands
+// for the desktop's own.
+std::unique_ptr<Display> make_sdl_display(const std::string& title, ScreenSize size, double scale,
+                                          ScreenSize least);
 
 } // namespace cocoa

@@ -22,7 +22,10 @@
 void NSUseHeadlessDisplay(NSSize size, CGFloat scale);
 // In one window of the desktop, which is the whole screen; scale 0: the desktop's own. NO, with the
 // reason on standard error and the display as it was, when there is no desktop.
-BOOL NSUseWindowDisplay(NSString* title, NSSize size, CGFloat scale);
+// The user can make the window no smaller than `least`.
+BOOL NSUseWindowDisplay(NSString* title, NSSize size, CGFloat scale, NSSize least = {320, 200});
+// What AppKit draws by itself: dark at first, or light.
+void NSUseLightAppearance(BOOL flag);
 
 // Events. Locations are in the window's base coordinates (or, with a view, in the view's); clicks
 // and keys are a press and a release. Keys go to the key window.
@@ -54,6 +57,9 @@ NSPicture NSRenderView(NSView* view, CGFloat scale);
 NSPicture NSRenderWindow(NSWindow* window, CGFloat scale);
 // The screen with all windows on it, at the display's scale.
 NSPicture NSRenderScreen();
+// How often the screen was put together because something on it was drawn. It is brought to the
+// display only when it looks different from the time before.
+NSUInteger NSFramesDrawn();
 // What was drawn in the window so far, at the display's scale: drawing outside the display cycle,
 // such as a pressed button's, is there and nowhere else.
 NSPicture NSWindowPixels(NSWindow* window);
@@ -70,6 +76,7 @@ struct NSShownAlert {
 };
 std::vector<NSShownAlert> NSShownAlerts(); // oldest first
 void NSForgetShownAlerts();
+void NSLeaveNextAlertOut(); // the next one is not remembered
 
 // Controls.
 NSButtonType NSTypeOfButton(NSButton* button);

@@ -59,6 +59,7 @@ enum : unsigned short {
     NSLeftArrowFunctionKey = 0xF702,
     NSRightArrowFunctionKey = 0xF703,
     NSF1FunctionKey = 0xF704,
+    NSF10FunctionKey = 0xF70D,
     NSDeleteFunctionKey = 0xF728,
     NSHomeFunctionKey = 0xF729,
     NSEndFunctionKey = 0xF72B,

@@ -143,6 +143,28 @@ TEST_F(ControlTest, TheKeyboardReachesEveryControl) {
     EXPECT_EQ([window firstResponder], [content viewWithTag:2]);
 }
 
+TEST_F(ControlTest, ArrowsChooseWithinAGroupAndReturnPressesTheButtonWithTheFocus) {
+    for (int tag = 1; tag <= 4; ++tag)
+        button(NSMakeRect(0, tag * 20, 60, 20), tag == 2 ? NSSwitchButton : NSRadioButton, tag);
+    [(NSButton*)[content viewWithTag:3] setEnabled:NO];
+    button(NSMakeRect(0, 100, 60, 20), NSRadioButton, 5);
+    [(NSButton*)[content viewWithTag:5] setTarget:nil]; // of no group
+    button(NSMakeRect(0, 120, 60, 20), NSMomentaryPushInButton, 6);
+    [window makeFirstResponder:[content viewWithTag:1]];
+    for (unichar arrow : {NSDownArrowFunctionKey, NSRightArrowFunctionKey, NSUpArrowFunctionKey}) {
+        key(arrow);
+        EXPECT_EQ([(NSButton*)[window firstResponder] state], NSOnState);
+    }
+    EXPECT_THAT(take_log(), ElementsAre("4", "1", "4")) << "round, over what is disabled";
+    [window makeFirstResponder:[content viewWithTag:6]];
+    key('\r');
+    EXPECT_THAT(take_log(), ElementsAre("6"));
+    [window makeFirstResponder:[content viewWithTag:2]];
+    key('\r');
+    key(NSDownArrowFunctionKey);
+    EXPECT_THAT(take_log(), testing::IsEmpty());
+}
+
 TEST_F(ControlTest, NumbersShowTheirShortestDigits) {
     NSTextField* f = field(NSMakeRect(0, 0, 80, 20), @"", 0);
     struct Case {
@@ -163,6 +185,17 @@ TEST_F(ControlTest, NumbersShowTheirShortestDigits) {
     EXPECT_EQ([f intValue], 12);
     [f setStringValue:@"abc"];
     EXPECT_EQ([f floatValue], 0);
+}
+
+TEST_F(ControlTest, AButtonsNumberIsItsState) {
+    NSButton* b = button(NSMakeRect(10, 10, 60, 20), NSSwitchButton, 5);
+    [b setTitle:@"7"];
+    [b setFloatValue:0.5f];
+    EXPECT_EQ([b intValue], NSOnState);
+    [b setIntValue:0];
+    EXPECT_EQ([b state], NSOffState);
+    EXPECT_EQ([b doubleValue], 0);
+    EXPECT_EQ(text([b title]), "7");
 }
 
 TEST_F(ControlTest, ASliderFollowsTheMouseAndStaysInItsBounds) {

@@ -65,6 +65,15 @@ TEST_F(TextTest, EscapeBringsBackTheTextFromBefore) {
     EXPECT_THAT(take_log(), IsEmpty());
 }
 
+TEST_F(TextTest, EscapePressesTheCancelButtonFromWithinAField) {
+    [button(NSMakeRect(10, 70, 60, 20), NSMomentaryPushInButton, 3) setKeyEquivalent:@"\033"];
+    [window makeFirstResponder:one];
+    type(@"zzz");
+    key(NSEscapeCharacter);
+    EXPECT_EQ(text([one stringValue]), "one");
+    EXPECT_THAT(take_log(), ElementsAre("3=Button"));
+}
+
 TEST_F(TextTest, KeysEditAsTheyShould) {
     constexpr NSUInteger S = NSShiftKeyMask, C = NSControlKeyMask;
     struct Step {

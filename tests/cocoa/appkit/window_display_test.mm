@@ -85,6 +85,54 @@ TEST_F(WindowDisplayTest, TheDesktopsMouseAndKeysReachTheControls) {
     EXPECT_NE([f currentEditor], nil);
 }
 
+@interface QuitRefuser : NSObject <NSApplicationDelegate> {
+  @public
+    int asked;
+}
+@end
+@implementation QuitRefuser
+- (NSApplicationTerminateReply)applicationShouldTerminate:(NSApplication*)__attribute__((unused))
+                                                          app {
+    ++asked;
+    return NSTerminateCancel;
+}
+@end
+
+TEST_F(WindowDisplayTest, ClosingTheWindowAsksWhoeverRunsIt) {
+    QuitRefuser* refuser = [[[QuitRefuser alloc] init] autorelease];
+    [NSApp setDelegate:refuser];
+    SDL_Event quit = {};
+    quit.type = SDL_QUIT;
+    SDL_PushEvent(&quit);
+    drain();
+    EXPECT_EQ(refuser->asked, 1);
+    NSPopUpButton* list = pop_up(NSMakeRect(10, 10, 100, 20), {@"one", @"two"}, 1);
+    push_button(SDL_MOUSEBUTTONDOWN,
+                pixel(list)); // opens it; closing chooses nothing, then it asks
+    push_button(SDL_MOUSEBUTTONUP, pixel(list));
+    SDL_PushEvent(&quit);
+    drain();
+    EXPECT_EQ(refuser->asked, 2);
+    EXPECT_THAT(take_log(), testing::IsEmpty());
+    [NSApp setDelegate:nil];
+}
+
+TEST_F(WindowDisplayTest, BringsToTheScreenWhatIsDrawnAndCountsIt) {
+    const NSUInteger before = NSFramesDrawn();
+    drain();
+    EXPECT_EQ(NSFramesDrawn(), before) << "nothing is drawn without a cause";
+    NSButton* b = button(NSMakeRect(200, 100, 60, 20), NSSwitchButton, 2);
+    drain();
+    EXPECT_EQ(NSFramesDrawn(), before + 1);
+    const auto dark = NSRenderView(b, 1).rgba;
+    NSUseLightAppearance(YES);
+    EXPECT_NE(NSRenderView(b, 1).rgba, dark);
+    drain();
+    NSUseLightAppearance(NO);
+    EXPECT_EQ(NSFramesDrawn(), before + 2);
+    EXPECT_EQ(NSRenderView(b, 1).rgba, dark);
+}
+
 TEST_F(WindowDisplayTest, TheScreenIsTheWindowsSize) {
     EXPECT_EQ([[NSScreen mainScreen] frame].size.width, 800);
     EXPECT_EQ([[NSScreen mainScreen] backingScaleFactor], 2);
