@@ -18,8 +18,8 @@ void unbind_and_destroy(_Opaque_ADMDialog* dialog) {
 } // namespace
 
 BaseADMDialog::~BaseADMDialog() {
-    if (!_handle || _modal) return;
-    unbind_and_destroy(_handle);
+    if (_modal) return;
+    if (_handle) unbind_and_destroy(_handle);
     _handle = nullptr;
     // A host may have made its panel several times; the dialogs of the earlier ones still name this
     // wrapper.

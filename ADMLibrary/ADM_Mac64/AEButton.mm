@@ -85,7 +85,8 @@ void set_antialiasing(bool on) {
 
 void DrawAEButton(CGRect frame, NSString* title, int state) {
     const short* colors = colors_of(state);
-    const NSRect face = NSInsetRect(frame, 1, 1);
+    const NSRect face = NSMakeRect(frame.origin.x + 1, frame.origin.y + 1, frame.size.width - 2,
+                                   frame.size.height - 1);
     draw_face(face, colors, state != kAEButtonDisabled);
 
     adm::set_antialiasing(false);

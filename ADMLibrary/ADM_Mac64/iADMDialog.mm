@@ -128,7 +128,9 @@ iADMDialog* iADMDialog::CreatePanel(const char* name, ADMDialogInitProc init, vo
     if (panelFunctions) *panelFunctions = {S_GetSnapSizes, nullptr, nullptr};
     if (refcon) *refcon = reinterpret_cast<_AEGP_PanelRefcon*>(adm::handle(dialog));
     if (hostView) dialog->make_panel_view(hostView);
-    return finish(dialog, init);
+    iADMDialog* made = finish(dialog, init);
+    if (!made && refcon) *refcon = nullptr; // the host may ask for snap sizes all the same
+    return made;
 }
 
 iADMItem* iADMDialog::GetItem(int id) {

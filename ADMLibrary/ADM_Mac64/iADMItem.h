@@ -61,6 +61,8 @@ class iADMItem : public iADMItemBase {
     void SetBoundsRect(const Rect* r);
     void SetLocalRect(const Rect* r);
     void GetBestSize(Point* out) const;
+    // Gives the item its text label and lays item and label out.
+    void makeLabel(NSString* text);
 
     iADMList* GetList();
 
@@ -69,9 +71,6 @@ class iADMItem : public iADMItemBase {
   private:
     // Makes the views that the type asks for; an unknown type has none.
     void make_views();
-    // Gives the item its text label and lays item and label out.
-    void makeLabel(NSString* text);
-
     // What is measured and laid out as the item's own view; nil if there is none.
     NSView* view() const;
     Rect best_rect() const;

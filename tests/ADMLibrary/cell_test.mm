@@ -63,7 +63,7 @@ void expect_where(const Canvas& canvas, Rgb color, bool is_there, std::vector<NS
 
 } // namespace
 
-// A button of {0, 0, 58, 20}: the face at {1, 1, 56, 18}, its outline over that, the bottom line
+// A button of {0, 0, 58, 20}: the face at {1, 1, 56, 19}, its outline over that, the bottom line
 // from (0, 20) to (58, 20), the side edges 1 wide.
 TEST_F(CellTest, APushButtonUsesTheColoursOfItsState) {
     struct Case {
@@ -81,14 +81,15 @@ TEST_F(CellTest, APushButtonUsesTheColoursOfItsState) {
         Canvas canvas(60, 22);
         paint(cell, NSMakeRect(0, 0, 58, 20), c.pressed);
         for (double y : {4.0, 10.0, 16.0})
-            expect_near(canvas, 5, y, face(c.face, (y - 1) / 18, c.enabled));
+            expect_near(canvas, 5, y, face(c.face, (y - 1) / 19, c.enabled));
         const Rgb edge = FakeHost::color(c.edge);
-        expect_where(canvas, edge, true, {{1, 20.2}, {57, 20.2}});
+        expect_where(canvas, edge, true, {{0.2, 20.2}, {57.8, 20.2}});
         expect_where(canvas, Canvas::kWhite, true, {{29, 20.7}, {59, 10}});
         // The sides, a fifth strong at their top, outside the outline, which covers half of them.
         expect_near(canvas, 0.2, 18.9, blend(Canvas::kWhite, edge, 0.95), 8);
         expect_near(canvas, 57.8, 1, blend(Canvas::kWhite, edge, 0.24), 8);
-        expect_where(canvas, FakeHost::color(c.outline), true, {{29, 0.7}, {0.7, 10}, {56.7, 10}});
+        expect_where(canvas, FakeHost::color(c.outline), true,
+                     {{29, 0.7}, {0.7, 10}, {56.7, 10}, {29, 20.2}});
         const Rgb title = FakeHost::color(c.title);
         EXPECT_GT(canvas.count(NSMakeRect(20, 3, 18, 12), title), 100);
         EXPECT_EQ(canvas.count(NSMakeRect(2, 15, 54, 4), title), 0); // it stands above the middle
@@ -113,7 +114,7 @@ TEST_F(CellTest, ACheckBoxIsABoxAboveTheMiddleWithATickBeyondIt) {
         SCOPED_TRACE(c.face);
         Canvas canvas(24, 24);
         paint(new_cell<AECheckBoxCell>(c.enabled, c.on), NSMakeRect(0, 4, 16, 16), c.pressed);
-        expect_where(canvas, FakeHost::color(c.outline), true, {{8, 4.7}, {2.7, 10}});
+        expect_where(canvas, FakeHost::color(c.outline), true, {{8, 4.7}, {2.7, 10}, {8, 16.2}});
         expect_where(canvas, Canvas::kWhite, true, {{8, 17}});
         expect_near(canvas, 11, 14, face(c.face, 0.9, c.enabled));
         const Rgb tick = FakeHost::color(c.tick);

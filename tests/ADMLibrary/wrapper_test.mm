@@ -80,10 +80,15 @@ TEST_F(WrapperTest, DestroyingTheDialogDeletesTheWrapperUnlessItIsToStay) {
 }
 
 TEST_F(WrapperTest, AFailingInitLeavesTheWrapperToItsOwner) {
-    LoggingDialog wrapper(9);
-    EXPECT_EQ(panel(wrapper), nullptr);
-    EXPECT_EQ(wrapper.handle(), nullptr);
-    EXPECT_EQ(calls, (Calls{"init bound", "destroy"}));
+    auto wrapper = std::make_unique<LoggingDialog>();
+    panel(*wrapper);
+    wrapper->result = 9;
+    EXPECT_EQ(panel(*wrapper), nullptr);
+    EXPECT_EQ(wrapper->handle(), nullptr);
+    EXPECT_EQ(_refcon, nullptr);
+    EXPECT_EQ(calls, (Calls{"init bound", "init bound", "destroy"}));
+    EXPECT_EQ(panels(), 1u); // the earlier one, which goes with the wrapper
+    wrapper.reset();
     EXPECT_EQ(panels(), 0u);
 }
 
@@ -106,6 +111,16 @@ TEST_F(WrapperTest, AnItemAsAnObjectReadsAndWritesItsOwnNumbers) {
     EXPECT_EQ(sADMItem->GetUserData(item), nullptr);
     put(item, "4"); // the item stays with its dialog, as it was without a wrapper
     EXPECT_EQ(sADMItem->GetFloatValue(item), 4);
+}
+
+TEST_F(WrapperTest, AButtonThatIsWrappedKeepsItsTitle) {
+    for (const char* type : {kADMTextPushButtonType, kADMTextCheckBoxType}) {
+        _Opaque_ADMItem* item = add(type, {0, 0, 20, 80});
+        sADMItem->SetText(item, "Title");
+        NSString* before = [(NSButton*)control_of(item) title];
+        const BaseADMItem wrapper(item, nullptr);
+        EXPECT_TRUE([[(NSButton*)control_of(item) title] isEqualToString:before]);
+    }
 }
 
 TEST_F(WrapperTest, APictureIsDrawnThroughAnImageOfItsSize) {
