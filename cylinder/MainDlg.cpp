@@ -164,15 +164,40 @@ CylinderOptions MainDlg::read_options() const {
 A_Err MainDlg::get_layers_pos() {
     if (layers.empty()) return A_Err_NONE;
     constrain_layers();
-    const CylinderOptions options = read_options();
-    if (options.distribute_randomly) {
-        math::SetRand(std::time(nullptr));
-        pos_randomly(layers, options);
-    } else {
-        pos_use_dist(layers, options);
-    }
-    orient_layers(layers, options, camera_orient);
-    if (options.scale_to_fit) scale_layers_to_fit(layers, options);
-    if (options.scale_to_size) scale_layers_conform(layers, options);
+    _options = read_options();
+    if (_options->distribute_randomly)
+        pos_randomly();
+    else
+        pos_use_dist();
+    orient_layers();
+    if (_options->scale_to_fit) scale_layers_to_fit();
+    if (_options->scale_to_size) scale_layers_conform();
+    _options.reset();
     return A_Err_NONE;
+}
+
+void MainDlg::pos_use_dist() {
+    ::pos_use_dist(layers, options());
+}
+
+void MainDlg::pos_randomly() {
+    math::SetRand(std::time(nullptr));
+    ::pos_randomly(layers, options());
+}
+
+void MainDlg::orient_layers() {
+    ::orient_layers(layers, options(), camera_orient);
+}
+
+void MainDlg::scale_layers_to_fit() {
+    ::scale_layers_to_fit(layers, options());
+}
+
+void MainDlg::scale_layers_conform() {
+    ::scale_layers_conform(layers, options());
+}
+
+double MainDlg::downscale(const math::TGeomVector3D<double>& p1,
+                          const math::TGeomVector3D<double>& p2) const {
+    return ::downscale(p1, p2, options().size);
 }

@@ -6,6 +6,8 @@
 #include "common/adobe/AssistantDlg.h"
 #include "cylinder/CylinderOptions.h"
 
+#include <optional>
+
 class MainDlg : public AssistantDlg {
   public:
     explicit MainDlg(int plugin_id);
@@ -23,6 +25,18 @@ class MainDlg : public AssistantDlg {
     std::string get_name() const override;
     bool is_distributor() override;
 
+    // The steps of the pass over `layers`, one by one: what placement.h, orientation.h and
+    // scaling.h do, with the options as the pass has read them, or as the controls have them
+    // outside of it.
+    void pos_use_dist();
+    void pos_randomly(); // seeds the generator from the clock first
+    void orient_layers();
+    void scale_layers_to_fit();
+    void scale_layers_conform();
+    // The fraction of the way from `p1` to `p2` at which it leaves the cylinder, 1 if it does not.
+    double downscale(const math::TGeomVector3D<double>& p1,
+                     const math::TGeomVector3D<double>& p2) const;
+
   protected:
     // Every option as its control has it now.
     CylinderOptions read_options() const;
@@ -35,4 +49,9 @@ class MainDlg : public AssistantDlg {
     void enable_conform();
     void enable_distance();
     void enable_camera();
+
+  private:
+    CylinderOptions options() const { return _options ? *_options : read_options(); }
+
+    std::optional<CylinderOptions> _options; // during the placement pass
 };

@@ -38,7 +38,7 @@ void pos_use_dist(std::list<LayerInfo>& layers, const CylinderOptions& options) 
             const double u2 = math::Rand();
             const double u3 = math::Rand();
             theta += (u1 * angle.span() + angle.min + angle.increment * i) * radians_per_degree;
-            h = limited(h + (u2 * height.span() + height.min + height.increment * i), b);
+            h = limited(h + u2 * height.span() + height.min + height.increment * i, b);
             const double d = limited(u3 * distance.span() + distance.min + distance.increment * i,
                                      radius_towards(theta, a, c));
             pos = {d * std::cos(theta), -h, -d * std::sin(theta)};

@@ -118,7 +118,7 @@ A_Err AssistantDlg::collect_selected_layers(A_u_long count) {
         if (const A_Err err =
                 suites.CollectionSuite1().AEGP_GetCollectionItemByIndex(selection, i, &found))
             return err;
-        if (found.type != AEGP_CollectionItemType_LAYER) continue;
+        if (found.type != AEGP_CollectionItemType_LAYER || !found.layerH) continue;
         AEGP_ObjectType type = AEGP_ObjectType_AV;
         if (const A_Err err = suites.LayerSuite5().AEGP_GetLayerObjectType(found.layerH, &type))
             return err;
@@ -207,7 +207,7 @@ A_Err AssistantDlg::apply_to_layers() {
     const bool orient_changed = is_orient_changed();
     const bool key_orient = is_key_orient(), key_pos = is_key_pos(), key_scale = is_key_scale();
     const math::TGeomVector3D<double> offset = get_offset();
-    const AEGP_StreamValue zero{};
+    AEGP_StreamValue zero{}; // not const: the stream writer notes the stream in it
     for (LayerInfo& record : layers) {
         if (record.is_copy && !(record.layer = clone(record.layer))) continue;
         const auto put = [&](AEGP_LayerStream stream, const AEGP_StreamValue& value, bool key) {

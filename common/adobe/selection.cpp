@@ -73,6 +73,7 @@ A_Err AssistantDlg::save_selection() {
     // A composition of unknown size is no reason to give up the selection.
     suites.ItemSuite3().AEGP_GetItemDimensions(item, &comp_width, &comp_height);
     max_width = max_height = 0;
+    if (!selection) return A_Err_NONE; // a null one given with success: nothing that could be asked
     std::vector<AEGP_LayerH> selected;
     if (const A_Err err = read_selection(&selected)) return err;
     return measure_largest_source(suites, selected);
@@ -121,7 +122,8 @@ A_Err AssistantDlg::append_selection(std::vector<AEGP_LayerH>* selected) {
         AEGP_CollectionItem found{};
         if (const A_Err err = collections.AEGP_GetCollectionItemByIndex(selection, i, &found))
             return err;
-        if (found.type == AEGP_CollectionItemType_LAYER) selected->push_back(found.layerH);
+        if (found.type == AEGP_CollectionItemType_LAYER && found.layerH)
+            selected->push_back(found.layerH);
     }
     return A_Err_NONE;
 }

@@ -82,19 +82,20 @@ TEST(RegularPlacement, ASingleLayerTakesNoAngleAndNoHeight) {
 TEST(RegularPlacement, DrawsOneNumberAndThenThreeALayer) {
     CylinderOptions options;
     options.angle = {10, 90, 1};
-    options.height = {0, 40, 2};
+    options.height = {0.1, 40.3, 0.7};
     options.distance = {100, 300, 3};
     math::SetRand(99);
-    const auto at = placed_regularly(3, options);
+    const auto at = placed_regularly(6, options);
 
     math::SetRand(99);
     const double u0 = math::Rand();
     EXPECT_DOUBLE_EQ(at[0].x, 100 + 200 * u0);
     double angle = 0, height = 0;
-    for (int i = 1; i < 3; ++i) {
+    for (int i = 1; i < 6; ++i) {
         const double u_angle = math::Rand(), u_height = math::Rand(), u_distance = math::Rand();
         angle += 10 + 80 * u_angle + i;
-        height += 40 * u_height + 2 * i;
+        height = height + u_height * (40.3 - 0.1) + 0.1 + 0.7 * i; // from left to right
+        EXPECT_EQ(at[i].y, -height) << i;
         EXPECT_VECTOR_NEAR(at[i], on_cylinder(angle, height, 100 + 200 * u_distance + 3 * i), 1e-9);
     }
 }
