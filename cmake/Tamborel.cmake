@@ -21,11 +21,15 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
-# Program, module and library stand side by side and find each other there.
+# In the build, program, module and library stand side by side and find each other there; installed,
+# module and library have a folder of their own.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
-set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/../${CMAKE_INSTALL_LIBDIR}/tamborel")
+set(TAMBOREL_MODULE_DIR ${CMAKE_INSTALL_LIBDIR}/tamborel)
+file(RELATIVE_PATH TAMBOREL_BIN_TO_MODULE
+    ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR}/tamborel)
+set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/${TAMBOREL_BIN_TO_MODULE}")
 
 add_compile_options(-Wall -Wextra)
 # g++ 12 sees overlapping copies in the library's own string concatenation.
@@ -40,6 +44,8 @@ add_compile_options("$<$<COMPILE_LANGUAGE:OBJCXX>:-std=c++20;-fconstant-string-c
 add_compile_definitions("$<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>")
 if(TAMBOREL_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -O1)
+    # Reports need lines, not variables, and without the latter it compiles a quarter faster.
+    add_compile_options(-g1)
     add_link_options(-fsanitize=address,undefined)
     # Built into each program that tests run, so that it finds no fault either when it only lists cases.
     file(READ ${CMAKE_SOURCE_DIR}/tests/lsan.supp suppressions)

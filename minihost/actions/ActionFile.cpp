@@ -45,11 +45,22 @@ Words split_words(std::string_view line, const std::string& place) {
     return words;
 }
 
+std::string quoted_word(const std::string& word) {
+    std::string text = "\"";
+    for (const char c : word) {
+        if (c == '"' || c == '\\') text += '\\';
+        text += c;
+    }
+    return text + '"';
+}
+
 std::vector<Step> parse_actions(std::string_view text, const std::string& file) {
     std::vector<Step> steps;
     for (std::size_t start = 0, line = 1; start < text.size(); ++line) {
         const std::size_t end = std::min(text.find('\n', start), text.size());
         const std::string place = file + ":" + std::to_string(line);
+        if (text.substr(start, end - start).find('\0') != std::string_view::npos)
+            throw UsageError(place + ": holds a zero character");
         const Words words = split_words(text.substr(start, end - start), place);
         if (!words.empty()) steps.push_back(make_step(words, place));
         start = end + 1;

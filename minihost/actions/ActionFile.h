@@ -15,6 +15,9 @@ namespace minihost {
 // is not closed; `place` is where the line stands.
 Words split_words(std::string_view line, const std::string& place);
 
+// The word as split_words() reads it back.
+std::string quoted_word(const std::string& word);
+
 // All steps of a text. Throws UsageError with file and line.
 std::vector<Step> parse_actions(std::string_view text, const std::string& file);
 

@@ -1,5 +1,6 @@
 #include "minihost/actions/Actions.h"
 
+#include "minihost/actions/EventActions.h"
 #include "minihost/actions/State.h"
 
 #include <charconv>
@@ -103,6 +104,9 @@ void answer(Session& session, const Words& words) {
     session.screen().answer_next_alert(number(words[0], 1, 9));
 }
 
+// What there is to answer was answered before this.
+void wait(Session&, const Words&) {}
+
 // --- The composition
 
 void select(Session& session, const Words& words) {
@@ -171,6 +175,9 @@ void state(Session& session, const Words&) {
     session.out() << state_line(session) << std::flush;
 }
 
+void load(Session& session, const Words& words) {
+    session.open_scene(words[0]);
+}
 void save(Session& session, const Words& words) {
     session.save_scene(words[0]);
 }
@@ -190,6 +197,16 @@ constexpr Action table[] = {
      close_panel},
     {"set", "NAME=VALUE", "Sets a control as a user would.", 1, 1, set},
     {"click", "NAME", "Clicks a control.", 1, 1, click},
+    {"mouse", "down|up|move X Y [right] [double] [shift] [control] [option] [command]",
+     "Presses, lets go or moves at a point of the dialog (like the \"rect\" of \"state\").", 3, -1,
+     mouse_action, true},
+    {"wheel", "X Y DX DY", "Turns the wheel at a point of the dialog, in lines.", 4, 4,
+     wheel_action, true},
+    {"key", "KEY [shift] [control] [option] [command]",
+     "Strikes a key, by its name (\"return\") or character.", 1, -1, key_action, true},
+    {"type", "TEXT", "Types a text.", 1, 1, type_action, true},
+    {"wait", "", "Lets mouse, wheel, key and type be answered, as every other action does first.",
+     0, 0, wait},
     {"select", "LAYER...", "Selects layers, by name or #index, and nothing else.", 1, -1, select},
     {"select-all", "", "Selects every layer, the top one first.", 0, 0, select_all},
     {"deselect", "", "Selects nothing.", 0, 0, deselect},
@@ -204,6 +221,7 @@ constexpr Action table[] = {
     {"answer", "N", "Answers the next alert panel with its N-th button.", 1, 1, answer},
     {"state", "", "Prints menu, dialog, controls, selection and steps as one line of JSON.", 0, 0,
      state},
+    {"load", "FILE", "Opens another scene instead; the plug-in and its panel stay.", 1, 1, load},
     {"save", "FILE", "Writes the scene.", 1, 1, save},
     {"preview", "FILE", "Writes a picture of the composition (.png, .svg).", 1, 1, preview},
     {"panel", "FILE", "Writes a picture of the dialog (.png).", 1, 1, panel},
@@ -236,6 +254,7 @@ Step make_step(const Words& words, const std::string& place) {
 
 void run_step(Session& session, const Step& step) {
     try {
+        if (!step.action->waits) session.settle();
         step.action->run(session, step.arguments);
     } catch (const std::runtime_error& error) {
         throw ActionError(step.place + ": " + step.action->name + ": " + error.what());

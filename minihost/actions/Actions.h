@@ -20,6 +20,8 @@ struct Action {
     int least, greatest;   // how many arguments; greatest -1: any number
     // Throws ActionError, or ControlError.
     void (*run)(Session&, const Words&);
+    // Whether it waits, with others like it, to be answered before the next action of another kind.
+    bool waits = false;
 };
 
 std::span<const Action> actions();

@@ -1,24 +1,18 @@
 #include "minihost/actions/CommandLine.h"
 
 #include "minihost/actions/Actions.h"
+#include "minihost/model/OutputFile.h"
+#include "minihost/model/SceneReader.h"
 #include "minihost/suites/SuiteTable.h"
 #include "minihost/view/preview.h"
+#include "minihost/window/Layout.h"
 
-#include <algorithm>
 #include <CLI/CLI.hpp>
 #include <cstdio>
-#include <filesystem>
 
 namespace minihost {
 
 namespace {
-
-bool has_extension(const std::string& path, std::initializer_list<const char*> extensions) {
-    std::string extension = std::filesystem::path(path).extension().string();
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return std::find(extensions.begin(), extensions.end(), extension) != extensions.end();
-}
 
 // The actions, for the help.
 std::string action_help() {
@@ -27,6 +21,17 @@ std::string action_help() {
         std::string head = std::string("  ") + action.name + " " + action.arguments;
         head.resize(std::max<std::size_t>(head.size() + 1, 26), ' ');
         text += head + action.sentence + "\n";
+    }
+    return text;
+}
+
+// What a host may do wrong, for the help.
+std::string misdeed_help() {
+    std::string text = "With --misbehave the host\n";
+    for (const Misdeed& it : misdeeds()) {
+        std::string head = std::string("  ") + it.word;
+        head.resize(26, ' ');
+        text += head + it.sentence + "\n";
     }
     return text;
 }
@@ -40,7 +45,8 @@ std::string missing_part_names() {
 
 // The options that every verb has.
 void add_options(CLI::App& verb, Request& request, std::vector<std::string>& failures,
-                 std::vector<std::string>& without, std::string& palette) {
+                 std::vector<std::string>& without, std::vector<std::string>& misdeeds,
+                 std::string& palette) {
     verb.add_option("SCENE", request.scene, "the scene file")->required();
     verb.add_option("--plugin", request.plugin,
                     "the module to load (default: the one beside this program)")
@@ -62,15 +68,60 @@ void add_options(CLI::App& verb, Request& request, std::vector<std::string>& fai
                     "the K-th call (default 1) of that name returns CODE (default 4)")
         ->type_name("SUITE.CALL[:K[:CODE]]")
         ->allow_extra_args(false);
+    verb.add_option("--misbehave", misdeeds,
+                    "a host whose K-th answer of a kind, or every one, is nonsense, or whose scene "
+                    "changes before the K-th call; see below")
+        ->type_name("WHAT[:K]")
+        ->allow_extra_args(false);
+}
+
+void add_check_options(CLI::App& verb, Request& request) {
+    CheckOptions& check = request.check;
+    verb.add_option("SCENE", request.scene, "the scene file (default: one that is built in)");
+    verb.add_option("--plugin", request.plugin,
+                    "the module to check (default: the one beside this program)")
+        ->type_name("FILE");
+    verb.add_flag("--list", check.list, "print the checks and what each promises, and do nothing");
+    verb.add_option("--only", check.only, "this check and no other; may come several times")
+        ->type_name("ID")
+        ->allow_extra_args(false);
+    verb.add_option("--level", check.level, "how hard, from 1 to 10 (default 5)")
+        ->check(CLI::Range(1, 10))
+        ->type_name("N");
+    verb.add_option("--seed", check.seed, "of what is random (default 1)")->type_name("N");
+    verb.add_option("--json", check.json, "write a report")->type_name("FILE");
+}
+
+// "1280x800".
+void check_window(Request& request) {
+    if (!request.window_size.empty()) {
+        char rest = 0;
+        if (std::sscanf(request.window_size.c_str(), "%lfx%lf%c", &request.window_width,
+                        &request.window_height, &rest) != 2 ||
+            !(request.window_width >= least_window_width && request.window_width <= max_size &&
+              request.window_height >= least_window_height && request.window_height <= max_size))
+            throw std::invalid_argument("--window: \"" + request.window_size +
+                                        "\" is no WIDTHxHEIGHT from 900x600");
+    }
+    if (request.frames < 0) throw std::invalid_argument("--frames must be from 1");
+    if (!request.screenshot.empty() && extension_of(request.screenshot) != ".png")
+        throw std::invalid_argument("--screenshot: " + request.screenshot +
+                                    ": a screenshot is written as .png");
+    // A window of pixels that nobody has is refused by the desktop alone after a long time.
+    if (request.verb == Verb::Show && request.has_scale &&
+        !(request.scale >= 0.5 && request.scale <= 4))
+        throw std::invalid_argument("--scale of a window must be from 0.5 to 4");
 }
 
 // What the library cannot check by itself. Throws std::invalid_argument.
 void check(Request& request, const std::vector<std::string>& failures,
-           const std::vector<std::string>& without, const std::string& palette) {
+           const std::vector<std::string>& without, const std::vector<std::string>& misdeeds,
+           const std::string& palette) {
     for (const std::string& text : request.sets)
         if (text.find('=') == std::string::npos || text[0] == '=')
             throw std::invalid_argument("--set: \"" + text + "\" is not NAME=VALUE");
     for (const std::string& text : failures) request.host.failures.push_back(parse_failure(text));
+    for (const std::string& text : misdeeds) request.host.misdeeds.push_back(parse_misdeed(text));
     for (const std::string& word : without) {
         if (!is_missing_part(word))
             throw std::invalid_argument("--without: \"" + word + "\" is none of " +
@@ -83,10 +134,11 @@ void check(Request& request, const std::vector<std::string>& failures,
     request.host.palette = *colors;
     if (!(request.scale >= least_preview_scale && request.scale <= greatest_preview_scale))
         throw std::invalid_argument("--scale must be from 0.1 to 16");
-    if (!request.preview.empty() && !has_extension(request.preview, {".png", ".svg"}))
+    if (!request.preview.empty() && extension_of(request.preview) != ".png" &&
+        extension_of(request.preview) != ".svg")
         throw std::invalid_argument("--preview: " + request.preview +
                                     ": a preview is written as .png or .svg");
-    if (!request.panel.empty() && !has_extension(request.panel, {".png"}))
+    if (!request.panel.empty() && extension_of(request.panel) != ".png")
         throw std::invalid_argument("--panel: " + request.panel +
                                     ": the panel's picture is written as .png");
 }
@@ -95,7 +147,7 @@ void check(Request& request, const std::vector<std::string>& failures,
 
 ParsedCommandLine parse_command_line(int count, const char* const* arguments) {
     Request request;
-    std::vector<std::string> failures, without;
+    std::vector<std::string> failures, without, misdeeds;
     std::string palette = "dark";
     CLI::App app(
         "A small host for compositing plug-ins: it loads one, serves it a scene, and plays "
@@ -107,24 +159,41 @@ ParsedCommandLine parse_command_line(int count, const char* const* arguments) {
     CLI::App* apply = app.add_subcommand(
         "apply", "Opens the dialog, sets controls, presses Apply, makes one idle call");
     CLI::App* run = app.add_subcommand("run", "Plays a file of actions");
-    add_options(*apply, request, failures, without, palette);
+    add_options(*apply, request, failures, without, misdeeds, palette);
     apply->add_option("--set", request.sets, "set a control before applying; may come often")
         ->type_name("NAME=VALUE")
         ->allow_extra_args(false);
-    add_options(*run, request, failures, without, palette);
+    add_options(*run, request, failures, without, misdeeds, palette);
     run->add_option("ACTIONS", request.actions, "the file of actions; \"-\": standard input")
         ->required();
-    run->footer(action_help());
+    apply->footer(misdeed_help());
+    run->footer(action_help() + "\n" + misdeed_help());
+    CLI::App* check_verb =
+        app.add_subcommand("check", "Puts the plug-in through its paces and tells what fails");
+    add_check_options(*check_verb, request);
+    CLI::App* show = app.add_subcommand("show", "Opens a window in which the plug-in is used");
+    add_options(*show, request, failures, without, misdeeds, palette);
+    show->get_option("--scale")->description("pixels per point of the screen (default: its own)");
+    show->add_option("--window", request.window_size, "its size in points (default 1280x800)")
+        ->type_name("WIDTHxHEIGHT");
+    show->add_option("--frames", request.frames, "ends after N drawn frames")->type_name("N");
+    show->add_option("--screenshot", request.screenshot, "picture of the last frame; .png")
+        ->type_name("FILE");
+    show->footer(misdeed_help());
     try {
         app.parse(count, const_cast<char**>(arguments));
-        check(request, failures, without, palette);
+        if (run->parsed()) request.verb = Verb::Run;
+        if (show->parsed()) request.verb = Verb::Show;
+        if (check_verb->parsed()) request.verb = Verb::Check;
+        request.has_scale = show->count("--scale") > 0;
+        check_window(request);
+        check(request, failures, without, misdeeds, palette);
     } catch (const CLI::ParseError& error) {
         return {std::nullopt, app.exit(error) == 0 ? 0 : 2};
     } catch (const std::invalid_argument& error) {
         std::fprintf(stderr, "minihost: %s\n", error.what());
         return {std::nullopt, 2};
     }
-    request.verb = run->parsed() ? Verb::Run : Verb::Apply;
     return {std::move(request), 0};
 }
 

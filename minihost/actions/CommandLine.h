@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "minihost/check/Runner.h"
 #include "minihost/suites/Host.h"
 
 #include <optional>
@@ -10,7 +11,7 @@
 
 namespace minihost {
 
-enum class Verb { Apply, Run };
+enum class Verb { Apply, Run, Check, Show };
 
 struct Request {
     Verb verb = Verb::Apply;
@@ -19,7 +20,13 @@ struct Request {
     std::vector<std::string> sets;                  // NAME=VALUE
     std::string plugin, out, preview, panel, calls; // files; empty when not asked for
     double scale = 2;
+    bool has_scale = false;  // it was told
+    std::string screenshot;  // of the window
+    int frames = 0;          // after which the window closes; 0: when the user quits
+    std::string window_size; // "WIDTHxHEIGHT" in points
+    double window_width = 1280, window_height = 800;
     HostOptions host;
+    CheckOptions check;
 };
 
 // What was asked for, or the exit status when nothing is left to do: help was printed (0), or the

@@ -4,6 +4,7 @@
 #include "minihost/actions/Progress.h"
 #include "minihost/model/OutputFile.h"
 #include "minihost/model/SceneReader.h"
+#include "minihost/window/Show.h"
 
 #include <filesystem>
 #include <iostream>
@@ -16,11 +17,13 @@ namespace {
 
 constexpr int bad_input_status = 2, failure_status = 1;
 
-// The module beside this program.
+// The module beside this program, as it is built, or else in the folder where it is installed.
 std::string usual_plugin() {
     std::error_code unknown;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", unknown);
-    return (program.parent_path() / "Tamborel.plugin").string();
+    const auto folder = std::filesystem::read_symlink("/proc/self/exe", unknown).parent_path();
+    const auto beside = folder / "Tamborel.plugin";
+    if (std::filesystem::exists(beside, unknown)) return beside.string();
+    return (folder / MINIHOST_MODULE_DIR / "Tamborel.plugin").lexically_normal().string();
 }
 
 std::vector<Step> steps_of(const Request& request) {
@@ -37,17 +40,39 @@ std::vector<Step> steps_of(const Request& request) {
     return steps;
 }
 
+ShowOptions show_options(const Request& request) {
+    ShowOptions options;
+    options.scene = request.scene;
+    if (request.has_scale) options.scale = request.scale;
+    options.width = request.window_width;
+    options.height = request.window_height;
+    options.palette = request.host.palette;
+    options.frames = request.frames;
+    options.screenshot = request.screenshot;
+    return options;
+}
+
 class Runner {
   public:
-    Runner(const Request& request, Scene scene)
+    Runner(const Request& request, Scene scene, std::unique_ptr<Screen> screen)
         : _request(request),
-          _session(std::move(scene), request.host, make_screen(), std::cout,
+          _session(std::move(scene), request.host, std::move(screen), std::cout,
                    [this](const std::string& line) { report(line); }) {
         _session.picture_scale = request.scale;
         _session.host().on_call = [this](std::size_t calls) { _progress.show(calls, "calls"); };
     }
 
     int run(const std::vector<Step>& steps) {
+        return run([&](Session& session) {
+            for (const Step& step : steps) {
+                _progress.start(step.action->name);
+                run_step(session, step);
+            }
+        });
+    }
+
+    // Does `body` with the plug-in loaded.
+    int run(const std::function<void(Session&)>& body) {
         attempt([&] {
             if (_request.calls.empty()) return;
             _calls.emplace(_request.calls);
@@ -56,10 +81,8 @@ class Runner {
         if (_failed) return failure_status;
         attempt([&] {
             _session.load(_request.plugin.empty() ? usual_plugin() : _request.plugin);
-            for (const Step& step : steps) {
-                _progress.start(step.action->name);
-                run_step(_session, step);
-            }
+            body(_session);
+            _session.settle();
         });
         _progress.stop();
         write_outputs();
@@ -99,17 +122,34 @@ class Runner {
     Session _session;
 };
 
+int show(const Request& request, Scene scene) {
+    std::optional<Show> window; // stays until the plug-in is unloaded
+    try {
+        window.emplace(show_options(request));
+    } catch (const std::exception& error) {
+        std::cerr << "minihost: " << error.what() << std::endl;
+        return failure_status;
+    }
+    return Runner(request, std::move(scene), window->make_screen()).run([&](Session& session) {
+        window->run(session);
+    });
+}
+
 } // namespace
 
 int run(const Request& request) {
+    if (request.verb == Verb::Check)
+        return run_checks(request.plugin.empty() ? usual_plugin() : request.plugin, request.scene,
+                          request.check);
     try {
         Progress progress;
         progress.start("reading " + request.scene);
         Scene scene =
             read_scene(request.scene, [&](std::size_t layers) { progress.show(layers, "layers"); });
         progress.stop();
+        if (request.verb == Verb::Show) return show(request, std::move(scene));
         const std::vector<Step> steps = steps_of(request);
-        return Runner(request, std::move(scene)).run(steps);
+        return Runner(request, std::move(scene), make_screen()).run(steps);
     } catch (const std::exception& error) { // what was read, or memory
         std::cerr << "minihost: " << error.what() << std::endl;
         return bad_input_status;

@@ -1,6 +1,7 @@
 #include "minihost/actions/Session.h"
 
 #include "minihost/model/OutputFile.h"
+#include "minihost/model/SceneReader.h"
 #include "minihost/model/SceneWriter.h"
 #include "minihost/view/PictureFile.h"
 #include "minihost/view/preview.h"
@@ -25,9 +26,14 @@ void Session::load(const std::string& module_path) {
 
 std::vector<std::string> Session::unload() {
     std::vector<std::string> held;
+    if (_module) settle();
     if (_module) enter([&] { held = _module->unload(); });
     _module.reset();
     return held;
+}
+
+void Session::settle() {
+    enter([this] { _screen->settle(); });
 }
 
 void Session::enter(const std::function<void()>& body) {
@@ -48,6 +54,14 @@ const MenuItem& Session::command() const {
     return _host.menu().front();
 }
 
+void Session::open_scene(const std::string& path) {
+    try {
+        _host.open(read_scene(path));
+    } catch (const std::exception& error) {
+        throw ActionError(error.what());
+    }
+}
+
 void Session::save_scene(const std::string& path) {
     try {
         write_file(path, scene_text(_host.document));
@@ -65,6 +79,8 @@ void Session::save_preview(const std::string& path) {
 }
 
 void Session::save_panel(const std::string& path) {
+    if (extension_of(path) != ".png")
+        throw ActionError(path + ": the panel's picture is written as .png");
     const Dialog shown = dialog();
     if (!shown.exists) throw ActionError(path + ": there is no dialog to take a picture of");
     Picture picture;

@@ -52,10 +52,13 @@ class Session {
     Dialog dialog() const;
     // The plug-in's first menu command. Throws ActionError when there is none.
     const MenuItem& command() const;
+    // Lets raw events that wait be answered.
+    void settle();
     // Runs something that may enter the plug-in, and takes note of the alerts that it shows.
     void enter(const std::function<void()>& body);
 
-    // Files; each throws ActionError.
+    // Files; each throws ActionError. A scene that cannot be read leaves the one that is there.
+    void open_scene(const std::string& path);
     void save_scene(const std::string& path);
     void save_preview(const std::string& path);
     void save_panel(const std::string& path);

@@ -11,7 +11,8 @@ Document::Document(Scene scene) : _scene(std::move(scene)) {
 }
 
 void Document::begin_group(std::string name) {
-    if (_open_groups++ == 0) _open = Step{std::move(name), {}, _scene.shared_selection(), nullptr};
+    if (_open_groups++ == 0)
+        _open = Step{std::move(name), {}, _scene.shared_selection(), nullptr, 0};
 }
 
 bool Document::end_group() {
@@ -19,6 +20,7 @@ bool Document::end_group() {
     if (--_open_groups > 0) return true;
     if (!_open.changes.empty()) {
         _open.after = _scene.shared_selection();
+        _open.number = _next_step++;
         _done.push_back(std::move(_open));
     }
     _open = {};
@@ -27,6 +29,7 @@ bool Document::end_group() {
 
 // Carries a change out, which is the same as swapping it in, and keeps it.
 void Document::make(Change change, const char* step_name) {
+    ++_revision;
     _undone.clear();
     begin_group(step_name);
     std::visit([this](auto& any) { swap_with_scene(any); }, change);
@@ -149,6 +152,7 @@ std::size_t Document::insert_key(LayerId id, Stream stream, std::int32_t tick) {
 
 bool Document::undo() {
     if (_open_groups > 0 || _done.empty()) return false;
+    ++_revision;
     Step step = std::move(_done.back());
     _done.pop_back();
     for (auto change = step.changes.rbegin(); change != step.changes.rend(); ++change)
@@ -160,6 +164,7 @@ bool Document::undo() {
 
 bool Document::redo() {
     if (_open_groups > 0 || _undone.empty()) return false;
+    ++_revision;
     Step step = std::move(_undone.back());
     _undone.pop_back();
     for (Change& change : step.changes)
@@ -167,6 +172,11 @@ bool Document::redo() {
     _scene.select(step.after);
     _done.push_back(std::move(step));
     return true;
+}
+
+std::uint64_t Document::state() const {
+    if (!_open.changes.empty()) return ~_revision; // never a step's number
+    return _done.empty() ? 0 : _done.back().number;
 }
 
 std::vector<std::string> Document::undo_names() const {

@@ -23,7 +23,10 @@ class Document {
 
     const Scene& scene() const { return _scene; }
     // For what is no change: the current time, the active item.
-    Composition& composition() { return _scene.composition; }
+    Composition& composition() {
+        ++_revision;
+        return _scene.composition;
+    }
     void set_active(ActiveItem active) { _scene.active = active; }
     void select(Selection selection) { _scene.select(std::move(selection)); }
 
@@ -52,6 +55,17 @@ class Document {
     // One step; false when there is none, or a group is open.
     bool undo();
     bool redo();
+    // Another number after everything that may change how the scene looks, but for the selection.
+    std::uint64_t revision() const { return _revision; }
+    // Which changes have been made: the same number again when they are undone or done again.
+    // Changes of a group that is still open have one of their own.
+    std::uint64_t state() const;
+
+    // Of the step that undo() or redo() would take; null when there is none.
+    const std::string* undo_name() const { return _done.empty() ? nullptr : &_done.back().name; }
+    const std::string* redo_name() const {
+        return _undone.empty() ? nullptr : &_undone.back().name;
+    }
     // Oldest first; for redo the next one first.
     std::vector<std::string> undo_names() const;
     std::vector<std::string> redo_names() const;
@@ -88,6 +102,7 @@ class Document {
         std::string name;
         std::deque<Change> changes; // of a large step never moved when it grows
         std::shared_ptr<const Selection> before, after;
+        std::uint64_t number = 0; // from 1, never used twice
     };
 
     void swap_with_scene(Presence& change);
@@ -102,6 +117,7 @@ class Document {
     std::deque<Step> _done, _undone;
     Step _open;
     int _open_groups = 0;
+    std::uint64_t _revision = 0, _next_step = 1;
 };
 
 } // namespace minihost

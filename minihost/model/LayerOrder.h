@@ -15,7 +15,7 @@ namespace minihost {
 class LayerOrder {
   public:
     std::size_t size() const { return count(_root); }
-    bool contains(LayerId id) const { return id < _nodes.size() && _nodes[id].present; }
+    bool contains(LayerId layer) const { return layer < _nodes.size() && _nodes[layer].present; }
 
     // The id at an index below size().
     LayerId at(std::size_t index) const;

@@ -1,10 +1,13 @@
 #include "minihost/model/OutputFile.h"
 
+#include <algorithm>
+#include <cctype>
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -86,6 +89,13 @@ void OutputFile::commit() {
         ::rename(_temporary.c_str(), _target.c_str()) != 0)
         fail();
     _temporary.clear();
+}
+
+std::string extension_of(const std::string& path) {
+    std::string extension = std::filesystem::path(path).extension().string();
+    std::transform(extension.begin(), extension.end(), extension.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return extension;
 }
 
 void write_file(const std::string& path, std::string_view content) {

@@ -35,6 +35,9 @@ class OutputFile {
     int _file = -1;
 };
 
+// The extension of a file's name in lower case, with its point; empty for none.
+std::string extension_of(const std::string& path);
+
 // The whole of it at once.
 void write_file(const std::string& path, std::string_view content);
 

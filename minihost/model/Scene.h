@@ -45,6 +45,8 @@ class Scene {
     const Layer& layer_at(std::size_t index) const { return *_layers[_order.at(index)]; }
     // All layers, top first. O(n).
     std::vector<const Layer*> layers() const;
+    // Greater than that of every layer that was ever in the scene.
+    LayerId next_id() const { return _layers.size(); }
     // Null when there is no such layer (any more).
     const Layer* find(LayerId id) const {
         return _order.contains(id) ? _layers[id].get() : nullptr;

@@ -229,7 +229,7 @@ class Reader : public SceneJsonSink {
             if (!draft.has_position) layer.transform.position = middle;
             if (layer.kind == LayerKind::Camera && !draft.has_interest)
                 layer.transform.anchor_point = middle;
-            if (layer.kind != LayerKind::Camera && !draft.has_anchor)
+            if (layer.has_source() && !draft.has_anchor)
                 layer.transform.anchor_point = {layer.size.width / 2.0, layer.size.height / 2.0, 0};
             _scene.insert(std::move(draft.layer), _scene.layer_count());
         }

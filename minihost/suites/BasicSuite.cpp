@@ -28,7 +28,8 @@ A_Err ReleaseSuite(const char* name, A_long version) {
         [&](Host& host) -> A_Err {
             if (!host.release(&need(name), version))
                 throw Misuse(std::string(name) + " " + std::to_string(version) +
-                             " released more often than acquired");
+                                 " released more often than acquired",
+                             FaultKind::Unbalanced);
             return 0;
         });
 }

@@ -18,7 +18,8 @@ CallName utility_call(const char* call) {
 }
 
 void require_entry(const Host& host) {
-    if (!host.is_entering()) throw Misuse("called outside of the entry function");
+    if (!host.is_entering())
+        throw Misuse("called outside of the entry function", FaultKind::LateRegistration);
 }
 
 A_Err RegisterCommandHook(AEGP_PluginID, AEGP_HookPriority priority, AEGP_Command command,
@@ -153,7 +154,8 @@ A_Err EndUndoGroup() {
     return serve(
         utility_call("EndUndoGroup"), [](Arguments&) {},
         [&](Host& host) -> A_Err {
-            if (!host.document.end_group()) throw Misuse("no undo group is open");
+            if (!host.document.end_group())
+                throw Misuse("no undo group is open", FaultKind::Unbalanced);
             return 0;
         });
 }

@@ -24,18 +24,19 @@ Handle encode(Kind kind, std::uint64_t number) {
 std::uint64_t decode(Kind wanted, const void* handle) {
     const auto name = std::string(kind_names[static_cast<int>(wanted)]);
     const auto value = static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(handle));
-    if (value == 0) throw Misuse("null instead of " + name);
+    if (value == 0) throw Misuse("null instead of " + name, FaultKind::WrongHandle);
     const std::uint64_t kind = value >> kind_shift;
     if (kind == 0 || kind > static_cast<std::uint64_t>(Kind::Panel) ||
         (value & ((1u << number_shift) - 1)) != 0)
-        throw Misuse("what is no handle instead of " + name);
+        throw Misuse("what is no handle instead of " + name, FaultKind::WrongHandle);
     if (kind != static_cast<std::uint64_t>(wanted))
-        throw Misuse(std::string(kind_names[kind]) + " instead of " + name);
+        throw Misuse(std::string(kind_names[kind]) + " instead of " + name, FaultKind::WrongHandle);
     return Handles::number_of(handle);
 }
 
 [[noreturn]] void stale(Kind kind) {
-    throw Misuse(std::string(kind_names[static_cast<int>(kind)]) + " that is no more");
+    throw Misuse(std::string(kind_names[static_cast<int>(kind)]) + " that is no more",
+                 FaultKind::StaleHandle);
 }
 
 } // namespace
@@ -46,23 +47,23 @@ std::uint64_t Handles::number_of(const void* handle) {
 }
 
 AEGP_LayerH Handles::of_layer(LayerId layer) const {
-    return encode<AEGP_LayerH>(Kind::Layer, layer);
+    return encode<AEGP_LayerH>(Kind::Layer, _base + layer);
 }
 
 AEGP_ItemH Handles::of_item(ItemRef item) const {
     switch (item.kind) {
     case ItemRef::Kind::Composition:
-        return encode<AEGP_ItemH>(Kind::Item, composition_item);
+        return encode<AEGP_ItemH>(Kind::Item, _base + composition_item);
     case ItemRef::Kind::Footage:
-        return encode<AEGP_ItemH>(Kind::Item, footage_item);
+        return encode<AEGP_ItemH>(Kind::Item, _base + footage_item);
     case ItemRef::Kind::Source:
         break;
     }
-    return encode<AEGP_ItemH>(Kind::Item, first_source + item.layer);
+    return encode<AEGP_ItemH>(Kind::Item, _base + first_source + item.layer);
 }
 
 AEGP_CompH Handles::of_composition() const {
-    return encode<AEGP_CompH>(Kind::Composition, 1);
+    return encode<AEGP_CompH>(Kind::Composition, _base + 1);
 }
 
 AEGP_StreamRefH Handles::open_stream(StreamRef stream) {
@@ -81,13 +82,15 @@ AEGP_PanelH Handles::open_panel() {
 }
 
 LayerId Handles::layer(AEGP_LayerH handle) const {
-    const LayerId id = decode(Kind::Layer, handle);
-    if (!_scene.find(id)) stale(Kind::Layer);
-    return id;
+    const std::uint64_t number = decode(Kind::Layer, handle);
+    if (number <= _base || !_scene.find(number - _base)) stale(Kind::Layer);
+    return number - _base;
 }
 
 ItemRef Handles::item(AEGP_ItemH handle) const {
-    const std::uint64_t number = decode(Kind::Item, handle);
+    std::uint64_t number = decode(Kind::Item, handle);
+    if (number <= _base) stale(Kind::Item);
+    number -= _base;
     if (number == composition_item) return {ItemRef::Kind::Composition};
     if (number == footage_item) return {ItemRef::Kind::Footage};
     const LayerId id = number < first_source ? 0 : number - first_source;
@@ -97,13 +100,14 @@ ItemRef Handles::item(AEGP_ItemH handle) const {
 }
 
 void Handles::composition(AEGP_CompH handle) const {
-    if (decode(Kind::Composition, handle) != 1) stale(Kind::Composition);
+    if (decode(Kind::Composition, handle) != _base + 1) stale(Kind::Composition);
 }
 
 StreamRef Handles::stream(AEGP_StreamRefH handle) const {
     const auto found = _streams.find(decode(Kind::Stream, handle));
     if (found == _streams.end()) stale(Kind::Stream);
-    if (!_scene.find(found->second.layer)) throw Misuse("a stream of a layer that is no more");
+    if (!_scene.find(found->second.layer))
+        throw Misuse("a stream of a layer that is no more", FaultKind::StaleHandle);
     return found->second;
 }
 
@@ -129,6 +133,13 @@ void Handles::close(AEGP_CollectionH handle) {
 
 void Handles::close(AEGP_PanelH handle) {
     _panels.erase(number_of(handle));
+}
+
+void Handles::begin_scene(LayerId used) {
+    _base += first_source + used;
+    // They are the plug-in's to dispose of, but there is nothing behind them any more.
+    for (auto& [number, stream] : _streams) stream.layer = 0;
+    for (auto& [number, items] : _collections) items.clear();
 }
 
 void Handles::close_all() {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "minihost/model/Scene.h"
+#include "minihost/suites/Faults.h"
 #include "sdk/Host.h"
 
 #include <cstdint>
@@ -17,7 +18,12 @@ namespace minihost {
 // A call that the plug-in should not have made: it gets misuse_error and is told about.
 class Misuse : public std::runtime_error {
   public:
-    using std::runtime_error::runtime_error;
+    explicit Misuse(const std::string& what, FaultKind kind = FaultKind::BadArgument)
+        : std::runtime_error(what), _kind(kind) {}
+    FaultKind kind() const { return _kind; }
+
+  private:
+    FaultKind _kind;
 };
 
 struct StreamRef {
@@ -59,6 +65,9 @@ class Handles {
     void close(AEGP_CollectionH handle);
     void close(AEGP_PanelH handle);
     void close_all();
+    // Another scene is there: every handle of the old one is stale from now on; its streams have no
+    // layer, its collections no items any more. `used` is the old scene's next_id().
+    void begin_scene(LayerId used);
 
     // What has been opened and not closed, by number.
     const std::map<std::uint64_t, StreamRef>& open_streams() const { return _streams; }
@@ -70,6 +79,7 @@ class Handles {
   private:
     const Scene& _scene;
     std::uint64_t _next = 1;
+    std::uint64_t _base = 0; // below the numbers of this scene's layers and items
     std::map<std::uint64_t, StreamRef> _streams;
     std::map<std::uint64_t, Selection> _collections;
     std::map<std::uint64_t, bool> _panels;

@@ -17,6 +17,8 @@ constexpr A_long major_version = 1, minor_version = 0;
 constexpr AEGP_PluginID plugin_id = 1;
 constexpr A_long usual_sleep = 30; // 60ths of a second
 
+constexpr std::size_t most_faults = 5000; // that are kept
+
 std::string times(std::size_t count, const std::string& what) {
     return count == 1 ? "one " + what : std::to_string(count) + " " + what + "s";
 }
@@ -39,6 +41,7 @@ Host::Host(Scene scene, HostOptions options, Reporter report, PanelMaker make_pa
     : document(std::move(scene)),
       handles(document.scene()),
       failures(options.failures),
+      misbehaviour(options.misdeeds),
       panels(std::move(make_panel)),
       _options(std::move(options)),
       _report(std::move(report)) {}
@@ -54,9 +57,11 @@ A_Err Host::call_hook(const char* name, const Body& body) {
     try {
         error = body();
         if (error == 0) return 0;
-        report(std::string("the plug-in's ") + name + " returned error " + std::to_string(error));
+        report_fault(FaultKind::HookError, std::string("the plug-in's ") + name +
+                                               " returned error " + std::to_string(error));
     } catch (...) {
-        report(std::string("the plug-in's ") + name + " threw an exception");
+        report_fault(FaultKind::HookException,
+                     std::string("the plug-in's ") + name + " threw an exception");
     }
     ++_hook_errors;
     return error;
@@ -139,29 +144,40 @@ void Host::visit(const std::function<void()>& body) {
     body();
 }
 
-std::vector<std::string> Host::holdings() const {
-    std::vector<std::string> lines;
+std::vector<Fault> Host::holdings() const {
+    std::vector<Fault> held;
     for (const auto& [suite, count] : _acquired)
         if (count > 0)
-            lines.push_back(suite.first + " " + std::to_string(suite.second) + ", acquired " +
-                            std::to_string(count) + (count == 1 ? " time" : " times") +
-                            " more than released");
+            held.push_back({FaultKind::HeldSuite, suite.first + " " + std::to_string(suite.second) +
+                                                      ", acquired " + std::to_string(count) +
+                                                      (count == 1 ? " time" : " times") +
+                                                      " more than released"});
     if (const std::size_t count = handles.open_streams().size())
-        lines.push_back(times(count, "stream") + " not disposed of");
+        held.push_back({FaultKind::HeldStream, times(count, "stream") + " not disposed of"});
     if (const std::size_t count = handles.open_collections().size())
-        lines.push_back(times(count, "collection") + " not disposed of");
+        held.push_back(
+            {FaultKind::HeldCollection, times(count, "collection") + " not disposed of"});
     if (document.open_groups() > 0)
-        lines.push_back(times(static_cast<std::size_t>(document.open_groups()), "undo group") +
-                        " left open");
-    return lines;
+        held.push_back(
+            {FaultKind::OpenUndoGroup,
+             times(static_cast<std::size_t>(document.open_groups()), "undo group") + " left open"});
+    return held;
+}
+
+void Host::open(Scene scene) {
+    handles.begin_scene(document.scene().next_id());
+    document = Document(std::move(scene));
 }
 
 std::vector<std::string> Host::bury() {
     for (const DeathHook& it : _hooks.death)
         call_hook("death hook", [&] { return it.hook(_global_refcon, it.refcon); });
     panels.close(*this);
-    const std::vector<std::string> held = holdings();
-    for (const std::string& line : held) report("the plug-in still holds " + line);
+    std::vector<std::string> held;
+    for (const Fault& it : holdings()) {
+        report_fault(it.kind, "the plug-in still holds " + it.text);
+        held.push_back(it.text);
+    }
     while (document.end_group()) {
     }
     _hooks = {};
@@ -172,9 +188,19 @@ std::vector<std::string> Host::bury() {
     return held;
 }
 
-void Host::tell_misuse(const CallName& call, const std::string& what) {
+void Host::tell_misuse(const CallName& call, const Misuse& misuse) {
     ++_misuses;
-    report(std::string("misuse by the plug-in: ") + call.suite + "." + call.call + ": " + what);
+    report_fault(misuse.kind(), std::string("misuse by the plug-in: ") + call.suite + "." +
+                                    call.call + ": " + misuse.what());
+}
+
+void Host::note(FaultKind kind, std::string text) {
+    if (_faults.size() < most_faults) _faults.push_back({kind, std::move(text)});
+}
+
+void Host::report_fault(FaultKind kind, const std::string& line) {
+    note(kind, line);
+    report(line);
 }
 
 void Host::alert(const std::string& text) {
@@ -190,9 +216,11 @@ MenuItem* Host::menu_item(AEGP_Command command) {
 
 const void* Host::acquire(const char* name, A_long version) {
     const Suite* suite = find_suite(name, version);
-    if (!suite || (suite->without && _options.without.contains(suite->without))) return nullptr;
+    if (!suite) return nullptr;
+    for (const std::string& word : _options.without)
+        if (suite->is_left_out_by(word)) return nullptr;
     ++_acquired[{name, version}];
-    return suite->functions;
+    return misbehaviour.is_on() ? misbehaving_functions(*suite) : suite->functions;
 }
 
 bool Host::release(const char* name, A_long version) {

@@ -9,6 +9,7 @@
 #include "minihost/suites/Colors.h"
 #include "minihost/suites/FailurePlan.h"
 #include "minihost/suites/Handles.h"
+#include "minihost/suites/Misbehaviour.h"
 #include "minihost/suites/Panels.h"
 #include "sdk/Host.h"
 
@@ -30,6 +31,7 @@ constexpr A_Err host_error = 1;         // the host itself could not
 struct HostOptions {
     std::set<std::string> without; // words of --without
     std::vector<Failure> failures;
+    std::vector<PlannedMisdeed> misdeeds = {};
     Palette palette = Palette::Dark;
 };
 
@@ -80,6 +82,7 @@ class Host {
     Handles handles;
     CallLog log;
     FailurePlan failures;
+    Misbehaviour misbehaviour;
     Panels panels;
 
     // Gets the number of calls that the plug-in has made so far, at each.
@@ -94,6 +97,10 @@ class Host {
     int hook_errors() const { return _hook_errors; }
     // How often the plug-in has misused the host so far.
     int misuses() const { return _misuses; }
+    // Everything that the plug-in did wrong, in the order in which it was noticed; the first some
+    // thousands.
+    const std::vector<Fault>& faults() const { return _faults; }
+    void note(FaultKind kind, std::string text);
 
     // What the host does with a plug-in that is loaded. Each reports a hook that fails; the first
     // failing hook's code is the result.
@@ -102,6 +109,9 @@ class Host {
     // As if the user had chosen a command: the plug-in's hooks first, then the host itself.
     A_Err choose(AEGP_Command command);
     A_Err idle();
+    // Another scene instead, with no step to undo. The plug-in stays; what it had of the old scene
+    // is stale.
+    void open(Scene scene);
     // The plug-in's last call. After it nothing of the plug-in is called any more; what it still
     // holds is reported, and given as lines.
     std::vector<std::string> bury();
@@ -114,8 +124,9 @@ class Host {
     void count_call() {
         ++_calls;
         if (on_call) on_call(_calls);
+        if (misbehaviour.is_on()) misbehaviour.before_call(document);
     }
-    void tell_misuse(const CallName& call, const std::string& what);
+    void tell_misuse(const CallName& call, const Misuse& misuse);
     void alert(const std::string& text);
     bool is_entering() const { return _entering; }
     Hooks& hooks() { return _hooks; }
@@ -133,9 +144,10 @@ class Host {
 
   private:
     class Visit;
+    void report_fault(FaultKind kind, const std::string& line);
     template <typename Body>
     A_Err call_hook(const char* name, const Body& body);
-    std::vector<std::string> holdings() const;
+    std::vector<Fault> holdings() const;
 
     HostOptions _options;
     Reporter _report;
@@ -150,6 +162,7 @@ class Host {
     std::size_t _calls = 0;
     int _hook_errors = 0;
     int _misuses = 0;
+    std::vector<Fault> _faults;
 };
 
 } // namespace minihost

@@ -155,7 +155,8 @@ A_Err SetSelection(AEGP_CompH comp, AEGP_CollectionH collection) {
             const Selection& items = host.handles.collection(collection);
             for (const LayerId layer : items)
                 if (layer && !host.document.scene().find(layer))
-                    throw Misuse("a collection with a layer that is no more");
+                    throw Misuse("a collection with a layer that is no more",
+                                 FaultKind::StaleHandle);
             host.document.select(items);
             return 0;
         });

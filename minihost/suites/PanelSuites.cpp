@@ -20,7 +20,8 @@ A_Err RegisterCreatePanelHook(AEGP_PluginID, const A_char* match_name, AEGP_Crea
             it.flag("paint_background", paint_background);
         },
         [&](Host& host) -> A_Err {
-            if (!host.is_entering()) throw Misuse("called outside of the entry function");
+            if (!host.is_entering())
+                throw Misuse("called outside of the entry function", FaultKind::LateRegistration);
             need(hook);
             host.panels.register_hook(&need(match_name), hook, refcon);
             return 0;

@@ -42,6 +42,12 @@ void Panels::register_hook(const std::string& match_name, AEGP_CreatePanelHook h
     kind.refcon = refcon;
 }
 
+std::vector<std::string> Panels::match_names() const {
+    std::vector<std::string> names;
+    for (const auto& [name, kind] : _kinds) names.push_back(name);
+    return names;
+}
+
 A_Err Panels::create(Host& host, Kind& kind) {
     kind.view = _make();
     kind.handle = host.handles.open_panel();

@@ -39,6 +39,7 @@ class Panels {
     void register_hook(const std::string& match_name, AEGP_CreatePanelHook hook,
                        AEGP_CreatePanelRefcon refcon);
     bool is_registered(const std::string& match_name) const { return _kinds.contains(match_name); }
+    std::vector<std::string> match_names() const;
     // Shows or hides the panel; makes it first if need be, through its hook. The hook's error, with
     // no panel then.
     A_Err toggle(Host& host, const std::string& match_name);

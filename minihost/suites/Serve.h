@@ -68,7 +68,7 @@ A_Err serve(const CallName& name, const Describe& describe, const Body& body) no
             try {
                 result = body(*host);
             } catch (const Misuse& misuse) {
-                host->tell_misuse(name, misuse.what());
+                host->tell_misuse(name, misuse);
                 result = misuse_error;
             } catch (const std::exception& error) {
                 host->report(std::string(name.suite) + "." + name.call + ": " + error.what());

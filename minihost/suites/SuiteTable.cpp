@@ -87,9 +87,20 @@ bool is_call_of_host(std::string_view suite_and_call) {
     return false;
 }
 
+bool gives_back(std::string_view suite_and_call) {
+    for (const char* call : {"SPBasic.ReleaseSuite", "AEGP Collection Suite.DisposeCollection",
+                             "AEGP Stream Suite.DisposeStream", "AEGP Utility Suite.EndUndoGroup"})
+        if (suite_and_call == call) return true;
+    return false;
+}
+
+bool Suite::is_left_out_by(std::string_view word) const {
+    return (without && word == without) || word == name + (" " + std::to_string(version));
+}
+
 bool is_missing_part(std::string_view word) {
     for (const Suite& suite : all_suites)
-        if (suite.without && suite.without == word) return true;
+        if (suite.is_left_out_by(word)) return true;
     return false;
 }
 

@@ -16,6 +16,8 @@ struct Suite {
     const char* without; // the word of --without that leaves it out; null when nothing does
     const void* functions;
     std::initializer_list<const char*> calls; // without "AEGP_"
+
+    bool is_left_out_by(std::string_view word) const;
 };
 
 std::span<const Suite> suites();
@@ -26,7 +28,11 @@ const Suite* find_suite(std::string_view name, int version);
 // Whether "SUITE.CALL" is something that a plug-in can call.
 bool is_call_of_host(std::string_view suite_and_call);
 
-// Whether it is a word of --without.
+// Whether the call gives something back that was taken before: when it fails, the host still counts
+// that as taken.
+bool gives_back(std::string_view suite_and_call);
+
+// Whether it is a word of --without: that of an optional suite, or any suite's name and version.
 bool is_missing_part(std::string_view word);
 
 // The function tables, each made where its functions are.

@@ -18,6 +18,10 @@ class BlindScreen : public Screen {
     void click(const PanelView* panel, int id, const std::string& name) override {
         set(panel, id, name, "");
     }
+    void post(const PanelView*, const RawEvent&) override {
+        throw ControlError("the host has no display");
+    }
+    void settle() override {}
     void answer_next_alert(int) override {}
     std::vector<std::string> new_alerts() override { return {}; }
     void with_pool(const std::function<void()>& body) override { body(); }

@@ -26,7 +26,11 @@ class CocoaPanel : public PanelView {
 
 class CocoaScreen : public Screen {
   public:
-    std::unique_ptr<PanelView> make_panel() override { return std::make_unique<CocoaPanel>(); }
+    explicit CocoaScreen(PanelMaker make_panel) : _make_panel(std::move(make_panel)) {}
+
+    std::unique_ptr<PanelView> make_panel() override {
+        return _make_panel ? _make_panel() : std::make_unique<CocoaPanel>();
+    }
 
     bool has_window() const override { return floating_dialog() != nil; }
     bool window_is_visible() const override { return floating_dialog_is_visible(); }
@@ -45,6 +49,10 @@ class CocoaScreen : public Screen {
     void click(const PanelView* panel, int id, const std::string& name) override {
         click_control(root(panel), id, name);
     }
+    void post(const PanelView* panel, const RawEvent& event) override {
+        _hands.post(root(panel), event);
+    }
+    void settle() override { _hands.settle(); }
 
     void answer_next_alert(int button) override {
         NSSetNextAlertAnswer(static_cast<NSUInteger>(button));
@@ -66,12 +74,23 @@ class CocoaScreen : public Screen {
     static NSView* root(const PanelView* panel) {
         return panel ? panel->container() : floating_dialog();
     }
+
+    Hands _hands;
+    PanelMaker _make_panel;
 };
 
 } // namespace
 
-std::unique_ptr<Screen> make_screen() {
-    return std::make_unique<CocoaScreen>();
+void load_fonts() {
+    const AutoreleasePool pool;
+    NSTextField* field = [[NSTextField alloc] initWithFrame:NSMakeRect(0, 0, 20, 20)];
+    [field setStringValue:@"A"];
+    render(field, 1);
+    [field release];
+}
+
+std::unique_ptr<Screen> make_screen(PanelMaker make_panel) {
+    return std::make_unique<CocoaScreen>(std::move(make_panel));
 }
 
 } // namespace minihost

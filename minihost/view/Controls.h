@@ -23,7 +23,7 @@ struct Control {
     std::string text; // what stands in or on it, UTF-8
     bool enabled = true;
     // The number shown in an edit, whether a check box or radio button is on, the selected title of
-    // a pop-up, a slider's number; nothing where there is none.
+    // a pop-up; nothing where there is none.
     std::variant<std::monostate, double, bool, std::string> value;
     std::optional<std::vector<std::string>> entries; // of a pop-up
     double top = 0, left = 0, bottom = 0, right = 0; // points, in the coordinates of its dialog

@@ -91,9 +91,6 @@ Control control_of(NSView* view, Kind kind) {
     case Kind::edit:
         control.value = number_in(control.text);
         break;
-    case Kind::slider:
-        control.value = [static_cast<NSSlider*>(view) doubleValue];
-        break;
     case Kind::check:
     case Kind::radio:
         control.value = [static_cast<NSButton*>(view) state] == NSOnState;
@@ -144,6 +141,8 @@ NSControl* usable_control(NSView* root, int id, const std::string& name) {
     if (!root) throw ControlError("control '" + name + "': no dialog is open");
     NSControl* control = id > 0 ? find_control(root, id) : nil;
     if (!control) throw ControlError("control '" + name + "' is not in the dialog");
+    if ([control isHiddenOrHasHiddenAncestor])
+        throw ControlError("control '" + name + "' is hidden");
     if (![control isEnabled]) throw ControlError("control '" + name + "' is disabled");
     return control;
 }

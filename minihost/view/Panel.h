@@ -38,8 +38,12 @@ class Panel {
     NSWindow* _window;
 };
 
+// Says that a window is the host's own for as long as it lives, or that it is gone.
+void claim_window(NSWindow* window);
+void disclaim_window(NSWindow* window);
+
 // The content of the floating dialog that the plug-in made last, shown or not; null without one.
-// All windows but panels count.
+// All windows but the host's own and its panels count.
 NSView* floating_dialog();
 bool floating_dialog_is_visible();
 std::string floating_dialog_title();

@@ -10,8 +10,8 @@ namespace minihost {
 
 namespace {
 
-// The windows of all panels: the others are the plug-in's.
-std::set<NSWindow*>& panel_windows() {
+// The windows of the host and its panels: the others are the plug-in's.
+std::set<NSWindow*>& own_windows() {
     static std::set<NSWindow*> windows;
     return windows;
 }
@@ -20,7 +20,7 @@ NSWindow* floating_window() {
     NSArray* windows = [[NSApplication sharedApplication] windows];
     for (NSUInteger i = [windows count]; i-- > 0;) {
         NSWindow* window = [windows objectAtIndex:i];
-        if (!panel_windows().count(window)) return window;
+        if (!own_windows().count(window)) return window;
     }
     return nil;
 }
@@ -31,6 +31,14 @@ NSString* string(const std::string& utf8) {
 }
 
 } // namespace
+
+void claim_window(NSWindow* window) {
+    own_windows().insert(window);
+}
+
+void disclaim_window(NSWindow* window) {
+    own_windows().erase(window);
+}
 
 Panel::Panel(double width, double height) {
     const AutoreleasePool pool;
@@ -43,12 +51,12 @@ Panel::Panel(double width, double height) {
     NSView* container = [[NSView alloc] initWithFrame:NSMakeRect(0, 0, width, height)];
     [_window setContentView:container];
     [container release];
-    panel_windows().insert(_window);
+    claim_window(_window);
 }
 
 Panel::~Panel() {
     const AutoreleasePool pool;
-    panel_windows().erase(_window);
+    disclaim_window(_window);
     // The plug-in may still hold its views; they stand nowhere from now on.
     NSArray* views = [[[container() subviews] copy] autorelease];
     for (NSUInteger i = 0; i < [views count]; ++i) [[views objectAtIndex:i] removeFromSuperview];

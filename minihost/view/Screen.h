@@ -5,6 +5,7 @@
 
 #include "minihost/suites/Panels.h"
 #include "minihost/view/Controls.h"
+#include "minihost/view/Events.h"
 #include "minihost/view/Panel.h"
 
 #include <functional>
@@ -32,6 +33,9 @@ class Screen {
     virtual void set(const PanelView* panel, int id, const std::string& name,
                      const std::string& value) = 0;
     virtual void click(const PanelView* panel, int id, const std::string& name) = 0;
+    // A raw event, which waits until settle() lets all be answered. Throws ControlError.
+    virtual void post(const PanelView* panel, const RawEvent& event) = 0;
+    virtual void settle() = 0;
 
     // Alert panels: the button (from 1) that answers the next one; the texts of those shown since
     // the last asking.
@@ -45,7 +49,11 @@ class Screen {
 // A host without a display: panels without a view, no dialog ever.
 std::unique_ptr<Screen> make_blind_screen();
 
-// The display that this build has: Cocoa's, headless.
-std::unique_ptr<Screen> make_screen();
+// Draws a text to nowhere, so that the fonts are there for every process that is forked off later.
+void load_fonts();
+
+// The display that this build has: Cocoa's, headless unless another was chosen. Without a maker a
+// panel is in a window of its own.
+std::unique_ptr<Screen> make_screen(PanelMaker make_panel = {});
 
 } // namespace minihost

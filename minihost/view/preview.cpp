@@ -5,9 +5,6 @@
 #include "minihost/model/OutputFile.h"
 #include "minihost/view/preview_paint.h"
 
-#include <algorithm>
-#include <cctype>
-#include <filesystem>
 #include <memory>
 #include <stdexcept>
 
@@ -16,9 +13,7 @@ namespace minihost {
 namespace {
 
 PreviewFormat format_of(const std::string& path) {
-    std::string extension = std::filesystem::path(path).extension().string();
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    const std::string extension = extension_of(path);
     if (extension == ".png") return PreviewFormat::png;
     if (extension == ".svg") return PreviewFormat::svg;
     throw std::runtime_error(

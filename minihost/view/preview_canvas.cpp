@@ -4,6 +4,8 @@
 
 #include <cairo.h>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 #include <glib.h>
 #include <stdexcept>
 
@@ -120,6 +122,29 @@ class PixelCanvas : public Canvas {
         return file;
     }
 
+    std::vector<unsigned char> pixels() {
+        cairo_surface_flush(_surface);
+        const unsigned char* data = cairo_image_surface_get_data(_surface);
+        if (!data) throw std::runtime_error("the picture could not be made: no memory");
+        const int width = cairo_image_surface_get_width(_surface);
+        const int height = cairo_image_surface_get_height(_surface);
+        const int stride = cairo_image_surface_get_stride(_surface);
+        std::vector<unsigned char> rgba(static_cast<std::size_t>(width) * height * 4);
+        unsigned char* to = rgba.data();
+        for (int y = 0; y < height; ++y) {
+            const unsigned char* row = data + static_cast<std::size_t>(y) * stride;
+            for (int x = 0; x < width; ++x, to += 4) {
+                std::uint32_t pixel = 0;
+                std::memcpy(&pixel, row + 4 * x, 4);
+                to[0] = static_cast<unsigned char>(pixel >> 16);
+                to[1] = static_cast<unsigned char>(pixel >> 8);
+                to[2] = static_cast<unsigned char>(pixel);
+                to[3] = 0xff;
+            }
+        }
+        return rgba;
+    }
+
   private:
     void set(const Colour& c) { cairo_set_source_rgba(_context, c.r, c.g, c.b, c.a); }
 
@@ -166,6 +191,13 @@ class PixelCanvas : public Canvas {
 };
 
 } // namespace
+
+std::vector<unsigned char> paint_pixels(int width, int height,
+                                        const std::function<void(Canvas&)>& paint) {
+    PixelCanvas canvas(width, height);
+    paint(canvas);
+    return canvas.pixels();
+}
 
 std::unique_ptr<Canvas> png_canvas(int width, int height) {
     return std::make_unique<PixelCanvas>(width, height);

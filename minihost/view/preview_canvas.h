@@ -5,6 +5,7 @@
 
 #include "minihost/view/preview_space.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -64,6 +65,11 @@ class Canvas {
     // The whole file. Throws std::runtime_error where the picture cannot be made.
     virtual std::string encode() = 0;
 };
+
+// What is painted, as pixels: RGBA, 8 bits each, opaque, rows from the top. Throws
+// std::runtime_error when memory does not suffice.
+std::vector<unsigned char> paint_pixels(int width, int height,
+                                        const std::function<void(Canvas&)>& paint);
 
 // Width and height in pixels, 1 to 32000 each.
 std::unique_ptr<Canvas> png_canvas(int width, int height);

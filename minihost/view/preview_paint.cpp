@@ -41,7 +41,8 @@ class Painter {
     void caption() {
         const double size = 9.5 * _plan.point, pad = 5 * _plan.point, margin = 10 * _plan.point;
         const double room = _plan.width - 2 * (margin + pad);
-        if (room < 60 * _plan.point || _plan.height < 90 * _plan.point) return;
+        if (_plan.caption.empty() || room < 60 * _plan.point || _plan.height < 90 * _plan.point)
+            return;
         const double scale = size / Lettering::size;
         const TextLine line = _lettering.line(_plan.caption, room / scale);
         const double height = line.height * scale + pad, width = line.width * scale + 2 * pad;

@@ -74,8 +74,8 @@ std::array<double, 4> rectangle(const Layer& layer) {
     const bool told = layer.size.width > 0 && layer.size.height > 0;
     const double w = told ? layer.size.width : unsized.width;
     const double h = told ? layer.size.height : unsized.height;
-    if (told) return {0, 0, w, h};
-    return {-w / 2, -h / 2, w, h}; // about the anchor point that such a layer has
+    if (layer.has_source()) return {0, 0, w, h};
+    return {-w / 2, -h / 2, w, h}; // what has no source is drawn about its origin
 }
 
 double area(const std::vector<Point>& p) {
@@ -117,21 +117,40 @@ class Planner {
         _plan.point = scale;
         _plan.comp_width = w;
         _camera = first_camera();
-        if (_camera) {
-            const Pose pose = pose_of(*_camera, scene.composition.time);
-            _plan.lens = look(pose, pose.anchor_point, w, h);
-        } else {
-            _plan.lens = default_lens(w, h);
-        }
+        _plan.lens = lens();
         _plan.lens.unit = size.width >= size.height ? size.width / w : size.height / h;
+    }
+
+    Planner(const Scene& scene, const Framing& framing)
+        : _scene(scene), _layers(scene.layers()), _framing(&framing) {
+        _plan.width = framing.width;
+        _plan.height = framing.height;
+        _plan.point = framing.point;
+        _plan.comp_width = scene.composition.width;
+        _plan.lens = framing.lens;
+        _plan.caption = framing.caption;
+        if (framing.through_camera) _camera = first_camera();
     }
 
     Plan make() {
         gather();
         survey();
         drop_hidden();
-        write_caption();
+        if (!_framing) write_caption();
         return std::move(_plan);
+    }
+
+    Lens lens() const {
+        const double w = _scene.composition.width, h = _scene.composition.height;
+        const Layer* camera = first_camera();
+        if (!camera) return default_lens(w, h);
+        const Pose pose = pose_of(*camera, _scene.composition.time);
+        return look(pose, pose.anchor_point, w, h);
+    }
+
+    std::string camera_name() const {
+        const Layer* camera = first_camera();
+        return camera ? plain_text(camera->name) : "Default camera";
     }
 
   private:
@@ -151,7 +170,7 @@ class Planner {
         for (std::size_t i = _layers.size(); i-- > 0;) {
             if (_layers[i] == _camera) continue;
             Item item = item_of(i);
-            item.selected = chosen.contains(_layers[i]->id);
+            item.selected = !_framing && chosen.contains(_layers[i]->id);
             if (is_mark(item)) {
                 if (mark(item)) marks.push_back(std::move(item));
                 continue;
@@ -159,6 +178,10 @@ class Planner {
             if (item.flat) flush(group);
             if (!item.facet.visible()) continue;
             item.polygon = item.facet.polygon();
+            if (is_edge(item)) {
+                _plan.edges.push_back(std::move(item));
+                continue;
+            }
             if (area(item.polygon) < least_area) continue;
             (item.flat ? _plan.items : group).push_back(std::move(item));
         }
@@ -169,6 +192,7 @@ class Planner {
     Item item_of(std::size_t i) const {
         const Layer& layer = *_layers[i];
         Item item;
+        item.id = layer.id;
         item.index = static_cast<int>(i);
         item.kind = kind_of(layer);
         item.name = layer.name;
@@ -183,12 +207,22 @@ class Planner {
         item.flat = !layer.is_3d();
         const std::array<double, 4> box = rectangle(layer);
         const Placement p = item.flat ? place_flat(pose) : place(pose);
-        item.facet = item.flat ? Facet::flat(_plan.lens, p, box) : Facet(_plan.lens, p, box);
+        const bool on_picture = item.flat && (!_framing || _framing->through_camera);
+        item.facet = on_picture ? Facet::flat(_plan.lens, p, box) : Facet(_plan.lens, p, box);
         item.depth = item.facet.depth();
         item.half_across = p.x * (box[2] / 2);
         item.half_down = p.y * (box[3] / 2);
         item.middle = p.point({box[0] + box[2] / 2, box[1] + box[3] / 2, 0});
         return item;
+    }
+
+    // Thinner than a point: as a surface it would hardly be seen, or not at all.
+    bool is_edge(const Item& item) const {
+        if (!_framing || _framing->through_camera || item.polygon.empty()) return false;
+        double length = 0;
+        for (const Point& p : item.polygon)
+            length = std::max(length, std::hypot(p.x - item.polygon[0].x, p.y - item.polygon[0].y));
+        return length > 2 * _plan.point && area(item.polygon) < length * _plan.point;
     }
 
     // Where a light or a camera is marked; false where it is not in the picture.
@@ -253,7 +287,10 @@ class Planner {
         }
         std::size_t kept = 0;
         for (std::size_t i = 0; i < items.size(); ++i) {
-            if (!seen[i]) continue;
+            if (!seen[i]) {
+                if (_framing) _plan.hidden.push_back(std::move(items[i]));
+                continue;
+            }
             if (kept != i) items[kept] = std::move(items[i]);
             ++kept;
         }
@@ -262,9 +299,9 @@ class Planner {
 
     void write_caption() {
         const std::size_t count = _layers.size();
-        _plan.caption = plain_text(_scene.composition.name) + "   \u00b7   " +
-                        (_camera ? plain_text(_camera->name) : "Default camera") + "   \u00b7   " +
-                        std::to_string(count) + (count == 1 ? " layer" : " layers");
+        _plan.caption = plain_text(_scene.composition.name) + "   \u00b7   " + camera_name() +
+                        "   \u00b7   " + std::to_string(count) +
+                        (count == 1 ? " layer" : " layers");
     }
 
     // Pixels; less leaves no mark.
@@ -272,6 +309,7 @@ class Planner {
 
     const Scene& _scene;
     std::vector<const Layer*> _layers; // top first
+    const Framing* _framing = nullptr;
     Plan _plan;
     const Layer* _camera = nullptr;
 };
@@ -288,6 +326,18 @@ PictureSize picture_size(double comp_width, double comp_height, double scale) {
 
 Plan make_plan(const Scene& scene, double scale) {
     return Planner(scene, scale).make();
+}
+
+Plan make_plan(const Scene& scene, const Framing& framing) {
+    return Planner(scene, framing).make();
+}
+
+Lens camera_lens(const Scene& scene) {
+    return Planner(scene, 1.0).lens();
+}
+
+std::string camera_name(const Scene& scene) {
+    return Planner(scene, 1.0).camera_name();
 }
 
 } // namespace minihost::preview

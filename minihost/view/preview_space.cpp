@@ -119,7 +119,8 @@ Point Lens::project(const Vector& view) const {
     const auto bounded = [](double a) {
         return std::isnan(a) ? furthest : std::clamp(a, -furthest, furthest);
     };
-    return {bounded((centre.x + view.x * k) * unit), bounded((centre.y + view.y * k) * unit)};
+    return {bounded((centre.x + shift.x + view.x * k) * unit),
+            bounded((centre.y + shift.y + view.y * k) * unit)};
 }
 
 Lens look(const Pose& t, const Vector& point_of_interest, double width, double height) {
@@ -127,7 +128,7 @@ Lens look(const Pose& t, const Vector& point_of_interest, double width, double h
     const Vector x = unit_or(cross({0, 1, 0}, z), {1, 0, 0});
     Placement body{x, cross(z, x), z, t.position};
     body = body * (turn(t.orientation) * turn(t.rotation));
-    return {body, width * zoom_per_width, {width / 2, height / 2}, 1};
+    return {body, width * zoom_per_width, {width / 2, height / 2}, 1, {}, 0};
 }
 
 Lens default_lens(double width, double height) {
@@ -185,8 +186,8 @@ std::vector<Point> Facet::polygon() const {
     const double near = _lens.near();
     p = cut(p, [&](const Vector& a) { return a.z - near; });
     // Twice the half picture and a little more on each side: no cut edge is ever in it.
-    const double side = (2 * _lens.centre.x + 100) / _lens.zoom;
-    const double rise = (2 * _lens.centre.y + 100) / _lens.zoom;
+    const double side = (2 * _lens.centre.x + 100 + _lens.beyond) / _lens.zoom;
+    const double rise = (2 * _lens.centre.y + 100 + _lens.beyond) / _lens.zoom;
     p = cut(p, [&](const Vector& a) { return side * a.z + a.x; });
     p = cut(p, [&](const Vector& a) { return side * a.z - a.x; });
     p = cut(p, [&](const Vector& a) { return rise * a.z + a.y; });

@@ -59,6 +59,10 @@ struct Lens {
     double zoom = 1;
     Point centre;
     double unit = 1;
+    // For a picture that is no frame of the composition: how far the composition is moved in it,
+    // and how far the picture reaches beyond the composition, both in pixels of the composition.
+    Point shift;
+    double beyond = 0;
 
     // Nothing nearer than this is seen.
     double near() const;

@@ -33,7 +33,8 @@ void paint_backdrop(Canvas& canvas, const Plan& plan) {
     const Point g{up.x / level, up.y / level};
     const double unit = plan.lens.unit, reach = plan.lens.centre.y * 2.2 * unit;
     const double horizon = std::clamp(-up.z / level * plan.lens.zoom * unit, -1e5, 1e5);
-    const Point middle{plan.lens.centre.x * unit, plan.lens.centre.y * unit};
+    const Point middle{(plan.lens.centre.x + plan.lens.shift.x) * unit,
+                       (plan.lens.centre.y + plan.lens.shift.y) * unit};
     const auto along = [&](double t) {
         return Point{middle.x + g.x * (horizon + t), middle.y + g.y * (horizon + t)};
     };

@@ -67,10 +67,15 @@ TEST_F(Program, BadArgumentsAndBadScenesEndWithTwoAndTouchNothing) {
         {"apply scene.json --set angle", "NAME=VALUE"},
         {"apply scene.json --without panels --without legs", "legs"},
         {"apply scene.json --fail Walk", "Walk"},
+        {"apply scene.json --misbehave lies", "lies"},
         {"apply scene.json --palette blue", "blue"},
         {"apply scene.json --scale 0", "--scale"},
         {"apply scene.json --preview p.gif", "p.gif"},
         {"apply scene.json --panel p.svg", "p.svg"},
+        {"show scene.json --frames -1", "--frames"},
+        {"show scene.json --window 899x600", "--window"},
+        {"show scene.json --scale 5", "--scale"},
+        {"show scene.json --screenshot s.jpg", "s.jpg"},
         {"apply none.json", "none.json: cannot be read"},
         {"apply bad.json", "bad.json: layers[0].name: must be a text"},
         {"run scene.json none.txt", "none.txt: cannot be read"},
@@ -95,6 +100,27 @@ TEST_F(Program, BadArgumentsAndBadScenesEndWithTwoAndTouchNothing) {
     }
 }
 
+TEST_F(Program, ShowsAWindowForSoManyFrames) {
+    ::setenv("SDL_VIDEODRIVER", "dummy", 1);
+    const std::string options = "show scene.json --plugin " MODULES "/arranger.plugin --scale 1.5 "
+                                "--window 901x600 --frames ";
+    EXPECT_EQ(run(options + "3 --screenshot shot.png --out out.json"), 0) << told;
+    const std::string shot = read_file(folder / "shot.png");
+    const auto number = [&](std::size_t at) { // of the file's head: width and height, big-endian
+        return static_cast<unsigned char>(shot[at + 2]) << 8 |
+               static_cast<unsigned char>(shot[at + 3]);
+    };
+    EXPECT_EQ(number(16), 1352); // 1351.5, rounded
+    EXPECT_EQ(number(20), 900);
+    EXPECT_EQ(output()["selection"], json({0}));
+    EXPECT_EQ(run(options + "1 --screenshot no/shot.png"), 1);
+    EXPECT_THAT(told, HasSubstr("no/shot.png"));
+    ::setenv("SDL_VIDEODRIVER", "none of this name", 1);
+    EXPECT_EQ(run(options + "1"), 1);
+    EXPECT_THAT(told, HasSubstr("no desktop"));
+    ::unsetenv("SDL_VIDEODRIVER");
+}
+
 TEST_F(Program, HelpAndVersionArePrinted) {
     EXPECT_EQ(run("--version"), 0);
     EXPECT_EQ(printed, "minihost 1.4\n");
@@ -102,6 +128,7 @@ TEST_F(Program, HelpAndVersionArePrinted) {
     for (const Action& action : actions()) EXPECT_THAT(printed, HasSubstr(action.sentence));
     EXPECT_EQ(run("run --help"), 0);
     EXPECT_THAT(printed, HasSubstr("--without"));
+    for (const Misdeed& it : misdeeds()) EXPECT_THAT(printed, HasSubstr(it.sentence));
 }
 
 TEST_F(Program, TheCommandIsOneStepThatUndoTakesBack) {
@@ -138,6 +165,10 @@ TEST_F(Program, ActionsEditTheComposition) {
     EXPECT_EQ(layers[2]["name"], "C");
     EXPECT_EQ(output()["composition"]["time"], 2.5);
     EXPECT_EQ(output()["active"], "footage");
+    EXPECT_EQ(run_actions("rename A D\nload out.json\nstate\nload none.json\n"), 1);
+    EXPECT_EQ(state()["undo"], json({"Add Layer", "Rename Layer", "Move Layer"})) << "the file's";
+    EXPECT_EQ(state()["selection"], json({1, 2}));
+    EXPECT_THAT(told, HasSubstr("none.json: cannot be read"));
     EXPECT_EQ(run_actions("select-all\nremove #0\nstate\n"), 0);
     EXPECT_EQ(state()["selection"], json({0}));
     EXPECT_EQ(run("run out.json - --plugin " MODULES "/arranger.plugin", "deselect\nstate\n"), 0);
@@ -148,7 +179,7 @@ TEST_F(Program, WhatCannotBeDoneEndsWithOneAndTheSceneAsItIsThen) {
     for (const char* action :
          {"select D", "select #2", "undo", "redo", "move A 2", "move A x", "time 1e9",
           "active both", "close-panel", "set size.x=3", "click apply", "answer 0", "panel p.png",
-          "save /nowhere/s.json", "preview p.gif"}) {
+          "panel p.gif", "save /nowhere/s.json", "preview p.gif"}) {
         EXPECT_EQ(run_actions(std::string("time 3\n") + action + "\ntime 4\n", "--out out.json"), 1)
             << action;
         EXPECT_THAT(told, HasSubstr("actions.txt:2: ")) << action;

@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 #include <random>
+#include <set>
 
 namespace minihost {
 namespace {
@@ -189,6 +190,32 @@ TEST(Document, UndoAndRedoBringBackLayersAndTheSelection) {
     Layer camera = solid("Camera 1");
     const LayerId added = document.add_layer(camera, 0);
     EXPECT_GT(added, c2) << "numbers are never used twice";
+}
+
+TEST(Document, KnowsTheStateThatItComesBackTo) {
+    Document document = document_of({"A", "B"});
+    const LayerId a = document.scene().layer_at(0).id;
+    std::set<std::uint64_t> states{document.state()}, revisions{document.revision()};
+    const auto changed = [&] {
+        return std::pair(states.insert(document.state()).second,
+                         revisions.insert(document.revision()).second);
+    };
+    document.select({a});
+    EXPECT_EQ(changed(), std::pair(false, false)) << "what is selected is no change";
+    document.rename_layer(a, "C");
+    const std::uint64_t renamed = document.state();
+    EXPECT_EQ(changed(), std::pair(true, true));
+    document.undo();
+    EXPECT_EQ(changed(), std::pair(false, true)) << "as it was, but drawn anew";
+    document.redo();
+    EXPECT_EQ(document.state(), renamed);
+    document.undo();
+    document.rename_layer(a, "C");
+    EXPECT_EQ(changed(), std::pair(true, true)) << "another step that does the same";
+    document.begin_group("Open");
+    EXPECT_FALSE(changed().first);
+    document.move_layer(a, 1);
+    EXPECT_TRUE(changed().first) << "what is changed in an open group is changed";
 }
 
 // What must not be quadratic: all of 60,000 layers duplicated, named, moved and undone.

@@ -132,6 +132,60 @@ TEST_F(Plugin, ControlsAreUsedAsAUserWould) {
     EXPECT_THAT(refusal({"set", "camera=Cam 9"}), HasSubstr("no entry 'Cam 9'"));
 }
 
+TEST_F(Plugin, RawEventsWaitForWhatFollowsAndAreAnsweredTogether) {
+    start();
+    act({{"add-camera", "Cam 2"}, {"open"}, {"set", "orientation.towards-camera=on"}});
+    const auto at = [&](const std::string& name, Words words) {
+        const json rect = control(name)["rect"];
+        const auto middle = [&](int a, int b) {
+            return std::to_string((rect[a].get<double>() + rect[b].get<double>()) / 2);
+        };
+        words.insert(words.begin() + 2, {middle(1, 3), middle(0, 2)});
+        return words;
+    };
+    const Words on_repeat = at("repeat", {"mouse", "down"});
+    Words release = on_repeat;
+    release[1] = "up";
+    act({on_repeat, {"wait"}, release});
+    EXPECT_EQ(control("repeat")["value"], false) << "let go before it moved on";
+    act({on_repeat, release});
+    EXPECT_EQ(control("repeat")["value"], true);
+    act({on_repeat, {"mouse", "move", "1", "1"}, {"mouse", "up", "1", "1"}});
+    EXPECT_EQ(control("repeat")["value"], true) << "let go outside";
+    act({on_repeat, release, {"wait"}, on_repeat, release});
+    EXPECT_EQ(control("repeat")["value"], true) << "twice";
+
+    const Words field = at("angle.max", {"mouse", "down", "double"});
+    Words field_up = field;
+    field_up[1] = "up";
+    act({field, field_up, {"key", "a", "command"}, {"type", "77"}, {"key", "return"}});
+    EXPECT_EQ(control("angle.max")["value"], 77);
+
+    const Words camera = at("camera", {"mouse", "down"});
+    Words camera_up = camera;
+    camera_up[1] = "up";
+    act({camera, camera_up, {"key", "end"}, {"key", "return"}});
+    EXPECT_EQ(control("camera")["value"], "Cam");
+    act({camera, camera_up, {"key", "home"}});
+    EXPECT_EQ(control("camera")["value"], "Cam") << "a list that nobody answers closes";
+    act({{"wheel", "20", "20", "0", "-3"}, camera});
+    EXPECT_THAT(session->unload(), IsEmpty());
+    EXPECT_THAT(told, IsEmpty());
+
+    start();
+    EXPECT_THAT(refusal({"key", "x"}), HasSubstr("not there"));
+    act({{"open"}});
+    for (const auto& [words, cause] :
+         {std::pair{Words{"mouse", "drag", "1", "1"}, "none of down, up, move"},
+          {{"mouse", "down", "1", "1e9"}, "no number"},
+          {{"mouse", "down", "1", "1", "left"}, "none of right, double, shift"},
+          {{"wheel", "1", "1", "nan", "1"}, "no number"},
+          {{"key", "enter-prise"}, "no key"},
+          {{"key", "x", "hyper"}, "none of shift"},
+          {{"type", "\xff"}, "not valid UTF-8"}})
+        EXPECT_THAT(refusal(words), HasSubstr(cause)) << words[0];
+}
+
 TEST_F(Plugin, ApplyIsOneStepThatUndoTakesBackWhole) {
     start();
     const json before = scene_now();

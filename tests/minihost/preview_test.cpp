@@ -236,6 +236,7 @@ TEST(Preview, DrawsEveryKindOfLayer) {
         Layer layer = card(pale, "Seal");
         layer.kind = kind;
         layer.transform.position = {960, 300, 0};
+        if (!layer.has_source()) layer.transform.anchor_point = {}; // as scenes give it
         const Picture picture(scene_of({camera({960, 540, -eye}, {960, 540, 0}), layer}));
         EXPECT_GT(picture.differences(empty, 430, 120, 530, 180), 60) << name_of(kind);
         EXPECT_EQ(picture.differences(empty, 0, 0, 960, 90), 0) << name_of(kind);

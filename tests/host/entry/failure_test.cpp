@@ -105,6 +105,27 @@ void sweep(std::set<std::string> without, int step) {
 
 // On the whole host every single call fails; on the lesser ones, which differ in few calls, every
 // fourth of a kind.
+// A null handle that comes with success stands for nothing, and the host is not asked about it.
+// Every fifth: each place asks for several.
+TEST(NullHandles, AreNotPassedOn) {
+    HostOptions options;
+    options.misdeeds = {minihost::parse_misdeed("null-handles:1000000")};
+    std::int64_t answers = 0;
+    {
+        PluginHost plain(scene, options, false);
+        live(plain);
+        answers = plain.session.host().misbehaviour.answers(minihost::AnswerKind::Handle);
+    }
+    ASSERT_GT(answers, 50);
+    for (std::int64_t number = 1; number <= answers; number += 5) {
+        options.misdeeds[0].number = number;
+        PluginHost host(scene, options, false);
+        live(host);
+        EXPECT_THAT(host.session.unload(), IsEmpty()) << number;
+        EXPECT_EQ(host.session.host().misuses(), 0) << number;
+    }
+}
+
 TEST(FailingCalls, OnAHostWithEverything) {
     sweep({}, 1);
 }

@@ -1,0 +1,101 @@
+// The table of all checks.
+
+#include "minihost/check/Groups.h"
+
+namespace minihost {
+
+namespace {
+
+constexpr Check table[] = {
+    {"load.exports", "The module exports its entry function and nothing else.", 1, Needs::Nothing,
+     check_exports},
+    {"load.entry", "The module is loaded, and its entry function succeeds.", 1, Needs::Nothing,
+     check_entry},
+    {"load.repeatedly", "A thousand loads and unloads leave no file, thread or mapping behind.", 1,
+     Needs::Start, check_loading_repeatedly},
+
+    {"hooks.registered", "Every command has a text, a number of its own, a hook, and a menu hook.",
+     1, Needs::Start, check_registered},
+    {"hooks.idle-ends", "An idle call ends in time.", 1, Needs::Start, check_idle_ends},
+    {"hooks.return", "Every other hook and every control's action ends in time, without a crash.",
+     1, Needs::Start, check_hooks_return},
+    {"hooks.no-exceptions", "Nothing that is thrown leaves a hook or a control's action.", 1,
+     Needs::Life, check_plain<FaultKind::HookException>},
+    {"hooks.no-errors", "No hook returns an error when no call fails.", 1, Needs::Life,
+     check_plain<FaultKind::HookError>},
+
+    {"misuse.stale-handles", "No handle is used when what it stood for is no more.", 1, Needs::Life,
+     check_plain<FaultKind::StaleHandle>},
+    {"misuse.wrong-handles", "No handle is null, made up, or of another kind.", 1, Needs::Life,
+     check_plain<FaultKind::WrongHandle>},
+    {"misuse.arguments", "No pointer is null, no time has the scale 0.", 1, Needs::Life,
+     check_plain<FaultKind::BadArgument>},
+    {"misuse.unbalanced", "Nothing is given back or closed more often than taken or opened.", 1,
+     Needs::Life, check_plain<FaultKind::Unbalanced>},
+    {"misuse.late-registration", "Nothing is registered outside of the entry function.", 1,
+     Needs::Life, check_plain<FaultKind::LateRegistration>},
+
+    {"held.suites", "At unload every suite is released.", 1, Needs::Life,
+     check_plain<FaultKind::HeldSuite>},
+    {"held.streams", "At unload every stream is disposed of.", 1, Needs::Life,
+     check_plain<FaultKind::HeldStream>},
+    {"held.collections", "At unload every collection is disposed of.", 1, Needs::Life,
+     check_plain<FaultKind::HeldCollection>},
+    {"held.undo-groups", "No undo group is open when a hook is through.", 1, Needs::Life,
+     check_plain<FaultKind::OpenUndoGroup>},
+    {"held.memory", "Lives that follow each other do not take more and more memory.", 1,
+     Needs::Life, check_memory},
+
+    {"missing.suites", "A host without optional suites, in all combinations, is served well.", 1,
+     Needs::Life, check_missing_optional},
+    {"missing.any", "A host that lacks any one suite gets errors at most.", 1, Needs::Life,
+     check_missing_any},
+
+    {"failing.entry", "Any call that fails while the plug-in starts does no harm.", 1, Needs::Life,
+     check_failing<Phase::Entry>},
+    {"failing.open", "Any call that fails while the dialog opens does no harm.", 1, Needs::Life,
+     check_failing<Phase::Open>},
+    {"failing.idle", "Any call that fails in an idle call does no harm.", 1, Needs::Life,
+     check_failing<Phase::Idle>},
+    {"failing.apply", "Any call that fails while controls are used, in all modes, does no harm.", 1,
+     Needs::Life, check_failing<Phase::Apply>},
+    {"failing.close", "Any call that fails while the dialog closes does no harm.", 1, Needs::Life,
+     check_failing<Phase::Close>},
+    {"failing.death", "Any call that fails while the plug-in ends does no harm.", 1, Needs::Life,
+     check_failing<Phase::Death>},
+
+    {"hostile.null-handles", "Null handles that are given with success do no harm.", 1, Needs::Life,
+     check_hostile<AnswerKind::Handle>},
+    {"hostile.counts", "Counts and indices that are negative or huge do no harm.", 1, Needs::Life,
+     check_hostile<AnswerKind::Count>},
+    {"hostile.sizes", "Sizes that are zero, negative or huge do no harm.", 1, Needs::Life,
+     check_hostile<AnswerKind::Size>},
+    {"hostile.names", "Names that are empty, long or no UTF-8 do no harm.", 1, Needs::Life,
+     check_hostile<AnswerKind::Name>},
+    {"hostile.numbers", "Values of streams that are infinite or no numbers do no harm.", 1,
+     Needs::Life, check_hostile<AnswerKind::Value>},
+    {"hostile.changing-scene", "A scene that changes between two calls does no harm.", 1,
+     Needs::Life, check_hostile<AnswerKind::Scene>},
+
+    {"random.actions", "Users who do anything with controls and layers do no harm.", 1, Needs::Life,
+     check_random_actions},
+    {"random.events", "Users whose mouse and keys do anything do no harm.", 1, Needs::Life,
+     check_random_events},
+
+    {"equal.calls", "Two equal runs at the same time of day make the same calls.", 1, Needs::Life,
+     check_equal_calls},
+};
+
+} // namespace
+
+std::span<const Check> checks() {
+    return table;
+}
+
+const Check* find_check(std::string_view id) {
+    for (const Check& it : table)
+        if (it.id == id) return &it;
+    return nullptr;
+}
+
+} // namespace minihost

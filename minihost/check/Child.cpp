@@ -1,0 +1,204 @@
+#include "minihost/check/Child.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <new>
+#include <poll.h>
+#include <sys/mman.h>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <system_error>
+#include <unistd.h>
+
+// Of the leak sanitizer, where the program has one.
+extern "C" __attribute__((weak)) int __lsan_do_recoverable_leak_check();
+
+namespace minihost {
+
+namespace {
+
+constexpr std::size_t most_lines_said = 12;
+
+[[noreturn]] void fail(const char* what) {
+    throw std::system_error(errno, std::generic_category(), what);
+}
+
+std::string content(int file, std::size_t most) {
+    const off_t size = ::lseek(file, 0, SEEK_END);
+    const off_t start = std::max<off_t>(0, size - static_cast<off_t>(most));
+    std::string text(static_cast<std::size_t>(std::max<off_t>(size - start, 0)), '\0');
+    const ssize_t read = ::pread(file, text.data(), text.size(), start);
+    text.resize(static_cast<std::size_t>(std::max<ssize_t>(read, 0)));
+    return text;
+}
+
+void write_all(int file, std::string_view text) {
+    while (!text.empty()) {
+        const ssize_t count = ::write(file, text.data(), text.size());
+        if (count < 0 && errno != EINTR) std::_Exit(3);
+        text.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+    }
+}
+
+} // namespace
+
+#if defined(__SANITIZE_ADDRESS__)
+const int sanitizer_factor = 5;
+#else
+const int sanitizer_factor = 1;
+#endif
+
+void Place::enter(std::string_view step) {
+    const std::size_t length = std::min(step.size(), sizeof _step - 1);
+    std::memcpy(_step, step.data(), length);
+    _step[length] = 0;
+    ++_steps;
+}
+
+std::string Place::step() const {
+    return std::string(_step, ::strnlen(_step, sizeof _step));
+}
+
+Child::Child(const Work& work, Limits limits, Exit exit)
+    : _limits(limits), _start(Clock::now()), _step_start(_start) {
+    void* shared =
+        ::mmap(nullptr, sizeof(Place), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    if (shared == MAP_FAILED) fail("no memory to share");
+    _place = new (shared) Place;
+    _result = ::memfd_create("result", MFD_CLOEXEC);
+    _said = ::memfd_create("said", MFD_CLOEXEC);
+    std::fflush(nullptr); // or the child writes it once more
+    const pid_t parent = ::getpid();
+    _process = _result < 0 || _said < 0 ? -1 : ::fork();
+    if (_process < 0) fail("no process can be made");
+    if (_process == 0) {
+        // A child whose parent is ended goes, too.
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+        if (::getppid() != parent) std::_Exit(1);
+        this->work(work, exit);
+    }
+    _watch = static_cast<int>(::syscall(SYS_pidfd_open, _process, 0));
+}
+
+Child::~Child() {
+    if (!_over) {
+        ::kill(_process, SIGKILL);
+        ::waitpid(_process, nullptr, 0);
+    }
+    for (const int file : {_result, _said, _watch})
+        if (file >= 0) ::close(file);
+    ::munmap(_place, sizeof(Place));
+}
+
+void Child::work(const Work& work, Exit exit) {
+    ::dup2(_said, STDERR_FILENO);
+    std::signal(SIGINT, SIG_DFL);
+    std::string result;
+    try {
+        result = work(*_place);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        std::fflush(stderr);
+        std::_Exit(1);
+    }
+    write_all(_result, result);
+    if (exit == Exit::Quick) {
+        std::fflush(nullptr);
+        std::_Exit(0);
+    }
+    if (__lsan_do_recoverable_leak_check && __lsan_do_recoverable_leak_check()) {
+        _place->_leaked = true;
+        std::_Exit(0); // it is told; the verdict at the exit would be the same
+    }
+    std::exit(0);
+}
+
+bool Child::wait(std::chrono::milliseconds time) {
+    const Clock::time_point until = Clock::now() + time;
+    while (!_over) {
+        int status = 0;
+        if (::waitpid(_process, &status, WNOHANG) == _process) {
+            finish(status);
+            break;
+        }
+        check_limits();
+        const auto left = until - Clock::now();
+        if (_over || left <= left.zero()) break;
+        // A limit is looked at every now and then; the end of the process is told at once.
+        const auto slice = std::min<std::chrono::milliseconds>(
+            std::chrono::ceil<std::chrono::milliseconds>(left), std::chrono::milliseconds(100));
+        pollfd poll{_watch, POLLIN, 0};
+        ::poll(&poll, _watch >= 0 ? 1 : 0, static_cast<int>(slice.count()));
+    }
+    return _over;
+}
+
+void Child::check_limits() {
+    const Clock::time_point now = Clock::now();
+    if (const std::uint64_t steps = _place->steps(); steps != _steps_seen) {
+        _steps_seen = steps;
+        _step_start = now;
+    }
+    const bool whole = now - _start > _limits.whole;
+    if (!whole && now - _step_start <= _limits.step) return;
+    ::kill(_process, SIGKILL);
+    ::waitpid(_process, nullptr, 0);
+    _over = true;
+    const auto seconds =
+        std::chrono::duration<double>(whole ? _limits.whole : _limits.step).count();
+    _ending = {Ending::Kind::TimedOut,
+               "",
+               _place->step(),
+               "did not end within " + std::to_string(static_cast<int>(seconds + 0.5)) + " s",
+               false,
+               last_lines()};
+}
+
+void Child::finish(int status) {
+    _over = true;
+    _ending.step = _place->step();
+    _ending.said = last_lines();
+    _ending.leaked = _place->_leaked;
+    if (WIFEXITED(status) && WEXITSTATUS(status) == 0) {
+        _ending.result = content(_result, SIZE_MAX >> 1);
+        return;
+    }
+    _ending.kind = Ending::Kind::Crashed;
+    _ending.cause = WIFSIGNALED(status)
+                        ? std::string("ended by a signal: ") + ::strsignal(WTERMSIG(status))
+                        : "ended with status " + std::to_string(WEXITSTATUS(status));
+}
+
+std::vector<std::string> Child::last_lines() const {
+    const std::string text = content(_said, 1 << 16);
+    std::vector<std::string> lines;
+    for (std::size_t start = 0; start < text.size();) {
+        const std::size_t end = std::min(text.find('\n', start), text.size());
+        if (end > start) lines.push_back(text.substr(start, end - start));
+        start = end + 1;
+    }
+    // What a sanitizer says first tells most.
+    const auto heading = std::find_if(lines.begin(), lines.end(), [](const std::string& line) {
+        return line.find("Sanitizer") != std::string::npos ||
+               line.find("runtime error") != std::string::npos;
+    });
+    if (heading != lines.end())
+        lines.erase(lines.begin(), heading);
+    else if (lines.size() > most_lines_said)
+        lines.erase(lines.begin(), lines.end() - most_lines_said);
+    if (lines.size() > most_lines_said) lines.resize(most_lines_said);
+    return lines;
+}
+
+Ending run_in_child(const Child::Work& work, Limits limits, Child::Exit exit) {
+    Child child(work, limits, exit);
+    while (!child.wait(std::chrono::seconds(10))) {
+    }
+    return child.ending();
+}
+
+} // namespace minihost

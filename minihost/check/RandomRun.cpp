@@ -1,0 +1,139 @@
+#include "minihost/check/RandomRun.h"
+
+#include "minihost/check/Groups.h"
+#include "minihost/check/Life.h"
+
+#include <cerrno>
+#include <sys/mman.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace minihost {
+
+namespace {
+
+// Each line of the journal begins with what it is.
+constexpr char deed_mark = '=', line_mark = '+', refusal_mark = '!';
+
+} // namespace
+
+Journal::Journal() : _file(::memfd_create("journal", MFD_CLOEXEC)) {
+    if (_file < 0) throw std::system_error(errno, std::generic_category(), "no journal");
+}
+
+Journal::~Journal() {
+    ::close(_file);
+}
+
+void Journal::write(const std::string& text) {
+    if (::write(_file, text.data(), text.size()) != static_cast<ssize_t>(text.size()))
+        throw std::system_error(errno, std::generic_category(), "the journal");
+}
+
+void Journal::begin_deed() {
+    write(std::string(1, deed_mark) + "\n");
+}
+
+void Journal::begin(const std::string& line) {
+    write(line_mark + line + "\n");
+}
+
+void Journal::refuse() {
+    write(std::string(1, refusal_mark) + "\n");
+}
+
+std::vector<Deed> Journal::deeds() const {
+    std::string text(static_cast<std::size_t>(std::max<off_t>(::lseek(_file, 0, SEEK_END), 0)), 0);
+    text.resize(static_cast<std::size_t>(
+        std::max<ssize_t>(::pread(_file, text.data(), text.size(), 0), 0)));
+    std::vector<Deed> deeds;
+    for (std::size_t start = 0; start < text.size();) {
+        const std::size_t end = text.find('\n', start);
+        if (text[start] == deed_mark)
+            deeds.emplace_back();
+        else if (text[start] == line_mark)
+            deeds.back().push_back(text.substr(start + 1, end - start - 1));
+        else
+            deeds.back().pop_back();
+        start = end + 1;
+    }
+    std::erase_if(deeds, [](const Deed& it) { return it.empty(); });
+    return deeds;
+}
+
+std::set<FaultKind> RandomRuns::known(const CheckContext& context) {
+    std::set<FaultKind> known;
+    for (const RehearsedLife& life : context.rehearsal.lives) known.merge(life.kinds());
+    return known;
+}
+
+void RandomRuns::use(std::uint64_t seed, RandomUser::Way way, std::size_t deeds, Done done) {
+    run(
+        [user = RandomUser(seed, way), deeds](Session& session) mutable {
+            return deeds-- > 0 ? std::optional(user.next(session)) : std::nullopt;
+        },
+        std::move(done));
+}
+
+void RandomRuns::repeat(std::vector<Deed> deeds, Done done) {
+    run(
+        [deeds = std::move(deeds), next = std::size_t{0}](Session&) mutable {
+            return next < deeds.size() ? std::optional(deeds[next++]) : std::nullopt;
+        },
+        std::move(done));
+}
+
+void RandomRuns::run(Next next, Done done) {
+    const auto journal = std::make_shared<Journal>();
+    _crew.run([this, next = std::move(next),
+               journal](Place& place) { return live(next, *journal, place); },
+              [this, done = std::move(done), journal](const Ending& ending) {
+                  ++_context.place.runs;
+                  done(result(ending, *journal));
+              });
+}
+
+// Until something goes wrong that did not without this.
+std::string RandomRuns::live(const Next& next, Journal& journal, Place& place) const {
+    Life life(_context.subject.plugin, _context.subject.small_scene, {}, place);
+    std::size_t seen = 0;
+    const auto new_fault = [&] {
+        for (; seen < life.faults().size(); ++seen)
+            if (!_known.contains(life.faults()[seen].kind)) return true;
+        return false;
+    };
+    life.load();
+    while (!new_fault()) {
+        const auto deed = next(life.session());
+        if (!deed) {
+            life.unload();
+            new_fault();
+            break;
+        }
+        journal.begin_deed();
+        for (const std::string& line : *deed) {
+            journal.begin(line);
+            if (!life.play(line)) journal.refuse();
+        }
+    }
+    if (seen == life.faults().size()) return faults_text({});
+    return faults_text({life.faults()[seen]});
+}
+
+RandomResult RandomRuns::result(const Ending& ending, const Journal& journal) const {
+    RandomResult result;
+    if (ending.kind != Ending::Kind::Done) {
+        result.wrong = Wrong{ending.kind, {}};
+        result.text = death_of(ending);
+    } else if (const std::vector<Fault> faults = faults_in(ending.result); !faults.empty()) {
+        result.wrong = Wrong{ending.kind, faults[0].kind};
+        result.text = faults[0].text;
+    } else if (ending.leaked && !_known.contains(FaultKind::Leak)) {
+        result.wrong = Wrong{ending.kind, FaultKind::Leak};
+        result.text = "memory is not freed at the end";
+    }
+    if (result.wrong) result.deeds = journal.deeds();
+    return result;
+}
+
+} // namespace minihost

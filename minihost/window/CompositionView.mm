@@ -1,0 +1,339 @@
+#include "minihost/window/CompositionView.h"
+
+#include "minihost/view/preview_paint.h"
+#include "minihost/window/Look.h"
+#include "minihost/window/Picking.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+using namespace minihost;
+
+namespace {
+
+constexpr double degrees_per_point = 0.4, band_starts = 3, zoom_per_line = 1.12;
+constexpr double key_step = 24, key_degrees = 6;
+
+CGImageRef image_of(std::vector<unsigned char>& rgba, int width, int height) {
+    CGColorSpaceRef space = CGColorSpaceCreateDeviceRGB();
+    CGContextRef pixels = CGBitmapContextCreate(
+        rgba.data(), static_cast<size_t>(width), static_cast<size_t>(height), 8,
+        static_cast<size_t>(width) * 4, space, kCGImageAlphaPremultipliedLast);
+    CGImageRef image = pixels ? CGBitmapContextCreateImage(pixels) : nullptr;
+    CGContextRelease(pixels);
+    CGColorSpaceRelease(space);
+    return image;
+}
+
+} // namespace
+
+// What was painted last, and of what.
+struct CompositionPicture {
+    struct Key {
+        std::uint64_t revision;
+        ViewPoint view;
+        double width, height, scale;
+        bool operator==(const Key&) const = default;
+    };
+    std::optional<Key> key;
+    preview::Plan plan;
+    CGImageRef image = nullptr;
+
+    CompositionPicture() = default;
+    CompositionPicture(const CompositionPicture&) = delete;
+    CompositionPicture& operator=(const CompositionPicture&) = delete;
+    ~CompositionPicture() { CGImageRelease(image); }
+
+    void paint(const Workbench& bench, const Key& wanted) {
+        if (key == wanted) return;
+        preview::Framing framing =
+            wanted.view.framing(bench.scene(), wanted.width, wanted.height, wanted.scale);
+        plan = preview::make_plan(bench.scene(), framing);
+        std::vector<unsigned char> rgba = preview::paint_pixels(
+            plan.width, plan.height, [this](preview::Canvas& canvas) { paint_all(canvas); });
+        CGImageRelease(image);
+        image = image_of(rgba, plan.width, plan.height);
+        key = wanted;
+    }
+
+  private:
+    void paint_all(preview::Canvas& canvas) { preview::paint(canvas, plan); }
+};
+
+@implementation CompositionView
+- (id)initWithFrame:(NSRect)frame {
+    self = [super initWithFrame:frame];
+    if (self) _picture = new CompositionPicture();
+    return self;
+}
+- (void)dealloc {
+    delete _picture;
+    [super dealloc];
+}
+- (void)setWorkbench:(Workbench*)bench {
+    _bench = bench;
+}
+- (BOOL)isFlipped {
+    return YES;
+}
+- (BOOL)acceptsFirstResponder {
+    return YES;
+}
+- (BOOL)becomeFirstResponder {
+    [self setNeedsDisplay:YES];
+    return YES;
+}
+- (BOOL)resignFirstResponder {
+    [self setNeedsDisplay:YES];
+    return YES;
+}
+// The ring would lie on the neighbours: it is drawn inside.
+- (NSRect)focusRingRect {
+    return NSInsetRect([self bounds], 3, 3);
+}
+
+- (double)scale {
+    return [[NSScreen mainScreen] backingScaleFactor];
+}
+
+- (BOOL)prepare {
+    const NSRect bounds = [self bounds];
+    if (!_bench || NSWidth(bounds) < 1 || NSHeight(bounds) < 1) return NO;
+    _picture->paint(*_bench, {_bench->look().revision, _bench->view, NSWidth(bounds),
+                              NSHeight(bounds), [self scale]});
+    return _picture->image != nullptr;
+}
+
+// Drawing.
+
+- (void)trace:(const std::vector<preview::Point>&)polygon in:(CGContextRef)context {
+    const double scale = [self scale];
+    bool first = true;
+    for (const preview::Point& p : polygon) {
+        if (first)
+            CGContextMoveToPoint(context, p.x / scale, p.y / scale);
+        else
+            CGContextAddLineToPoint(context, p.x / scale, p.y / scale);
+        first = false;
+    }
+    CGContextClosePath(context);
+}
+
+- (void)outline:(const std::vector<preview::Item>&)items
+          alpha:(double)alpha
+             in:(CGContextRef)context {
+    NSColor* color = [look::color(look::Part::Highlight) colorWithAlphaComponent:alpha];
+    [color setStroke];
+    [color setFill];
+    const double scale = [self scale];
+    for (const preview::Item& item : items) {
+        if (!_bench->is_selected(item.id)) continue;
+        if (item.polygon.empty()) { // a camera's or a light's mark
+            const double r = 12;
+            CGContextStrokeEllipseInRect(
+                context,
+                CGRectMake(item.spot.x / scale - r, item.spot.y / scale - r, 2 * r, 2 * r));
+            continue;
+        }
+        [self trace:item.polygon in:context];
+        CGContextStrokePath(context);
+    }
+}
+
+// Sheets that the view meets edge-on, in their colours.
+- (void)drawEdgesIn:(CGContextRef)context {
+    for (const preview::Item& item : _picture->plan.edges) {
+        const preview::Colour& c = item.colour;
+        CGContextSetRGBStrokeColor(context, c.r, c.g, c.b, 1);
+        [self trace:item.polygon in:context];
+        CGContextStrokePath(context);
+    }
+}
+
+// What the camera does not take is darkened.
+- (void)drawFrame {
+    const Composition& composition = _bench->scene().composition;
+    const double m = _bench->view.magnification(_bench->scene(), NSWidth([self bounds]),
+                                                NSHeight([self bounds]));
+    const preview::Lens& lens = _picture->plan.lens;
+    const NSRect all = [self bounds];
+    const NSRect frame = NSMakeRect(lens.shift.x * m, lens.shift.y * m, composition.width * m,
+                                    composition.height * m);
+    [[NSColor colorWithDeviceWhite:0 alpha:0.45] setFill];
+    const double top = NSMinY(frame), bottom = NSMaxY(frame);
+    for (const NSRect& rest :
+         {NSMakeRect(0, 0, NSWidth(all), top),
+          NSMakeRect(0, bottom, NSWidth(all), NSHeight(all) - bottom),
+          NSMakeRect(0, top, NSMinX(frame), bottom - top),
+          NSMakeRect(NSMaxX(frame), top, NSWidth(all) - NSMaxX(frame), bottom - top)})
+        if (NSWidth(rest) > 0 && NSHeight(rest) > 0)
+            NSRectFillUsingOperation(rest, NSCompositeSourceOver);
+    [[NSColor colorWithDeviceWhite:1 alpha:0.35] setStroke];
+    [NSBezierPath strokeRect:NSInsetRect(frame, -0.5, -0.5)];
+}
+
+- (void)drawTitle {
+    const std::string title = _bench->view.title(_bench->scene());
+    const double width = std::min(
+        [look::string(title)
+            sizeWithAttributes:[NSDictionary dictionaryWithObjectsAndKeys:look::font(),
+                                                                          NSFontAttributeName, nil]]
+                .width +
+            16,
+        NSWidth([self bounds]) - 16);
+    const NSRect pill = NSMakeRect(8, 8, std::ceil(width), 20);
+    [[NSColor colorWithDeviceRed:0.07 green:0.08 blue:0.11 alpha:0.6] setFill];
+    [[NSBezierPath bezierPathWithRoundedRect:pill xRadius:10 yRadius:10] fill];
+    look::draw_text(title, NSInsetRect(pill, 8, 0), [NSColor colorWithDeviceWhite:0.92 alpha:1]);
+}
+
+- (void)drawBand {
+    const NSRect band =
+        NSMakeRect(std::min(_bandFrom.x, _bandTo.x), std::min(_bandFrom.y, _bandTo.y),
+                   std::abs(_bandTo.x - _bandFrom.x), std::abs(_bandTo.y - _bandFrom.y));
+    NSColor* color = look::color(look::Part::Highlight);
+    [[color colorWithAlphaComponent:0.15] setFill];
+    NSRectFillUsingOperation(band, NSCompositeSourceOver);
+    [color setStroke];
+    [NSBezierPath strokeRect:NSInsetRect(band, 0.5, 0.5)];
+}
+
+- (void)drawRect:(NSRect)__attribute__((unused))dirty {
+    if (![self prepare]) return;
+    auto context = static_cast<CGContextRef>([[NSGraphicsContext currentContext] graphicsPort]);
+    const double width = _picture->plan.width / [self scale];
+    const double height = _picture->plan.height / [self scale];
+    CGContextSaveGState(context);
+    CGContextTranslateCTM(context, 0, height);
+    CGContextScaleCTM(context, 1, -1);
+    CGContextDrawImage(context, CGRectMake(0, 0, width, height), _picture->image);
+    CGContextRestoreGState(context);
+    if (_picture->key->view.kind() == ViewKind::Camera) [self drawFrame];
+    CGContextSetLineJoin(context, kCGLineJoinRound);
+    CGContextSetLineWidth(context, 2);
+    [self drawEdgesIn:context];
+    [self outline:_picture->plan.edges alpha:0.95 in:context];
+    CGContextSetLineWidth(context, 1.2);
+    [self outline:_picture->plan.hidden alpha:0.3 in:context];
+    [self outline:_picture->plan.items alpha:0.95 in:context];
+    [self drawTitle];
+    if (_hasBand) [self drawBand];
+}
+
+// Mouse.
+
+- (NSEvent*)nextMatching:(NSUInteger)mask {
+    return [NSApp nextEventMatchingMask:mask
+                              untilDate:[NSDate distantFuture]
+                                 inMode:NSEventTrackingRunLoopMode
+                                dequeue:YES];
+}
+- (NSPoint)pointOf:(NSEvent*)event {
+    return [self convertPoint:[event locationInWindow] fromView:nil];
+}
+- (preview::Point)pixel:(NSPoint)point {
+    const double scale = [self scale];
+    return {point.x * scale, point.y * scale};
+}
+
+- (void)dragBandKeeping:(const Selection&)kept {
+    NSEvent* event = nil;
+    while ((event = [self nextMatching:NSLeftMouseDraggedMask | NSLeftMouseUpMask]) &&
+           [event type] == NSLeftMouseDragged) {
+        _bandTo = [self pointOf:event];
+        const double far =
+            std::max(std::abs(_bandTo.x - _bandFrom.x), std::abs(_bandTo.y - _bandFrom.y));
+        if (!_hasBand && far < band_starts) continue;
+        _hasBand = YES;
+        _bench->select(layers_touched(_picture->plan, [self pixel:_bandFrom], [self pixel:_bandTo]),
+                       kept);
+        [self setNeedsDisplay:YES];
+    }
+    if (_hasBand) [self setNeedsDisplay:YES];
+    _hasBand = NO;
+}
+
+- (void)mouseDown:(NSEvent*)event {
+    if (![self prepare]) return;
+    const NSUInteger adding = NSShiftKeyMask | NSControlKeyMask | NSCommandKeyMask;
+    const BOOL adds = ([event modifierFlags] & adding) != 0;
+    const Selection before = _bench->scene().selection();
+    _bandFrom = [self pointOf:event];
+    const LayerId hit = layer_at(_picture->plan, [self pixel:_bandFrom]);
+    if (hit && adds)
+        _bench->toggle(hit);
+    else if (hit)
+        _bench->select_only(hit);
+    else if (!adds)
+        _bench->deselect();
+    [self dragBandKeeping:adds ? before : Selection{}];
+}
+
+- (void)rightMouseDown:(NSEvent*)event {
+    if (!_bench) return;
+    NSPoint last = [self pointOf:event];
+    while ((event = [self nextMatching:NSRightMouseDraggedMask | NSRightMouseUpMask]) &&
+           [event type] == NSRightMouseDragged) {
+        const NSPoint now = [self pointOf:event];
+        const double dx = now.x - last.x, dy = now.y - last.y;
+        last = now;
+        if (_bench->view.kind() == ViewKind::Custom && !([event modifierFlags] & NSShiftKeyMask))
+            _bench->view.orbit(dx * degrees_per_point, dy * degrees_per_point);
+        else
+            _bench->view.pan(dx, dy);
+        [self setNeedsDisplay:YES];
+    }
+}
+
+- (void)scrollWheel:(NSEvent*)event {
+    const NSPoint at = [self pointOf:event];
+    _bench->view.zoom(std::pow(zoom_per_line, [event deltaY]),
+                      {at.x - NSWidth([self bounds]) / 2, at.y - NSHeight([self bounds]) / 2});
+    [self setNeedsDisplay:YES];
+}
+
+// Keys.
+
+- (BOOL)moveBy:(NSPoint)step {
+    if (_bench->view.kind() == ViewKind::Custom)
+        _bench->view.orbit(step.x * key_degrees, step.y * key_degrees);
+    else
+        _bench->view.pan(-step.x * key_step, -step.y * key_step);
+    return YES;
+}
+
+- (BOOL)takesKey:(unichar)key {
+    switch (key) {
+    case NSLeftArrowFunctionKey:
+        return [self moveBy:NSMakePoint(-1, 0)];
+    case NSRightArrowFunctionKey:
+        return [self moveBy:NSMakePoint(1, 0)];
+    case NSUpArrowFunctionKey:
+        return [self moveBy:NSMakePoint(0, -1)];
+    case NSDownArrowFunctionKey:
+        return [self moveBy:NSMakePoint(0, 1)];
+    case '+':
+    case '=':
+        _bench->view.zoom(zoom_per_line * zoom_per_line);
+        return YES;
+    case '-':
+        _bench->view.zoom(1 / (zoom_per_line * zoom_per_line));
+        return YES;
+    case '0':
+        _bench->view.reset();
+        return YES;
+    default:
+        return NO;
+    }
+}
+
+- (void)keyDown:(NSEvent*)event {
+    NSString* characters = [event characters];
+    const unichar key = [characters length] == 1 ? [characters characterAtIndex:0] : 0;
+    if (_bench && [self takesKey:key])
+        [self setNeedsDisplay:YES];
+    else
+        [super keyDown:event];
+}
+@end

@@ -1,0 +1,43 @@
+// The verb "show": a window of the desktop in which the plug-in is used as in a real host.
+//
+// 1. The window is opened, and gives the session its screen: panels are docked in it.
+// 2. run() shows the session's scene, opens the plug-in's dialog, and takes the user's events until
+//    he quits, with idle calls in between.
+// 3. The session unloads the plug-in; after that the window may go.
+
+#pragma once
+
+#include "minihost/actions/Session.h"
+
+#include <memory>
+#include <string>
+
+namespace minihost {
+
+struct ShowOptions {
+    std::string scene;                 // its file
+    double scale = 0;                  // pixels a point; 0: the desktop's own
+    double width = 1280, height = 800; // points, with the menu bar
+    Palette palette = Palette::Dark;
+    int frames = 0;         // ends after so many drawn frames; 0: when the user quits
+    std::string screenshot; // a file for the last of them
+};
+
+class Show {
+  public:
+    // Opens the window. Throws ActionError when there is no desktop to open it on.
+    explicit Show(const ShowOptions& options);
+    ~Show();
+    Show(const Show&) = delete;
+    Show& operator=(const Show&) = delete;
+
+    std::unique_ptr<Screen> make_screen();
+    // Throws ActionError for a screenshot that cannot be written.
+    void run(Session& session);
+
+  private:
+    struct State;
+    std::unique_ptr<State> _state;
+};
+
+} // namespace minihost

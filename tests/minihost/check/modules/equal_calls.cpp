@@ -1,0 +1,10 @@
+// Puts layers somewhere else in every run.
+
+#include "plugin.h"
+
+#include <unistd.h>
+
+struct Broken : Plugin {
+    AEGP_ThreeDVal place() override { return {static_cast<double>(::getpid()), 0, 0}; }
+};
+PLUGIN_IS(Broken)

@@ -1,0 +1,12 @@
+// Its idle hook never comes back.
+
+#include "plugin.h"
+
+struct Broken : Plugin {
+    A_Err on_idle() override {
+        for (volatile bool forever = true; forever;) {
+        }
+        return 0;
+    }
+};
+PLUGIN_IS(Broken)

@@ -1,0 +1,9 @@
+// Divides by the width of a layer's source.
+
+#include "plugin.h"
+
+struct Broken : Plugin {
+    void take(const A_char*, A_long width, A_FpLong) override { step = 1000 / width; }
+    volatile A_long step = 0;
+};
+PLUGIN_IS(Broken)

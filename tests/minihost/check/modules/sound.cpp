@@ -1,0 +1,5 @@
+// Does nothing wrong.
+
+#include "plugin.h"
+
+PLUGIN_IS(Plugin)
