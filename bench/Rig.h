@@ -17,6 +17,13 @@ minihost::Scene cards(int count);
 // Seconds of this thread on a processor: what else the machine does stays out of it.
 double processor_seconds();
 
+template <typename Operation>
+double seconds_of(const Operation& operation) {
+    const double start = processor_seconds();
+    operation();
+    return processor_seconds() - start;
+}
+
 class Rig {
   public:
     enum class Plugin {

@@ -74,13 +74,6 @@ class Bare {
     Replay _replay;
 };
 
-template <typename Operation>
-double seconds_of(const Operation& operation) {
-    const double start = processor_seconds();
-    operation();
-    return processor_seconds() - start;
-}
-
 Pair apply_pair(const Mode& mode, int layers) {
     std::shared_ptr<Bare> bare;
     {

@@ -14,13 +14,6 @@ namespace {
 constexpr int layers = 12;
 constexpr double scale = 2;
 
-template <typename Operation>
-double seconds_of(const Operation& operation) {
-    const double start = processor_seconds();
-    operation();
-    return processor_seconds() - start;
-}
-
 struct Shown {
     Rig rig{cards(layers), Rig::Plugin::direct};
     std::vector<minihost::Control> controls;

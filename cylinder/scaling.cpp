@@ -9,7 +9,7 @@ namespace {
 using Vector = math::TGeomVector3D<double>;
 
 constexpr double outside = 2.0; // a parameter beyond the segment's end
-constexpr double tiny = 1e-12;
+constexpr double shortest = 1e-12;
 
 struct Crossings {
     double first = outside, second = outside;
@@ -63,9 +63,9 @@ double downscale(const Vector& p1, const Vector& p2, const Vector& size) {
     if (count != 1) return 1.0;
 
     const double whole = length(p1 - p2);
-    if (whole <= tiny) return 0.0;
+    if (whole <= shortest) return 0.0;
     const double part = length(p1 - at(crossing));
-    return part <= tiny ? 0.0 : part / whole;
+    return part <= shortest ? 0.0 : part / whole;
 }
 
 void scale_layers_to_fit(std::list<LayerInfo>& layers, const CylinderOptions& options) {

@@ -248,17 +248,17 @@ TEST_F(Desktop, ArrangesByKeysAlone) {
         if (name == "size.z") counts = true;
     }
     for (int i = 0; i <= stops; ++i) key("Tab");
-    key("Down Down Down"); // towards camera, random, XY
+    key("Down Down Down Down"); // towards camera, random, XY, XZ
     key("shift+Tab");
     key("F10 Right Escape"); // the menus are in reach, and nothing is chosen
-    for (int i = 0; i < stops + 3; ++i) key("shift+Tab"); // back to Apply
+    for (int i = 0; i < 3 + stops + 4; ++i) key("shift+Tab"); // over the sizes back to Apply
     let_idle_calls_pass();
     key("space");
     ASSERT_TRUE(title_becomes("scene.json (edited)"));
     key("ctrl+s");
     ASSERT_TRUE(title_becomes("scene.json"));
     expect_same_as("open\nselect #0 #1 #2\nset size.x=600\nset size.z=700\n"
-                   "set orientation.xy=on\nclick apply\nidle\n");
+                   "set orientation.xz=on\nclick apply\nidle\n");
 }
 
 TEST_F(Desktop, AsksBeforeChangesAreLost) {

@@ -22,7 +22,7 @@ using testing::IsEmpty;
 
 // A wall of two cards 200 to the right and left of the middle, a card hidden behind the left one, a
 // 2D layer, and a camera that looks from above.
-const char* const scene = R"({"format": "minihost scene 1",
+const char* const wall = R"({"format": "minihost scene 1",
   "composition": {"name": "C", "width": 1000, "height": 600},
   "layers": [
     {"name": "Cam", "kind": "camera",
@@ -62,10 +62,10 @@ class Window : public testing::Test {
   protected:
     Window()
         : folder(new_folder()),
-          session(parse_scene(scene, "test"), {}, make_blind_screen(), out,
+          session(parse_scene(wall, "test"), {}, make_blind_screen(), out,
                   [](const std::string&) {}),
           bench(session, folder / "test.json") {
-        write_file(bench.path(), scene);
+        write_file(bench.path(), wall);
     }
     ~Window() override { fs::remove_all(folder); }
 
