@@ -45,7 +45,7 @@ class HostileCheck {
 
     void run() {
         for (const RehearsedLife& plain : _context.rehearsal.lives) {
-            if (!plain.ended_well()) continue;
+            if (!plain.ended_well() || !plain.scenario.is_mode) continue;
             const std::int64_t answers = count_answers(plain);
             if (answers == 0) continue;
             for (const Misdeed& misdeed : misdeeds()) {

@@ -12,7 +12,7 @@ namespace {
 
 using Json = nlohmann::json;
 
-constexpr int most_lines_said = 500;
+constexpr int most_lines_shown = 500;
 
 } // namespace
 
@@ -23,7 +23,7 @@ Life::Life(const std::string& plugin, const std::string& scene, HostOptions opti
                [this](const std::string& line) { say(line); }) {}
 
 void Life::say(const std::string& line) {
-    if (++_lines_said <= most_lines_said) std::fprintf(stderr, "%s\n", line.c_str());
+    if (++_lines_said <= most_lines_shown) std::fprintf(stderr, "%s\n", line.c_str());
 }
 
 bool Life::load() {

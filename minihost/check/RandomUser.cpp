@@ -14,9 +14,9 @@ namespace {
 constexpr std::size_t most_layers = 60;
 
 // What somebody may type into a field.
-constexpr const char* texts[] = {"0",  "1",   "-1", "2",   "0.5", "7.25",    "90",
-                                 "45", "360", "-3", "12",  "x",   "1,5",     "",
-                                 "3x", " 4 ", "é",  "1e2", "nan", "0.00001", "-99999999999"};
+constexpr const char* values[] = {"0",  "1",   "-1", "2",   "0.5", "7.25",    "90",
+                                  "45", "360", "-3", "12",  "x",   "1,5",     "",
+                                  "3x", " 4 ", "é",  "1e2", "nan", "0.00001", "-99999999999"};
 constexpr const char* typed[] = {"0", "-1",   "360", "0.5", "x y", "1e9", "nan",
                                  "é", "12 3", "😀",   "\t",  "7",   "."};
 constexpr const char* characters[] = {"a", "c", "v", "x", "z", "7", "-", ".", "U+D83D", "U+0301"};
@@ -138,7 +138,7 @@ Deed RandomUser::use(const std::vector<Control>& controls, const ControlNames& c
     else if (control->kind == "radio button")
         value = "on";
     else if (control->kind == "edit")
-        value = any(texts);
+        value = any(values);
     else if (control->entries && !control->entries->empty())
         value = entry(*control->entries, below(control->entries->size()));
     else

@@ -10,7 +10,7 @@ namespace minihost {
 namespace {
 
 // How many layers stay for what takes calls times runs.
-constexpr std::size_t most_layers = 5;
+constexpr std::size_t most_kept = 5;
 
 // The first selected layers, and the first layers of a kind that has none among them; nothing when
 // the scene is as small already.
@@ -28,7 +28,7 @@ std::set<LayerId> layers_to_keep(const Scene& scene, std::size_t most) {
 void cut_scene(Subject& subject) {
     Scene scene = parse_scene(subject.scene, "the scene");
     const std::size_t all = scene.layer_count();
-    const std::set<LayerId> kept = layers_to_keep(scene, most_layers);
+    const std::set<LayerId> kept = layers_to_keep(scene, most_kept);
     if (kept.empty()) {
         subject.small_scene = subject.scene;
         return;

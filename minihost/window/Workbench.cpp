@@ -94,10 +94,8 @@ void Workbench::select_rows(std::size_t first, std::size_t last, const Selection
 
 std::string Workbench::status() const {
     const Composition& composition = scene().composition;
-    std::size_t selected = 0;
-    is_selected(0);
-    for (const LayerId layer : _selected)
-        if (layer != 0) ++selected;
+    const bool others = is_selected(0); // what is selected and no layer
+    const std::size_t selected = _selected.size() - (others ? 1 : 0);
     char time[64];
     std::snprintf(time, sizeof time, "%.2f s", composition.time);
     return composition.name + "   " + std::to_string(composition.width) + " × " +
