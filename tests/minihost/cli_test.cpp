@@ -21,7 +21,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-const char* const scene = R"({"format": "minihost scene 1",
+const char* const sample = R"({"format": "minihost scene 1",
   "layers": [{"name": "A", "kind": "solid", "three_d": true, "source": {"width": 9, "height": 9}},
              {"name": "The B", "kind": "solid", "source": {"width": 9, "height": 9}}],
   "selection": [0]})";
@@ -31,7 +31,7 @@ class Program : public testing::Test {
     Program() {
         std::string name = (fs::temp_directory_path() / "minihost.XXXXXX").string();
         folder = ::mkdtemp(name.data());
-        write_file(folder / "scene.json", scene);
+        write_file(folder / "scene.json", sample);
     }
     ~Program() override { fs::remove_all(folder); }
 

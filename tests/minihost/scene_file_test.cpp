@@ -28,11 +28,11 @@ std::string refusal(std::string_view text) {
     return "accepted";
 }
 
-std::string scene(const std::string& members) {
+std::string scene_with(const std::string& members) {
     return R"({"format": "minihost scene 1", )" + members + "}";
 }
 std::string one_layer(const std::string& members) {
-    return scene(R"("layers": [{"name": "A", )" + members + "}]");
+    return scene_with(R"("layers": [{"name": "A", )" + members + "}]");
 }
 
 TEST(SceneReader, RefusesWhatIsNoSceneAndNamesThePlace) {
@@ -53,23 +53,26 @@ TEST(SceneReader, RefusesWhatIsNoSceneAndNamesThePlace) {
         {R"({"format": "a\nb\u007f"})", "format", R"(not "a\u000ab\u007f")"},
         {R"({"a\tb": 1})", R"(a\u0009b)", "unknown field"},
         {R"({"format": 1})", "format", "must be a text"},
-        {scene(R"("layer": [])"), "layer", "unknown field"},
-        {scene(R"("active": "none", "active": "none")"), "active", "given twice"},
-        {scene(R"("active": "comp")"), "active", "not \"comp\""},
-        {scene(R"("layers": {})"), "layers", "must be an array"},
-        {scene(R"("layers": 3)"), "layers", "must be an array"},
-        {scene(R"("layers": [[]])"), "layers[0]", "must be an object"},
-        {scene(R"("composition": 1)"), "composition", "must be an object"},
-        {scene(R"("composition": {"width": 0})"), "composition.width", "from 1 to 30000, not 0"},
-        {scene(R"("composition": {"height": 30001})"), "composition.height", "not 30001"},
-        {scene(R"("composition": {"height": 10.5})"), "composition.height", "not 10.5"},
-        {scene(R"("composition": {"frame_rate": 0})"), "composition.frame_rate", "must be from"},
-        {scene(R"("composition": {"time": 1e9})"), "composition.time", "must be from"},
-        {scene(R"("composition": {"duration": "1"})"), "composition.duration", "must be a number"},
-        {scene("\"composition\": {\"time\": 1e999}"), "line 1, column", "number overflow"},
-        {scene("\"composition\": {\"time\": NaN}"), "line 1, column", "syntax error"},
-        {scene(R"("layers": [{"kind": "text"}])"), "layers[0].name", "missing"},
-        {scene(R"("layers": [{"name": "A"}])"), "layers[0].kind", "missing"},
+        {scene_with(R"("layer": [])"), "layer", "unknown field"},
+        {scene_with(R"("active": "none", "active": "none")"), "active", "given twice"},
+        {scene_with(R"("active": "comp")"), "active", "not \"comp\""},
+        {scene_with(R"("layers": {})"), "layers", "must be an array"},
+        {scene_with(R"("layers": 3)"), "layers", "must be an array"},
+        {scene_with(R"("layers": [[]])"), "layers[0]", "must be an object"},
+        {scene_with(R"("composition": 1)"), "composition", "must be an object"},
+        {scene_with(R"("composition": {"width": 0})"), "composition.width",
+         "from 1 to 30000, not 0"},
+        {scene_with(R"("composition": {"height": 30001})"), "composition.height", "not 30001"},
+        {scene_with(R"("composition": {"height": 10.5})"), "composition.height", "not 10.5"},
+        {scene_with(R"("composition": {"frame_rate": 0})"), "composition.frame_rate",
+         "must be from"},
+        {scene_with(R"("composition": {"time": 1e9})"), "composition.time", "must be from"},
+        {scene_with(R"("composition": {"duration": "1"})"), "composition.duration",
+         "must be a number"},
+        {scene_with("\"composition\": {\"time\": 1e999}"), "line 1, column", "number overflow"},
+        {scene_with("\"composition\": {\"time\": NaN}"), "line 1, column", "syntax error"},
+        {scene_with(R"("layers": [{"kind": "text"}])"), "layers[0].name", "missing"},
+        {scene_with(R"("layers": [{"name": "A"}])"), "layers[0].kind", "missing"},
         {one_layer(R"("kind": "null")"), "layers[0].kind", "unknown kind \"null\""},
         {one_layer(R"("kind": "solid")"), "layers[0].source", "must have one"},
         {one_layer(R"("kind": "solid", "source": {"width": 9})"), "layers[0].source.height",
@@ -85,7 +88,7 @@ TEST(SceneReader, RefusesWhatIsNoSceneAndNamesThePlace) {
         {one_layer(solid + R"(, "three_d": 1)"), "layers[0].three_d", "true or false"},
         {one_layer(solid + R"(, "start": null)"), "layers[0].start", "must be a number"},
         {one_layer(solid + R"(, "name": "B")"), "layers[0].name", "given twice"},
-        {scene(R"("layers": [{"name": "A\u0000", "kind": "text"}])"), "layers[0].name",
+        {scene_with(R"("layers": [{"name": "A\u0000", "kind": "text"}])"), "layers[0].name",
          "zero character"},
         {one_layer(solid + R"(, "transform": {"position": [1, 2]})"),
          "layers[0].transform.position", "three numbers"},
@@ -106,11 +109,11 @@ TEST(SceneReader, RefusesWhatIsNoSceneAndNamesThePlace) {
          "layers[0].keyframes.rotation_z[1].time", "later than"},
         {one_layer(solid + R"(, "keyframes": {"rotation_z": [{"value": 3}]})"),
          "layers[0].keyframes.rotation_z[0].time", "missing"},
-        {scene(R"("selection": [0])"), "selection[0]", "no such layer (there are 0)"},
+        {scene_with(R"("selection": [0])"), "selection[0]", "no such layer (there are 0)"},
         {one_layer(R"("kind": "text")").insert(1, R"("selection": [0, "other", -1], )"),
          "selection[2]", "no such layer (there are 1)"},
-        {scene(R"("selection": ["none"])"), "selection[0]", "or \"other\""},
-        {scene(R"("undo": [1])"), "undo[0]", "must be a text"},
+        {scene_with(R"("selection": ["none"])"), "selection[0]", "or \"other\""},
+        {scene_with(R"("undo": [1])"), "undo[0]", "must be a text"},
     };
     for (const Case& it : cases) {
         const std::string message = refusal(it.text);
