@@ -259,6 +259,16 @@ std::unique_ptr<Display> give_up(const char* step) {
     return nullptr;
 }
 
+ScreenSize comfortable_size(double scale, ScreenSize least) {
+    ScreenSize size{1280, 800};
+    SDL_Rect room{};
+    if (SDL_GetDisplayUsableBounds(0, &room) == 0) {
+        size.width = std::max(least.width, std::min(size.width, room.w / scale));
+        size.height = std::max(least.height, std::min(size.height, room.h / scale));
+    }
+    return size;
+}
+
 } // namespace
 
 std::unique_ptr<Display> make_sdl_display(const std::string& title, ScreenSize size, double scale,
@@ -266,6 +276,7 @@ std::unique_ptr<Display> make_sdl_display(const std::string& title, ScreenSize s
     SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
     if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) return give_up("video");
     if (!(scale > 0)) scale = desktop_scale();
+    if (!(size.width > 0)) size = comfortable_size(scale, least);
     SDL_Window* window =
         SDL_CreateWindow(title.c_str(), SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
                          static_cast<int>(std::lround(size.width * scale)),

@@ -174,7 +174,8 @@ ParsedCommandLine parse_command_line(int count, const char* const* arguments) {
     CLI::App* show = app.add_subcommand("show", "Opens a window in which the plug-in is used");
     add_options(*show, request, failures, without, misdeeds, palette);
     show->get_option("--scale")->description("pixels per point of the screen (default: its own)");
-    show->add_option("--window", request.window_size, "its size in points (default 1280x800)")
+    show->add_option("--window", request.window_size,
+                     "its size in points (default 1280x800, or what the screen has room for)")
         ->type_name("WIDTHxHEIGHT");
     show->add_option("--frames", request.frames, "ends after N drawn frames")->type_name("N");
     show->add_option("--screenshot", request.screenshot, "picture of the last frame; .png")

@@ -24,7 +24,7 @@ struct Request {
     std::string screenshot;  // of the window
     int frames = 0;          // after which the window closes; 0: when the user quits
     std::string window_size; // "WIDTHxHEIGHT" in points
-    double window_width = 1280, window_height = 800;
+    double window_width = 0, window_height = 0; // 0: not given
     HostOptions host;
     CheckOptions check;
 };

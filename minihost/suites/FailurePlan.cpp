@@ -47,8 +47,7 @@ FailurePlan::FailurePlan(const std::vector<Failure>& failures) {
         _planned[failure.call].codes[failure.number] = failure.code;
 }
 
-std::optional<std::int32_t> FailurePlan::next(const CallName& name) {
-    if (_planned.empty()) return std::nullopt;
+std::optional<std::int32_t> FailurePlan::count(const CallName& name) {
     const auto calls = _planned.find(std::string(name.suite) + "." + name.call);
     if (calls == _planned.end()) return std::nullopt;
     const auto code = calls->second.codes.find(++calls->second.made);

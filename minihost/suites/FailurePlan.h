@@ -27,10 +27,14 @@ class FailurePlan {
   public:
     explicit FailurePlan(const std::vector<Failure>& failures = {});
 
-    // Counts a call; its code when it is to fail.
-    std::optional<std::int32_t> next(const CallName& name);
+    // Counts a call; its code when it is to fail. In line, as every call comes by.
+    std::optional<std::int32_t> next(const CallName& name) {
+        if (_planned.empty()) return std::nullopt;
+        return count(name);
+    }
 
   private:
+    std::optional<std::int32_t> count(const CallName& name);
     struct Calls {
         std::int64_t made = 0;
         std::map<std::int64_t, std::int32_t> codes;

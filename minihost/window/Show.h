@@ -15,9 +15,9 @@
 namespace minihost {
 
 struct ShowOptions {
-    std::string scene;                 // its file
-    double scale = 0;                  // pixels a point; 0: the desktop's own
-    double width = 1280, height = 800; // points, with the menu bar
+    std::string scene;            // its file
+    double scale = 0;             // pixels a point; 0: the desktop's own
+    double width = 0, height = 0; // points, with the menu bar; 0: what the desktop has room for
     Palette palette = Palette::Dark;
     int frames = 0;         // ends after so many drawn frames; 0: when the user quits
     std::string screenshot; // a file for the last of them

@@ -100,8 +100,7 @@ struct Show::State {
 Show::Show(const ShowOptions& options) : _state(std::make_unique<State>()) {
     const AutoreleasePool pool;
     _state->options = options;
-    const NSSize size = NSMakeSize(std::max(options.width, least_window_width),
-                                   std::max(options.height, least_window_height));
+    const NSSize size = NSMakeSize(options.width, options.height);
     if (!NSUseWindowDisplay(@"minihost", size, options.scale,
                             NSMakeSize(least_window_width, least_window_height)))
         throw ActionError("show: there is no desktop to open a window on");

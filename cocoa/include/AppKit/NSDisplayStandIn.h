@@ -20,8 +20,9 @@
 // The display. At first it is headless, 1440 x 900 points at scale 1. Choosing a display keeps the
 // windows and the clipboard's text is the new one's.
 void NSUseHeadlessDisplay(NSSize size, CGFloat scale);
-// In one window of the desktop, which is the whole screen; scale 0: the desktop's own. NO, with the
-// reason on standard error and the display as it was, when there is no desktop.
+// In one window of the desktop, which is the whole screen; scale 0: the desktop's own; size 0:
+// 1280 x 800, or what the desktop has room for. NO, with the reason on standard error and the
+// display as it was, when there is no desktop.
 // The user can make the window no smaller than `least`.
 BOOL NSUseWindowDisplay(NSString* title, NSSize size, CGFloat scale, NSSize least = {320, 200});
 // What AppKit draws by itself: dark at first, or light.
