@@ -13,7 +13,8 @@ struct FileQuestion {
     std::string title, button;           // "Open a Scene", "Open"
     std::string start;                   // the path that stands there at first
     std::vector<std::string> extensions; // of the files that are listed, such as ".json"
-    bool must_exist = false;             // else a file that is there is asked about
+    // Else a file that is there is asked about, and a name without extension gets the first.
+    bool must_exist = false;
 };
 
 // The path, or nothing when the user takes back the wish.

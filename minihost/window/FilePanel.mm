@@ -143,13 +143,15 @@ struct Choosing {
         tell("There is no such folder", path.string());
         return;
     }
+    const FileQuestion& question = _choosing->question;
+    // Without, it would not be listed the next time.
+    if (!question.must_exist && !path.has_extension()) path += question.extensions.front();
     const bool exists = fs::exists(path, unknown);
-    if (_choosing->question.must_exist && !exists) {
+    if (question.must_exist && !exists) {
         tell("There is no such file", path.string());
         return;
     }
-    if (!_choosing->question.must_exist && exists && !ask_to_replace(path.filename().string()))
-        return;
+    if (!question.must_exist && exists && !ask_to_replace(path.filename().string())) return;
     _choosing->chosen = path.string();
     [NSApp stopModalWithCode:1];
 }
