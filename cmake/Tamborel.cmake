@@ -49,9 +49,12 @@ if(TAMBOREL_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
     # Built into each program that tests run, so that it finds no fault either when it only lists cases.
     file(READ ${CMAKE_SOURCE_DIR}/tests/lsan.supp suppressions)
-    file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/lsan_suppressions.cpp CONTENT
-        "extern \"C\" const char* __lsan_default_suppressions() { return R\"(@suppressions@)\"; }\n" @ONLY)
-    set(TAMBOREL_LEAK_SUPPRESSIONS ${CMAKE_BINARY_DIR}/lsan_suppressions.cpp)
+    file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/sanitizer_options.cpp @ONLY CONTENT [[
+extern "C" const char* __lsan_default_suppressions() { return R"(@suppressions@)"; }
+extern "C" const char* __lsan_default_options() { return "print_suppressions=0"; }
+extern "C" const char* __ubsan_default_options() { return "print_stacktrace=1"; }
+]])
+    set(TAMBOREL_SANITIZER_OPTIONS ${CMAKE_BINARY_DIR}/sanitizer_options.cpp)
 endif()
 
 # Where several files are compiled in one go (CMAKE_UNITY_BUILD), those of a folder are.
@@ -74,14 +77,12 @@ endfunction()
 
 # tamborel_test(NAME SOURCES ... LINKS ...): a GoogleTest program whose cases CTest knows one by one.
 function(tamborel_test name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;ENVIRONMENT" ${ARGN})
-    add_executable(${name} ${ARG_SOURCES} ${TAMBOREL_LEAK_SUPPRESSIONS})
+    cmake_parse_arguments(ARG "SERIAL" "" "SOURCES;LINKS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES} ${TAMBOREL_SANITIZER_OPTIONS})
     tamborel_unite(${name} ${ARG_SOURCES})
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
     target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gmock GTest::gtest_main)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
-    set(environment "LSAN_OPTIONS=print_suppressions=0"
-        "UBSAN_OPTIONS=print_stacktrace=1" ${ARG_ENVIRONMENT})
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
-        PROPERTIES TIMEOUT 300 ENVIRONMENT "${environment}")
+        PROPERTIES TIMEOUT 300 RUN_SERIAL ${ARG_SERIAL})
 endfunction()

@@ -1,6 +1,7 @@
 // The window in a real desktop: an X server of the test's own, mouse and keys from xdotool, and the
 // saved files beside those of the command line. Skipped where there is no X server to be had.
 
+#include "minihost/check/Child.h"
 #include "minihost/model/OutputFile.h"
 #include "minihost/model/SceneReader.h"
 #include "minihost/window/Layout.h"
@@ -164,7 +165,7 @@ class Desktop : public testing::Test {
     }
     // The plug-in sees at an idle call that something else is selected.
     static void let_idle_calls_pass() {
-        std::this_thread::sleep_for(std::chrono::milliseconds(500));
+        std::this_thread::sleep_for(std::chrono::milliseconds(sanitizer_factor > 1 ? 1200 : 500));
     }
     void click_row(int row, const std::string& held = "") {
         click(layout.list.x + 100, layout.list.y + header_height + (row + 0.5) * row_height, held);
