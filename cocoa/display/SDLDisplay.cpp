@@ -141,10 +141,10 @@ class SDLDisplay final : public Display {
         return coordinate * (static_cast<double>(width) / window_width) / scale_;
     }
 
-    static DisplayEvent make(DisplayEvent::Kind kind) {
+    DisplayEvent make(DisplayEvent::Kind kind) const {
         DisplayEvent event;
         event.kind = kind;
-        event.modifiers = modifiers_of(SDL_GetModState());
+        event.modifiers = modifiers_of(held_);
         return event;
     }
 
@@ -170,8 +170,6 @@ class SDLDisplay final : public Display {
         DisplayEvent event = make(kind);
         event.characters = characters;
         event.characters_unmodified = unmodified;
-        if (raw)
-            event.modifiers = modifiers_of(raw->keysym.mod); // as they were when it was pressed
         if (raw) event.key_code = static_cast<unsigned short>(raw->keysym.scancode);
         if (raw) event.repeat = raw->repeat != 0;
         pending_.push_back(std::move(event));
@@ -199,20 +197,20 @@ class SDLDisplay final : public Display {
         switch (raw.type) {
         case SDL_MOUSEBUTTONDOWN:
         case SDL_MOUSEBUTTONUP:
+            mouse_ = {raw.button.x, raw.button.y};
             if (raw.button.button == SDL_BUTTON_LEFT)
                 SDL_CaptureMouse(raw.type == SDL_MOUSEBUTTONDOWN ? SDL_TRUE : SDL_FALSE);
             push_mouse(raw.type == SDL_MOUSEBUTTONDOWN ? Kind::mouse_down : Kind::mouse_up,
                        raw.button.x, raw.button.y, raw.button.button, raw.button.clicks);
             break;
         case SDL_MOUSEMOTION:
+            mouse_ = {raw.motion.x, raw.motion.y};
             push_mouse(Kind::mouse_move, raw.motion.x, raw.motion.y, 0, 0);
             break;
         case SDL_MOUSEWHEEL: {
-            int x = 0, y = 0;
-            SDL_GetMouseState(&x, &y);
             DisplayEvent event = make(Kind::wheel);
-            event.x = points(x);
-            event.y = points(y);
+            event.x = points(mouse_.x);
+            event.y = points(mouse_.y);
             const int sign = raw.wheel.direction == SDL_MOUSEWHEEL_FLIPPED ? -1 : 1;
             event.dx = -sign * raw.wheel.x;
             event.dy = sign * raw.wheel.y;
@@ -221,10 +219,11 @@ class SDLDisplay final : public Display {
         }
         case SDL_KEYDOWN:
         case SDL_KEYUP:
+            held_ = raw.key.keysym.mod;
             translate_key(raw.key);
             break;
         case SDL_TEXTINPUT:
-            if (!(modifiers_of(SDL_GetModState()) & (control | command)))
+            if (!(modifiers_of(held_) & (control | command)))
                 push_key(Kind::key_down, raw.text.text, raw.text.text, nullptr);
             break;
         case SDL_WINDOWEVENT:
@@ -245,6 +244,10 @@ class SDLDisplay final : public Display {
     int texture_height_ = 0;
     double scale_;
     std::deque<DisplayEvent> pending_;
+    // As of the last event that was translated. The library tells how they are by now, which is of
+    // no use while earlier events wait.
+    int held_ = KMOD_NONE;
+    SDL_Point mouse_ = {0, 0};
 };
 
 double desktop_scale() {

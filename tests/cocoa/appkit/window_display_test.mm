@@ -42,12 +42,15 @@ class WindowDisplayTest : public AppKitTest {
         push_button(SDL_MOUSEBUTTONUP, pixel(view));
         drain();
     }
-    static void push_key(SDL_Keycode code, Uint16 modifiers = 0) {
+    static void push_key_event(Uint32 type, SDL_Keycode code, Uint16 modifiers) {
         SDL_Event event = {};
-        event.type = SDL_KEYDOWN;
+        event.type = type;
         event.key.keysym.sym = code;
         event.key.keysym.mod = modifiers;
         SDL_PushEvent(&event);
+    }
+    static void push_key(SDL_Keycode code, Uint16 modifiers = 0) {
+        push_key_event(SDL_KEYDOWN, code, modifiers);
         drain();
     }
     static void push_text(const char* text) {
@@ -58,6 +61,25 @@ class WindowDisplayTest : public AppKitTest {
         drain();
     }
 };
+
+// A slow program finds many events at once.
+TEST_F(WindowDisplayTest, ModifiersAreThoseOfTheirEvent) {
+    NSButton* b = button(NSMakeRect(200, 100, 60, 20), NSSwitchButton, 2);
+    std::vector<NSUInteger> held;
+    hook = [&](id) { held.push_back([[NSApp currentEvent] modifierFlags]); };
+    const auto click_later = [&] {
+        push_button(SDL_MOUSEBUTTONDOWN, pixel(b));
+        push_button(SDL_MOUSEBUTTONUP, pixel(b));
+    };
+    click_later();
+    push_key_event(SDL_KEYDOWN, SDLK_LSHIFT, KMOD_LSHIFT);
+    click_later();
+    push_key_event(SDL_KEYUP, SDLK_LSHIFT, KMOD_NONE);
+    push_key_event(SDL_KEYDOWN, SDLK_LCTRL, KMOD_LCTRL);
+    click_later();
+    drain();
+    EXPECT_THAT(held, testing::ElementsAre(0, NSShiftKeyMask, NSControlKeyMask));
+}
 
 TEST_F(WindowDisplayTest, TheDesktopsMouseAndKeysReachTheControls) {
     target->values = YES;
