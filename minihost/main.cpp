@@ -1,6 +1,6 @@
 // minihost: a small host that loads a plug-in, serves it a scene, and plays what a user would do.
 
-#include "minihost/actions/Run.h"
+#include "minihost/Run.h"
 
 int main(int count, char** arguments) {
     const minihost::ParsedCommandLine parsed = minihost::parse_command_line(count, arguments);

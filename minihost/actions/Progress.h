@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "minihost/actions/TerminalLine.h"
+
 #include <chrono>
 #include <cstddef>
 #include <string>
@@ -10,24 +12,17 @@ namespace minihost {
 
 class Progress {
   public:
-    // Standard error, if it is a terminal; nothing is ever shown otherwise.
-    Progress();
-    ~Progress() { stop(); }
-    Progress(const Progress&) = delete;
-    Progress& operator=(const Progress&) = delete;
-
     void start(std::string what);
     // So many of something are done. Cheap enough to be called for each.
     void show(std::size_t count, const char* of_what);
     // Wipes the line away.
-    void stop();
+    void stop() { _line.wipe(); }
 
   private:
     using Clock = std::chrono::steady_clock;
-    bool _is_terminal;
-    bool _is_shown = false;
+    TerminalLine _line;
     std::string _what;
-    Clock::time_point _next_look;
+    Clock::time_point _next_look = Clock::now();
 };
 
 } // namespace minihost

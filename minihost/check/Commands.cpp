@@ -1,4 +1,4 @@
-// The commands that repeat what a check has found.
+// Where a check has found something, and the command that repeats it.
 
 #include "minihost/check/Groups.h"
 
@@ -34,6 +34,16 @@ std::string where(const Subject& subject, const Scenario& scenario, const std::s
     std::string text = (options.empty() ? "with " : options + " with ") + scenario.name;
     if (!command.empty()) text += "; to repeat it: " + command;
     return text;
+}
+
+std::string where_counted(const Subject& subject, const Scenario& scenario,
+                          const std::string& option) {
+    return subject.cut.empty() ? where(subject, scenario, option)
+                               : option + " with " + scenario.name;
+}
+
+void note_cut(const Subject& subject, Findings& findings) {
+    if (!subject.cut.empty()) findings.note(subject.cut);
 }
 
 std::string command_of_check(const Subject& subject, const std::string& id) {

@@ -120,10 +120,7 @@ class Sweep {
         const std::string text = failure.call + ":" +
                                  std::to_string(failure.number + _made_before[failure.call]) + ":" +
                                  std::to_string(failure.code);
-        const std::string option = "--fail " + shell_word(text);
-        // In a scene of other layers the calls have other numbers.
-        return _subject.cut.empty() ? where(_subject, _plain.scenario, option)
-                                    : option + " with " + _plain.scenario.name;
+        return where_counted(_subject, _plain.scenario, "--fail " + shell_word(text));
     }
 
     const Subject& _subject;
@@ -169,7 +166,7 @@ void tell_failing_calls(const CheckContext& context, Findings& findings, Phase p
         if (phase != Phase::Apply) break;
     }
     if (findings.runs() == 0) findings.skip("the plug-in makes no call there");
-    if (!context.subject.cut.empty()) findings.note(context.subject.cut);
+    note_cut(context.subject, findings);
 }
 
 } // namespace minihost

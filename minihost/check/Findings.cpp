@@ -1,4 +1,4 @@
-#include "minihost/check/Check.h"
+#include "minihost/check/Findings.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>

@@ -62,6 +62,12 @@ std::string command_of_life(const Subject& subject, const Scenario& scenario,
 // "with orientation.random=on; to repeat it: ...": where something was found. `options` are of the
 // command.
 std::string where(const Subject& subject, const Scenario& scenario, const std::string& options);
+// The same for an option that tells a call or an answer by its number: without a command when that
+// was counted in a smaller scene than the one that would be loaded.
+std::string where_counted(const Subject& subject, const Scenario& scenario,
+                          const std::string& option);
+// Of checks that use the small scene: tells what it lacks.
+void note_cut(const Subject& subject, Findings& findings);
 // The one that repeats a check.
 std::string command_of_check(const Subject& subject, const std::string& id);
 // A word as a shell reads it.

@@ -58,7 +58,7 @@ class HostileCheck {
         }
         _crew.finish();
         if (_findings.runs() == 0) _findings.skip("the plug-in asks for nothing of the kind");
-        if (!_subject.cut.empty()) _findings.note(_subject.cut);
+        note_cut(_subject, _findings);
     }
 
   private:
@@ -123,12 +123,7 @@ class HostileCheck {
     std::string example_of(const RehearsedLife& plain, PlannedMisdeed planned) const {
         std::string text = planned.misdeed->word;
         if (planned.number > 0) text += ":" + std::to_string(planned.number);
-        const std::string command =
-            _subject.cut.empty()
-                ? command_of_life(_subject, plain.scenario, "--misbehave " + shell_word(text))
-                : "";
-        return text + " with " + plain.scenario.name +
-               (command.empty() ? "" : "; to repeat it: " + command);
+        return where_counted(_subject, plain.scenario, "--misbehave " + shell_word(text));
     }
 
     const CheckContext& _context;

@@ -101,6 +101,7 @@ void check_loading_repeatedly(const CheckContext& context, Findings& findings) {
         ++context.place.runs;
     }
     compare(*before, {}, loads - warm_up, findings);
+    note_cut(context.subject, findings);
 }
 
 // A whole life again and again: what is allocated may not go on growing.
@@ -136,6 +137,7 @@ void check_memory(const CheckContext& context, Findings& findings) {
         findings.fail("every life leaves " + std::to_string(grown) + " bytes behind");
     else
         findings.note("every life leaves " + std::to_string(grown) + " bytes behind");
+    note_cut(context.subject, findings);
 }
 
 } // namespace minihost

@@ -65,6 +65,7 @@ void check_missing_optional(const CheckContext& context, Findings& findings) {
         live_without(context, crew, without, {}, findings);
     }
     crew.finish();
+    note_cut(context.subject, findings);
 }
 
 void check_missing_any(const CheckContext& context, Findings& findings) {
@@ -79,6 +80,7 @@ void check_missing_any(const CheckContext& context, Findings& findings) {
                      findings);
     }
     crew.finish();
+    note_cut(context.subject, findings);
 }
 
 } // namespace minihost

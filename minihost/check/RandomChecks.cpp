@@ -55,7 +55,7 @@ class RandomCheck {
             told.push_back(*result.wrong);
             tell(seed, result);
         }
-        if (!_subject.cut.empty()) _findings.note(_subject.cut);
+        note_cut(_subject, _findings);
     }
 
   private:

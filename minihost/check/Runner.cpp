@@ -1,8 +1,8 @@
 #include "minihost/check/Runner.h"
 
+#include "minihost/actions/TerminalLine.h"
 #include "minihost/check/Groups.h"
 #include "minihost/check/Report.h"
-#include "minihost/check/Subject.h"
 #include "minihost/model/OutputFile.h"
 #include "minihost/view/Screen.h"
 
@@ -10,7 +10,6 @@
 #include <cstdio>
 #include <filesystem>
 #include <iostream>
-#include <unistd.h>
 
 namespace minihost {
 
@@ -18,30 +17,9 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr int failure_status = 1, bad_input_status = 2;
-
 double seconds_since(Clock::time_point start) {
     return std::chrono::duration<double>(Clock::now() - start).count();
 }
-
-// A line on a terminal that is written over again and again.
-class ProgressLine {
-  public:
-    void show(const std::string& text) {
-        if (!_is_terminal) return;
-        std::fprintf(stderr, "\r\033[K%.150s", text.c_str());
-        std::fflush(stderr);
-        _is_shown = true;
-    }
-    void wipe() {
-        if (_is_shown) std::fputs("\r\033[K", stderr);
-        _is_shown = false;
-    }
-
-  private:
-    const bool _is_terminal = ::isatty(STDERR_FILENO) != 0;
-    bool _is_shown = false;
-};
 
 // Why a check makes no sense, or nothing.
 std::string reason_to_skip(const Check& check, const Rehearsal& rehearsal) {
@@ -61,7 +39,7 @@ Limits limits_of_check(const Subject& subject) {
     return {std::chrono::minutes(10 * subject.level * sanitizer_factor), 8 * subject.limits().step};
 }
 
-Findings run_check(const Check& check, const CheckContext& context, ProgressLine& progress) {
+Findings run_check(const Check& check, const CheckContext& context, TerminalLine& progress) {
     const auto body = [&](Place& place) {
         Findings findings;
         check.run({context.subject, context.rehearsal, place}, findings);
@@ -97,15 +75,15 @@ std::vector<const Check*> chosen_checks(const CheckOptions& options) {
     for (const Check& it : checks()) {
         const auto& only = options.only;
         const bool asked = std::find(only.begin(), only.end(), it.id) != only.end();
-        if (only.empty() ? it.least_level <= options.level : asked) chosen.push_back(&it);
+        if (only.empty() || asked) chosen.push_back(&it);
     }
     return chosen;
 }
 
-int run_chosen(const Subject& subject, const std::vector<const Check*>& chosen,
-               const std::string& json) {
+bool run_chosen(const Subject& subject, const std::vector<const Check*>& chosen,
+                const std::string& json) {
     const Clock::time_point start = Clock::now();
-    ProgressLine progress;
+    TerminalLine progress;
     progress.show("rehearsing");
     load_fonts();
     const Rehearsal rehearsal = rehearse(subject, [&](std::size_t lives) {
@@ -128,36 +106,28 @@ int run_chosen(const Subject& subject, const std::vector<const Check*>& chosen,
     }
     std::cout << summary_text(results, seconds_since(start)) << std::flush;
     if (!json.empty()) write_file(json, report_json(subject, results));
-    return good ? 0 : failure_status;
+    return good;
 }
 
 } // namespace
 
-int run_checks(const std::string& plugin, const std::string& scene_file,
-               const CheckOptions& options) {
+bool run_checks(const std::string& plugin, const std::string& scene_file,
+                const CheckOptions& options) {
     if (options.list) {
         for (const Check& it : checks()) std::printf("%-26s%s\n", it.id, it.sentence);
-        return 0;
+        return true;
     }
-    try {
-        for (const std::string& id : options.only)
-            if (!find_check(id)) throw std::runtime_error("there is no check '" + id + "'");
-        Subject subject;
-        subject.plugin = plugin;
-        subject.scene_file = scene_file;
-        subject.level = options.level;
-        if (const auto parent = std::filesystem::path(options.json).parent_path(); !parent.empty())
-            subject.folder = parent.string();
-        subject.seed = options.seed;
-        read_scenes(subject);
-        return run_chosen(subject, chosen_checks(options), options.json);
-    } catch (const OutputError& error) {
-        std::cerr << "minihost: " << error.what() << std::endl;
-        return failure_status;
-    } catch (const std::exception& error) {
-        std::cerr << "minihost: " << error.what() << std::endl;
-        return bad_input_status;
-    }
+    for (const std::string& id : options.only)
+        if (!find_check(id)) throw std::runtime_error("there is no check '" + id + "'");
+    Subject subject;
+    subject.plugin = plugin;
+    subject.scene_file = scene_file;
+    subject.level = options.level;
+    if (const auto parent = std::filesystem::path(options.json).parent_path(); !parent.empty())
+        subject.folder = parent.string();
+    subject.seed = options.seed;
+    read_scenes(subject);
+    return run_chosen(subject, chosen_checks(options), options.json);
 }
 
 } // namespace minihost

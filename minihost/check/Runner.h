@@ -18,8 +18,9 @@ struct CheckOptions {
     std::uint64_t seed = 1;
 };
 
-// The exit status: 0, 1 when a check fails or crashes, 2 for a bad scene or an id that is none.
-int run_checks(const std::string& plugin, const std::string& scene_file,
-               const CheckOptions& options);
+// Whether no check fails or crashes. Throws SceneError for a bad scene, OutputError when the report
+// cannot be written, std::runtime_error for an id that is none.
+bool run_checks(const std::string& plugin, const std::string& scene_file,
+                const CheckOptions& options);
 
 } // namespace minihost

@@ -120,11 +120,6 @@ Scenario life_with(const std::string& name, const std::vector<ScenarioStep>& mid
 
 } // namespace
 
-const char* name_of(Phase phase) {
-    static constexpr const char* names[] = {"entry", "open", "idle", "apply", "close", "death"};
-    return names[static_cast<int>(phase)];
-}
-
 Scenario plain_life() {
     return life_with("life", {{Phase::Close, "menu"},
                               {Phase::Open, "menu"},

@@ -15,7 +15,6 @@ class ControlNames;
 
 // What a step is to the plug-in. Entry and death are before and after all steps.
 enum class Phase { Entry, Open, Idle, Apply, Close, Death };
-const char* name_of(Phase phase);
 
 struct ScenarioStep {
     Phase phase;

@@ -33,30 +33,19 @@ void cut_scene(Subject& subject) {
         subject.small_scene = subject.scene;
         return;
     }
-    Document document(std::move(scene));
-    for (const Layer* it : document.scene().layers())
-        if (!kept.contains(it->id)) document.remove_layer(it->id);
-    std::string text = scene_text(document);
-    // The removals are no steps that anybody made.
-    const std::size_t undo = text.rfind("\"undo\"");
-    const std::size_t open = text.find('[', undo), close = text.rfind(']');
-    if (undo != std::string::npos) text.erase(open + 1, close - open - 1);
-    subject.small_scene = std::move(text);
+    Selection selection = scene.selection();
+    std::erase_if(selection, [&](LayerId id) { return id && !kept.contains(id); });
+    scene.select(std::move(selection));
+    for (const Layer* it : scene.layers())
+        if (!kept.contains(it->id)) scene.remove(it->id);
+    subject.small_scene = scene_text(Document(std::move(scene)));
     subject.cut = std::to_string(kept.size()) + " of the scene's " + std::to_string(all) +
                   " layers were kept for these runs";
 }
 
-} // namespace
-
-Limits Subject::limits() const {
-    using std::chrono::seconds;
-    const std::size_t layers = small_scene.empty() ? 0 : scene.size() / 400; // about so many
-    const seconds step{(2 + level + static_cast<int>(layers / 100)) * sanitizer_factor};
-    return {20 * step, step};
-}
-
-std::string built_in_scene() {
-    return R"({"format": "minihost scene 1",
+// A composition with something of everything: 3D solids, a text, a shape and a camera selected, a
+// layer in the plane, a light, keys.
+constexpr const char* built_in_scene = R"({"format": "minihost scene 1",
   "composition": {"name": "Comp 1", "width": 1280, "height": 720, "frame_rate": 25, "duration": 8, "time": 1},
   "layers": [
     {"name": "Title", "kind": "text", "three_d": true, "size": {"width": 300, "height": 60}},
@@ -71,11 +60,19 @@ std::string built_in_scene() {
   ],
   "selection": [0, 1, 2, 3, 4, 6, "other"]
 })";
+
+} // namespace
+
+Limits Subject::limits() const {
+    using std::chrono::seconds;
+    const std::size_t layers = small_scene.empty() ? 0 : scene.size() / 400; // about so many
+    const seconds step{(2 + level + static_cast<int>(layers / 100)) * sanitizer_factor};
+    return {20 * step, step};
 }
 
 void read_scenes(Subject& subject) {
     if (subject.scene_file.empty()) {
-        subject.scene = built_in_scene();
+        subject.scene = built_in_scene;
     } else {
         subject.scene = read_file(subject.scene_file);
         parse_scene(subject.scene, subject.scene_file); // for its errors, by the file's name

@@ -38,6 +38,9 @@ class Panel {
     NSWindow* _window;
 };
 
+// Takes all views out of a container that is to go: the plug-in may still hold them.
+void empty_container(NSView* container);
+
 // Says that a window is the host's own for as long as it lives, or that it is gone.
 void claim_window(NSWindow* window);
 void disclaim_window(NSWindow* window);

@@ -32,6 +32,11 @@ NSString* string(const std::string& utf8) {
 
 } // namespace
 
+void empty_container(NSView* container) {
+    NSArray* views = [[[container subviews] copy] autorelease];
+    for (NSUInteger i = 0; i < [views count]; ++i) [[views objectAtIndex:i] removeFromSuperview];
+}
+
 void claim_window(NSWindow* window) {
     own_windows().insert(window);
 }
@@ -57,9 +62,7 @@ Panel::Panel(double width, double height) {
 Panel::~Panel() {
     const AutoreleasePool pool;
     disclaim_window(_window);
-    // The plug-in may still hold its views; they stand nowhere from now on.
-    NSArray* views = [[[container() subviews] copy] autorelease];
-    for (NSUInteger i = 0; i < [views count]; ++i) [[views objectAtIndex:i] removeFromSuperview];
+    empty_container(container());
     [_window close];
     [_window release];
 }

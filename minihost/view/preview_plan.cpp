@@ -107,6 +107,26 @@ std::string corners(const Item& item) {
     return text;
 }
 
+// The topmost one; null when there is none.
+const Layer* first_camera(const std::vector<const Layer*>& layers) {
+    const auto found = std::find_if(layers.begin(), layers.end(), [](const Layer* layer) {
+        return layer->kind == LayerKind::Camera;
+    });
+    return found == layers.end() ? nullptr : *found;
+}
+
+// Null stands for the default camera.
+Lens lens_of(const Layer* camera, const Composition& composition) {
+    const double w = composition.width, h = composition.height;
+    if (!camera) return default_lens(w, h);
+    const Pose pose = pose_of(*camera, composition.time);
+    return look(pose, pose.anchor_point, w, h);
+}
+
+std::string name_of(const Layer* camera) {
+    return camera ? plain_text(camera->name) : "Default camera";
+}
+
 class Planner {
   public:
     Planner(const Scene& scene, double scale) : _scene(scene), _layers(scene.layers()) {
@@ -116,8 +136,8 @@ class Planner {
         _plan.height = size.height;
         _plan.point = scale;
         _plan.comp_width = w;
-        _camera = first_camera();
-        _plan.lens = lens();
+        _camera = first_camera(_layers);
+        _plan.lens = lens_of(_camera, scene.composition);
         _plan.lens.unit = size.width >= size.height ? size.width / w : size.height / h;
     }
 
@@ -129,7 +149,7 @@ class Planner {
         _plan.comp_width = scene.composition.width;
         _plan.lens = framing.lens;
         _plan.caption = framing.caption;
-        if (framing.through_camera) _camera = first_camera();
+        if (framing.through_camera) _camera = first_camera(_layers);
     }
 
     Plan make() {
@@ -140,27 +160,7 @@ class Planner {
         return std::move(_plan);
     }
 
-    Lens lens() const {
-        const double w = _scene.composition.width, h = _scene.composition.height;
-        const Layer* camera = first_camera();
-        if (!camera) return default_lens(w, h);
-        const Pose pose = pose_of(*camera, _scene.composition.time);
-        return look(pose, pose.anchor_point, w, h);
-    }
-
-    std::string camera_name() const {
-        const Layer* camera = first_camera();
-        return camera ? plain_text(camera->name) : "Default camera";
-    }
-
   private:
-    const Layer* first_camera() const {
-        for (const Layer* layer : _layers) {
-            if (layer->kind == LayerKind::Camera) return layer;
-        }
-        return nullptr;
-    }
-
     // All items from the bottom layer to the top one. 3D layers between two that are not are
     // sorted among themselves, as hosts do: a 2D layer divides what is below from what is above.
     void gather() {
@@ -299,7 +299,7 @@ class Planner {
 
     void write_caption() {
         const std::size_t count = _layers.size();
-        _plan.caption = plain_text(_scene.composition.name) + "   \u00b7   " + camera_name() +
+        _plan.caption = plain_text(_scene.composition.name) + "   \u00b7   " + name_of(_camera) +
                         "   \u00b7   " + std::to_string(count) +
                         (count == 1 ? " layer" : " layers");
     }
@@ -333,11 +333,11 @@ Plan make_plan(const Scene& scene, const Framing& framing) {
 }
 
 Lens camera_lens(const Scene& scene) {
-    return Planner(scene, 1.0).lens();
+    return lens_of(first_camera(scene.layers()), scene.composition);
 }
 
 std::string camera_name(const Scene& scene) {
-    return Planner(scene, 1.0).camera_name();
+    return name_of(first_camera(scene.layers()));
 }
 
 } // namespace minihost::preview

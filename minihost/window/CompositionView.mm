@@ -50,15 +50,14 @@ struct CompositionPicture {
         preview::Framing framing =
             wanted.view.framing(bench.scene(), wanted.width, wanted.height, wanted.scale);
         plan = preview::make_plan(bench.scene(), framing);
-        std::vector<unsigned char> rgba = preview::paint_pixels(
-            plan.width, plan.height, [this](preview::Canvas& canvas) { paint_all(canvas); });
+        std::vector<unsigned char> rgba =
+            preview::paint_pixels(plan.width, plan.height, [this](preview::Canvas& canvas) {
+                preview::paint(canvas, plan);
+            });
         CGImageRelease(image);
         image = image_of(rgba, plan.width, plan.height);
         key = wanted;
     }
-
-  private:
-    void paint_all(preview::Canvas& canvas) { preview::paint(canvas, plan); }
 };
 
 @implementation CompositionView

@@ -5,12 +5,9 @@
 #include "minihost/window/Layout.h"
 #include "minihost/window/Look.h"
 
-#include <algorithm>
-
 using namespace minihost;
 
 struct DeskState {
-    Workbench* bench = nullptr;
     NSView* docked = nil;
     std::string dock_title, status;
     Layout layout;
@@ -51,7 +48,6 @@ NSRect rect(const Box& box) {
 }
 
 - (void)setWorkbench:(Workbench*)bench {
-    _state->bench = bench;
     [_view setWorkbench:bench];
     [_list setWorkbench:bench];
 }

@@ -1,6 +1,7 @@
 #include "minihost/window/DockedPanel.h"
 
 #include "minihost/view/AutoreleasePool.h"
+#include "minihost/view/Panel.h"
 #include "minihost/window/Desk.h"
 
 namespace minihost {
@@ -21,10 +22,7 @@ class DockedPanel : public PanelView {
     ~DockedPanel() override {
         const AutoreleasePool pool;
         show(false);
-        // The plug-in may still hold its views; they stand nowhere from now on.
-        NSArray* views = [[[_container subviews] copy] autorelease];
-        for (NSUInteger i = 0; i < [views count]; ++i)
-            [[views objectAtIndex:i] removeFromSuperview];
+        empty_container(_container);
         [_container removeFromSuperview];
         [_container release];
     }

@@ -1,5 +1,6 @@
 #include "minihost/window/FilePanel.h"
 
+#include "minihost/model/OutputFile.h"
 #include "minihost/view/AutoreleasePool.h"
 #include "minihost/view/Panel.h"
 #include "minihost/window/Look.h"
@@ -7,7 +8,6 @@
 #include "minihost/window/RowList.h"
 
 #include <algorithm>
-#include <cctype>
 #include <filesystem>
 
 namespace fs = std::filesystem;
@@ -21,9 +21,8 @@ struct Entry {
 };
 
 bool has_one_of(const fs::path& path, const std::vector<std::string>& extensions) {
-    std::string own = path.extension().string();
-    for (char& c : own) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return std::find(extensions.begin(), extensions.end(), own) != extensions.end();
+    return std::find(extensions.begin(), extensions.end(), extension_of(path.string())) !=
+           extensions.end();
 }
 
 // The way up first, then folders, then files, each by name. A folder that cannot be read is empty.

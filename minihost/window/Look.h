@@ -30,11 +30,9 @@ NSColor* color(Part part);
 
 void fill(NSRect rect, Part part);
 NSFont* font();
-NSFont* bold_font();
 // One line in the middle of the rectangle's height, cut with an ellipsis where it does not fit.
 // Alignment: 0 left, 1 right, 2 middle. Any bytes are taken.
-void draw_text(const std::string& utf8, NSRect rect, NSColor* color, int alignment = 0,
-               NSFont* font = nil);
+void draw_text(const std::string& utf8, NSRect rect, NSColor* color, int alignment = 0);
 NSString* string(const std::string& utf8);
 
 } // namespace minihost::look

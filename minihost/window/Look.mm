@@ -69,20 +69,17 @@ void fill(NSRect rect, Part part) {
 NSFont* font() {
     return [NSFont systemFontOfSize:12];
 }
-NSFont* bold_font() {
-    return [NSFont boldSystemFontOfSize:12];
-}
 
 NSString* string(const std::string& utf8) {
     NSString* text = [NSString stringWithUTF8String:preview::plain_text(utf8).c_str()];
     return text ? text : @"";
 }
 
-void draw_text(const std::string& utf8, NSRect rect, NSColor* color, int alignment, NSFont* font) {
+void draw_text(const std::string& utf8, NSRect rect, NSColor* color, int alignment) {
     constexpr std::size_t most = 1000; // bytes; no line of a window shows more
     NSString* text = string(utf8.size() > most ? utf8.substr(0, most) : utf8);
     if ([text length] == 0 || rect.size.width < 8) return;
-    NSDictionary* look = attributes(font ? font : look::font(), color);
+    NSDictionary* look = attributes(font(), color);
     NSSize size = [text sizeWithAttributes:look];
     if (size.width > rect.size.width) {
         text = cut(text, look, rect.size.width);

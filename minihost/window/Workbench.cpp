@@ -2,8 +2,6 @@
 
 #include "minihost/actions/Actions.h"
 
-#include <algorithm>
-#include <cmath>
 #include <cstdio>
 #include <filesystem>
 

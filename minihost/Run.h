@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "minihost/actions/CommandLine.h"
+#include "minihost/CommandLine.h"
 
 namespace minihost {
 

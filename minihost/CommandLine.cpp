@@ -1,4 +1,4 @@
-#include "minihost/actions/CommandLine.h"
+#include "minihost/CommandLine.h"
 
 #include "minihost/actions/Actions.h"
 #include "minihost/model/OutputFile.h"

@@ -1,4 +1,4 @@
-#include "minihost/actions/Run.h"
+#include "minihost/Run.h"
 
 #include "minihost/actions/ActionFile.h"
 #include "minihost/actions/Progress.h"
@@ -138,10 +138,11 @@ int show(const Request& request, Scene scene) {
 } // namespace
 
 int run(const Request& request) {
-    if (request.verb == Verb::Check)
-        return run_checks(request.plugin.empty() ? usual_plugin() : request.plugin, request.scene,
-                          request.check);
     try {
+        if (request.verb == Verb::Check) {
+            const std::string plugin = request.plugin.empty() ? usual_plugin() : request.plugin;
+            return run_checks(plugin, request.scene, request.check) ? 0 : failure_status;
+        }
         Progress progress;
         progress.start("reading " + request.scene);
         Scene scene =
@@ -150,6 +151,9 @@ int run(const Request& request) {
         if (request.verb == Verb::Show) return show(request, std::move(scene));
         const std::vector<Step> steps = steps_of(request);
         return Runner(request, std::move(scene), make_screen()).run(steps);
+    } catch (const OutputError& error) {
+        std::cerr << "minihost: " << error.what() << std::endl;
+        return failure_status;
     } catch (const std::exception& error) { // what was read, or memory
         std::cerr << "minihost: " << error.what() << std::endl;
         return bad_input_status;
