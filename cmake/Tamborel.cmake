@@ -75,6 +75,19 @@ function(tamborel_library name)
     target_link_libraries(${name} PUBLIC ${ARG_LINKS})
 endfunction()
 
+# tamborel_test_module(NAME SOURCE FOLDER): a small plug-in of the tests', alone in its file, hiding all
+# but its entry function.
+function(tamborel_test_module name source folder)
+    get_filename_component(module ${source} NAME_WE)
+    add_library(${name} MODULE ${source})
+    target_link_libraries(${name} PRIVATE sdk cocoa)
+    # Objective-C classes are never forgotten: what has some stays mapped.
+    target_link_options(${name} PRIVATE -Wl,-z,nodelete)
+    set_target_properties(${name} PROPERTIES
+        PREFIX "" OUTPUT_NAME ${module} SUFFIX ".plugin" LIBRARY_OUTPUT_DIRECTORY ${folder}
+        CXX_VISIBILITY_PRESET hidden OBJCXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+endfunction()
+
 # tamborel_test(NAME SOURCES ... LINKS ...): a GoogleTest program whose cases CTest knows one by one.
 function(tamborel_test name)
     cmake_parse_arguments(ARG "SERIAL" "" "SOURCES;LINKS" ${ARGN})

@@ -5,6 +5,7 @@
 #include "minihost/model/OutputFile.h"
 #include "minihost/model/SceneReader.h"
 #include "minihost/window/Layout.h"
+#include "tests/minihost/support/files.h"
 
 #include <array>
 #include <chrono>
@@ -99,15 +100,12 @@ class Desktop : public testing::Test {
         if (server->display.empty()) GTEST_SKIP() << "there is no X server to be had";
         ::setenv("DISPLAY", (":" + server->display).c_str(), 1);
         ::setenv("SDL_VIDEODRIVER", "x11", 1);
-        std::string name = (fs::temp_directory_path() / "desktop.XXXXXX").string();
-        folder = ::mkdtemp(name.data());
     }
     void TearDown() override {
         if (process > 0) {
             ::kill(process, SIGKILL);
             ::waitpid(process, nullptr, 0);
         }
-        if (!folder.empty()) fs::remove_all(folder);
     }
 
     // Opens an example, and finds out where the controls of the panel are.
@@ -118,12 +116,9 @@ class Desktop : public testing::Test {
         const json state = json::parse(play("open\nstate\npanel panel.png\n"));
         for (const json& control : state["controls"])
             if (control["name"].is_string()) controls[control["name"]] = control;
-        const std::string png = read_file(folder / "panel.png");
-        const auto number = [&](std::size_t at) { // of the file's head, big-endian
-            return static_cast<unsigned char>(png[at + 2]) * 256.0 +
-                   static_cast<unsigned char>(png[at + 3]);
-        };
-        layout = lay_out(window_width, window_height - menu_bar_height, {number(16), number(20)});
+        const auto [width, height] = png_size(read_file(folder / "panel.png"));
+        layout = lay_out(window_width, window_height - menu_bar_height,
+                         {static_cast<double>(width), static_cast<double>(height)});
         process = start({MINIHOST, "show", (folder / "scene.json").string(), "--scale", "1",
                          "--window", "1000x700"},
                         2);
@@ -192,7 +187,8 @@ class Desktop : public testing::Test {
     bool is_running() { return ::waitpid(process, nullptr, WNOHANG) == 0; }
 
     std::optional<Server> server;
-    fs::path folder;
+    TemporaryFolder temporary;
+    const fs::path& folder = temporary.path;
     json scene;
     std::map<std::string, json> controls;
     Layout layout;

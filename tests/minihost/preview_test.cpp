@@ -1,6 +1,8 @@
 // What is seen in a preview and what is not, in pixels and in SVG, and what becomes of the file.
 
+#include "minihost/model/SceneReader.h"
 #include "minihost/view/preview.h"
+#include "tests/minihost/support/files.h"
 
 #include <cairo.h>
 #include <glib.h>
@@ -12,9 +14,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
 
 namespace minihost {
 namespace {
@@ -342,21 +342,8 @@ TEST(Preview, HasTheCompositionsShape) {
 
 class PreviewFile : public testing::Test {
   protected:
-    PreviewFile() {
-        std::string name = testing::TempDir() + "previewXXXXXX";
-        _folder = mkdtemp(name.data());
-    }
-    ~PreviewFile() override { std::filesystem::remove_all(_folder); }
-
-    std::filesystem::path in(const std::string& name) const { return _folder / name; }
-    std::size_t files() const {
-        return static_cast<std::size_t>(
-            std::distance(std::filesystem::directory_iterator(_folder), {}));
-    }
-    static std::string read(const std::filesystem::path& path) {
-        std::ifstream file(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
+    std::filesystem::path in(const std::string& name) const { return _folder.path / name; }
+    std::size_t files() const { return _folder.entries(); }
     // What is said against a file; nothing when it was written.
     std::string complaint(const std::filesystem::path& path, double scale = 1) const {
         try {
@@ -368,7 +355,7 @@ class PreviewFile : public testing::Test {
     }
 
   private:
-    std::filesystem::path _folder;
+    TemporaryFolder _folder;
 };
 
 TEST_F(PreviewFile, GoesByTheExtensionAndIsTheSameEachTime) {
@@ -377,10 +364,10 @@ TEST_F(PreviewFile, GoesByTheExtensionAndIsTheSameEachTime) {
                                       {"c.svg", "<?xml"},
                                       {"d.e.Svg", "<?xml"}}) {
         EXPECT_EQ(complaint(in(name)), "");
-        const std::string first = read(in(name));
+        const std::string first = read_file(in(name));
         EXPECT_TRUE(first.starts_with(start)) << name;
         EXPECT_EQ(complaint(in(name)), "");
-        EXPECT_TRUE(read(in(name)) == first) << name;
+        EXPECT_TRUE(read_file(in(name)) == first) << name;
     }
     EXPECT_EQ(files(), 4u);
 }

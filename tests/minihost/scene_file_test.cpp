@@ -3,13 +3,11 @@
 #include "minihost/model/OutputFile.h"
 #include "minihost/model/SceneReader.h"
 #include "minihost/model/SceneWriter.h"
+#include "tests/minihost/support/files.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace minihost {
 namespace {
@@ -210,19 +208,8 @@ TEST(SceneWriter, DescribesEveryFieldOfALayer) {
 
 class OutputFile : public testing::Test {
   protected:
-    OutputFile() {
-        std::string name = (fs::temp_directory_path() / "minihost.XXXXXX").string();
-        folder = ::mkdtemp(name.data());
-    }
-    ~OutputFile() override {
-        fs::permissions(folder, fs::perms::owner_all);
-        fs::remove_all(folder);
-    }
-    std::size_t entries() const {
-        return static_cast<std::size_t>(
-            std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
-    }
-    fs::path folder;
+    TemporaryFolder temporary;
+    const fs::path& folder = temporary.path;
 };
 
 TEST_F(OutputFile, ReplacesAFileWholeAndKeepsItsModeAndLinks) {
@@ -234,13 +221,13 @@ TEST_F(OutputFile, ReplacesAFileWholeAndKeepsItsModeAndLinks) {
     EXPECT_EQ(read_file(file), "new");
     EXPECT_TRUE(fs::is_symlink(link));
     EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
-    EXPECT_EQ(entries(), 2u);
+    EXPECT_EQ(temporary.entries(), 2u);
 }
 
 TEST_F(OutputFile, ThatCannotBeWrittenLeavesNothingBehind) {
     EXPECT_THROW(write_file(folder / "none" / "a.json", "x"), OutputError);
     EXPECT_THROW(write_file(folder, "x"), OutputError);
-    EXPECT_EQ(entries(), 0u);
+    EXPECT_EQ(temporary.entries(), 0u);
     EXPECT_THROW(write_file("/dev/full", "x"), OutputError);
 }
 

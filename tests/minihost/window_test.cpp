@@ -6,6 +6,7 @@
 #include "minihost/window/Layout.h"
 #include "minihost/window/Picking.h"
 #include "minihost/window/Workbench.h"
+#include "tests/minihost/support/files.h"
 
 #include <cmath>
 #include <filesystem>
@@ -61,21 +62,15 @@ TEST(WindowLayout, FitsItsPartsTogetherAtAnySize) {
 class Window : public testing::Test {
   protected:
     Window()
-        : folder(new_folder()),
-          session(parse_scene(wall, "test"), {}, make_blind_screen(), out,
+        : session(parse_scene(wall, "test"), {}, make_blind_screen(), out,
                   [](const std::string&) {}),
           bench(session, folder / "test.json") {
         write_file(bench.path(), wall);
     }
-    ~Window() override { fs::remove_all(folder); }
 
     preview::Plan plan(ViewKind kind) {
         bench.view.choose(kind);
         return preview::make_plan(bench.scene(), bench.view.framing(bench.scene(), 800, 500, 2));
-    }
-    static std::string new_folder() {
-        std::string name = (fs::temp_directory_path() / "window.XXXXXX").string();
-        return ::mkdtemp(name.data());
     }
     // A point of the composition's space as it is seen.
     static Point seen(const preview::Plan& plan, const preview::Vector& world) {
@@ -89,7 +84,8 @@ class Window : public testing::Test {
     }
     LayerId layer(std::size_t row) { return bench.scene().layer_at(row).id; }
 
-    fs::path folder;
+    TemporaryFolder temporary;
+    const fs::path& folder = temporary.path;
     std::ostringstream out;
     Session session;
     Workbench bench;

@@ -4,12 +4,14 @@
 #include "tests/host/entry/PluginTest.h"
 
 #include "minihost/suites/Module.h"
+#include "minihost/suites/SuiteTable.h"
 
 #include <map>
 #include <set>
 
 namespace {
 
+using minihost::gives_back;
 using minihost::HostOptions;
 using testing::IsEmpty;
 
@@ -35,13 +37,6 @@ constexpr const char* life[] = {"menu",
 
 const std::string scene =
     scene_of({solid("S"), R"({"name": "T", "kind": "text", "three_d": true})", camera("C")});
-
-// Calls that give something back: when one of them fails, the host still counts it as held.
-bool gives_back(const std::string& call) {
-    for (const char* end : {"ReleaseSuite", "DisposeCollection", "DisposeStream", "EndUndoGroup"})
-        if (call.ends_with(end)) return true;
-    return false;
-}
 
 void live(PluginHost& host) {
     try {
@@ -103,8 +98,6 @@ void sweep(std::set<std::string> without, int step) {
     EXPECT_GT(runs, 50);
 }
 
-// On the whole host every single call fails; on the lesser ones, which differ in few calls, every
-// fourth of a kind.
 // A null handle that comes with success stands for nothing, and the host is not asked about it.
 // Every fifth: each place asks for several.
 TEST(NullHandles, AreNotPassedOn) {
@@ -126,6 +119,8 @@ TEST(NullHandles, AreNotPassedOn) {
     }
 }
 
+// On the whole host every single call fails; on the lesser ones, which differ in few calls, every
+// fourth of a kind.
 TEST(FailingCalls, OnAHostWithEverything) {
     sweep({}, 1);
 }

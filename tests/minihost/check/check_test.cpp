@@ -3,6 +3,7 @@
 
 #include "minihost/check/Check.h"
 #include "minihost/model/SceneReader.h"
+#include "tests/minihost/support/files.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -18,20 +19,9 @@ namespace fs = std::filesystem;
 using nlohmann::json;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
-
-class Folder {
-  public:
-    Folder() {
-        std::string name = (fs::temp_directory_path() / "minihost.XXXXXX").string();
-        path = ::mkdtemp(name.data());
-    }
-    ~Folder() { fs::remove_all(path); }
-    fs::path path;
-};
 
 // Runs the program and gives its exit status; its output is in the folder's "printed".
-int run_program(const Folder& folder, const std::string& arguments) {
+int run_program(const TemporaryFolder& folder, const std::string& arguments) {
     const std::string command = "cd '" + folder.path.string() + "' && " MINIHOST " check " +
                                 arguments + " >printed 2>&1 </dev/null";
     return WEXITSTATUS(std::system(command.c_str()));
@@ -56,7 +46,7 @@ class BrokenModule : public testing::TestWithParam<const Check*> {};
 
 TEST_P(BrokenModule, IsToldByItsCheckAlone) {
     const std::string id = GetParam()->id;
-    const Folder folder;
+    const TemporaryFolder folder;
     // Under the sanitizers, ten times as slow, only whether it is told at all.
     const std::string only = sanitizer_factor > 1 ? " --only " + id : "";
     const int status =
@@ -79,7 +69,7 @@ INSTANTIATE_TEST_SUITE_P(Checks, BrokenModule, testing::ValuesIn(all_checks()),
                          });
 
 TEST(Checks, PassAModuleThatDoesNothingWrong) {
-    const Folder folder;
+    const TemporaryFolder folder;
     const int status = run_program(folder, "--level 3 --seed 7 --json report.json --plugin " +
                                                file_of("sound-dialog"));
     const std::string printed = read_file(folder.path / "printed");
@@ -93,7 +83,7 @@ TEST(Checks, PassAModuleThatDoesNothingWrong) {
 }
 
 TEST(Checks, AreChosenByTheirIds) {
-    const Folder folder;
+    const TemporaryFolder folder;
     const std::string sound = " --plugin " CHECK_MODULES "/sound.plugin";
     EXPECT_EQ(run_program(folder, "--list"), 0);
     const std::string list = read_file(folder.path / "printed");

@@ -3,6 +3,7 @@
 #include "minihost/actions/ActionFile.h"
 #include "minihost/model/OutputFile.h"
 #include "minihost/model/SceneReader.h"
+#include "tests/minihost/support/files.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -17,12 +18,6 @@ using testing::HasSubstr;
 
 class RandomUsers : public testing::Test {
   protected:
-    RandomUsers() {
-        std::string name = (fs::temp_directory_path() / "minihost.XXXXXX").string();
-        folder = ::mkdtemp(name.data());
-    }
-    ~RandomUsers() override { fs::remove_all(folder); }
-
     int run(const std::string& command) {
         const int status = std::system(
             ("cd '" + folder.string() + "' && " + command + " >printed 2>told").c_str());
@@ -34,7 +29,8 @@ class RandomUsers : public testing::Test {
                    " --plugin " CHECK_MODULES "/" + module + ".plugin");
     }
 
-    fs::path folder;
+    TemporaryFolder temporary;
+    const fs::path& folder = temporary.path;
     std::string printed;
 };
 

@@ -101,8 +101,8 @@ A_Err on_death(AEGP_GlobalRefcon, AEGP_DeathRefcon) {
 
 } // namespace
 
-extern "C" A_Err PluginEntry(SPBasicSuite* given, A_long, A_long, AEGP_PluginID id,
-                             AEGP_GlobalRefcon*) {
+extern "C" __attribute__((visibility("default"))) A_Err
+PluginEntry(SPBasicSuite* given, A_long, A_long, AEGP_PluginID id, AEGP_GlobalRefcon*) {
     basic = given;
     plugin_id = id;
     const Suites host;

@@ -16,8 +16,8 @@ A_Err on_death(AEGP_GlobalRefcon, AEGP_DeathRefcon) {
 
 } // namespace
 
-extern "C" A_Err PluginEntry(SPBasicSuite* given, A_long, A_long, AEGP_PluginID id,
-                             AEGP_GlobalRefcon*) {
+extern "C" __attribute__((visibility("default"))) A_Err
+PluginEntry(SPBasicSuite* given, A_long, A_long, AEGP_PluginID id, AEGP_GlobalRefcon*) {
     basic = given;
     const void* table = nullptr;
     basic->AcquireSuite(kAEGPRegisterSuite, kAEGPRegisterSuiteVersion, &table);

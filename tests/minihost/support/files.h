@@ -1,0 +1,43 @@
+// Files of a test's own.
+
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <utility>
+
+namespace minihost {
+
+// Gone when the test is over.
+class TemporaryFolder {
+  public:
+    TemporaryFolder() : path(make()) {}
+    ~TemporaryFolder() { std::filesystem::remove_all(path); }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    const std::filesystem::path path;
+
+    std::size_t entries() const {
+        return static_cast<std::size_t>(
+            std::distance(std::filesystem::directory_iterator(path), {}));
+    }
+
+  private:
+    static std::string make() {
+        std::string name = (std::filesystem::temp_directory_path() / "minihost.XXXXXX").string();
+        return ::mkdtemp(name.data());
+    }
+};
+
+// Width and height in pixels as the head of a PNG file tells them; below 65,536.
+inline std::pair<int, int> png_size(const std::string& file) {
+    const auto number = [&](std::size_t at) { // big-endian
+        return static_cast<unsigned char>(file.at(at + 2)) << 8 |
+               static_cast<unsigned char>(file.at(at + 3));
+    };
+    return {number(16), number(20)};
+}
+
+} // namespace minihost
