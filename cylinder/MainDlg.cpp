@@ -164,6 +164,10 @@ CylinderOptions MainDlg::read_options() const {
 A_Err MainDlg::get_layers_pos() {
     if (layers.empty()) return A_Err_NONE;
     constrain_layers();
+    struct Pass { // over, whatever ends it
+        std::optional<CylinderOptions>& options;
+        ~Pass() { options.reset(); }
+    } pass{_options};
     _options = read_options();
     if (_options->distribute_randomly)
         pos_randomly();
@@ -172,7 +176,6 @@ A_Err MainDlg::get_layers_pos() {
     orient_layers();
     if (_options->scale_to_fit) scale_layers_to_fit();
     if (_options->scale_to_size) scale_layers_conform();
-    _options.reset();
     return A_Err_NONE;
 }
 

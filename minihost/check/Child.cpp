@@ -27,21 +27,16 @@ constexpr std::size_t most_lines_said = 12;
     throw std::system_error(errno, std::generic_category(), what);
 }
 
-std::string content(int file, std::size_t most) {
-    const off_t size = ::lseek(file, 0, SEEK_END);
-    const off_t start = std::max<off_t>(0, size - static_cast<off_t>(most));
-    std::string text(static_cast<std::size_t>(std::max<off_t>(size - start, 0)), '\0');
-    const ssize_t read = ::pread(file, text.data(), text.size(), start);
-    text.resize(static_cast<std::size_t>(std::max<ssize_t>(read, 0)));
-    return text;
+// Memory that stays the same one after a fork.
+Place* shared_place() {
+    void* shared =
+        ::mmap(nullptr, sizeof(Place), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    if (shared == MAP_FAILED) fail("no memory to share");
+    return new (shared) Place;
 }
 
-void write_all(int file, std::string_view text) {
-    while (!text.empty()) {
-        const ssize_t count = ::write(file, text.data(), text.size());
-        if (count < 0 && errno != EINTR) std::_Exit(3);
-        text.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
-    }
+void unmap(Place* place) {
+    ::munmap(place, sizeof(Place));
 }
 
 } // namespace
@@ -64,16 +59,10 @@ std::string Place::step() const {
 }
 
 Child::Child(const Work& work, Limits limits, Exit exit)
-    : _limits(limits), _start(Clock::now()), _step_start(_start) {
-    void* shared =
-        ::mmap(nullptr, sizeof(Place), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
-    if (shared == MAP_FAILED) fail("no memory to share");
-    _place = new (shared) Place;
-    _result = ::memfd_create("result", MFD_CLOEXEC);
-    _said = ::memfd_create("said", MFD_CLOEXEC);
+    : _place(shared_place(), unmap), _limits(limits), _start(Clock::now()), _step_start(_start) {
     std::fflush(nullptr); // or the child writes it once more
     const pid_t parent = ::getpid();
-    _process = _result < 0 || _said < 0 ? -1 : ::fork();
+    _process = ::fork();
     if (_process < 0) fail("no process can be made");
     if (_process == 0) {
         // A child whose parent is ended goes, too.
@@ -89,23 +78,19 @@ Child::~Child() {
         ::kill(_process, SIGKILL);
         ::waitpid(_process, nullptr, 0);
     }
-    for (const int file : {_result, _said, _watch})
-        if (file >= 0) ::close(file);
-    ::munmap(_place, sizeof(Place));
+    if (_watch >= 0) ::close(_watch);
 }
 
 void Child::work(const Work& work, Exit exit) {
-    ::dup2(_said, STDERR_FILENO);
+    ::dup2(_said.descriptor(), STDERR_FILENO);
     std::signal(SIGINT, SIG_DFL);
-    std::string result;
     try {
-        result = work(*_place);
+        _result.write(work(*_place));
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
         std::fflush(stderr);
         std::_Exit(1);
     }
-    write_all(_result, result);
     if (exit == Exit::Quick) {
         std::fflush(nullptr);
         std::_Exit(0);
@@ -164,7 +149,7 @@ void Child::finish(int status) {
     _ending.said = last_lines();
     _ending.leaked = _place->_leaked;
     if (WIFEXITED(status) && WEXITSTATUS(status) == 0) {
-        _ending.result = content(_result, SIZE_MAX >> 1);
+        _ending.result = _result.content();
         return;
     }
     _ending.kind = Ending::Kind::Crashed;
@@ -174,7 +159,7 @@ void Child::finish(int status) {
 }
 
 std::vector<std::string> Child::last_lines() const {
-    const std::string text = content(_said, 1 << 16);
+    const std::string text = _said.content(1 << 16);
     std::vector<std::string> lines;
     for (std::size_t start = 0; start < text.size();) {
         const std::size_t end = std::min(text.find('\n', start), text.size());

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "minihost/check/MemoryFile.h"
+
 #include <atomic>
 #include <chrono>
 #include <functional>
@@ -74,8 +76,8 @@ class Child {
     std::vector<std::string> last_lines() const;
 
     using Clock = std::chrono::steady_clock;
-    Place* _place;
-    int _result = -1, _said = -1; // files in memory
+    std::unique_ptr<Place, void (*)(Place*)> _place;
+    MemoryFile _result{"result"}, _said{"said"};
     int _process = -1, _watch = -1;
     Limits _limits;
     Clock::time_point _start, _step_start;

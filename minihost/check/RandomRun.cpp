@@ -3,11 +3,6 @@
 #include "minihost/check/Groups.h"
 #include "minihost/check/Life.h"
 
-#include <cerrno>
-#include <sys/mman.h>
-#include <system_error>
-#include <unistd.h>
-
 namespace minihost {
 
 namespace {
@@ -17,35 +12,20 @@ constexpr char deed_mark = '=', line_mark = '+', refusal_mark = '!';
 
 } // namespace
 
-Journal::Journal() : _file(::memfd_create("journal", MFD_CLOEXEC)) {
-    if (_file < 0) throw std::system_error(errno, std::generic_category(), "no journal");
-}
-
-Journal::~Journal() {
-    ::close(_file);
-}
-
-void Journal::write(const std::string& text) {
-    if (::write(_file, text.data(), text.size()) != static_cast<ssize_t>(text.size()))
-        throw std::system_error(errno, std::generic_category(), "the journal");
-}
-
 void Journal::begin_deed() {
-    write(std::string(1, deed_mark) + "\n");
+    _file.write(std::string(1, deed_mark) + "\n");
 }
 
 void Journal::begin(const std::string& line) {
-    write(line_mark + line + "\n");
+    _file.write(line_mark + line + "\n");
 }
 
 void Journal::refuse() {
-    write(std::string(1, refusal_mark) + "\n");
+    _file.write(std::string(1, refusal_mark) + "\n");
 }
 
 std::vector<Deed> Journal::deeds() const {
-    std::string text(static_cast<std::size_t>(std::max<off_t>(::lseek(_file, 0, SEEK_END), 0)), 0);
-    text.resize(static_cast<std::size_t>(
-        std::max<ssize_t>(::pread(_file, text.data(), text.size(), 0), 0)));
+    const std::string text = _file.content();
     std::vector<Deed> deeds;
     for (std::size_t start = 0; start < text.size();) {
         const std::size_t end = text.find('\n', start);

@@ -5,6 +5,7 @@
 
 #include "minihost/check/Check.h"
 #include "minihost/check/Crew.h"
+#include "minihost/check/MemoryFile.h"
 #include "minihost/check/RandomUser.h"
 
 #include <memory>
@@ -13,15 +14,9 @@
 
 namespace minihost {
 
-// What was done, in a file in memory that a child and its parent share.
+// What was done, as a child puts it down for its parent.
 class Journal {
   public:
-    // Throws std::system_error.
-    Journal();
-    ~Journal();
-    Journal(const Journal&) = delete;
-    Journal& operator=(const Journal&) = delete;
-
     void begin_deed();
     void begin(const std::string& line);
     // The line begun last could not be done.
@@ -30,8 +25,7 @@ class Journal {
     std::vector<Deed> deeds() const;
 
   private:
-    void write(const std::string& text);
-    int _file;
+    MemoryFile _file{"journal"};
 };
 
 // How a run went wrong: two that did so alike are equal in it.
