@@ -9,9 +9,11 @@
 #include <poll.h>
 #include <sys/mman.h>
 #include <sys/prctl.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <system_error>
+#include <thread>
 #include <unistd.h>
 
 // Of the leak sanitizer, where the program has one.
@@ -39,6 +41,21 @@ void unmap(Place* place) {
     ::munmap(place, sizeof(Place));
 }
 
+// Libraries have threads that end by themselves, such as those that look for fonts. A lock that one
+// holds at a fork would be held in the child for ever: so they are awaited, except for those that
+// have outlived that once.
+void await_threads() {
+    constexpr std::chrono::seconds patience(1);
+    constexpr std::chrono::microseconds between_looks(200);
+    static nlink_t lasting = 1;
+    const auto until = std::chrono::steady_clock::now() + patience;
+    struct stat threads {};
+    while (::stat("/proc/self/task", &threads) == 0 && threads.st_nlink > 2 + lasting) {
+        if (std::chrono::steady_clock::now() > until) lasting = threads.st_nlink - 2;
+        std::this_thread::sleep_for(between_looks);
+    }
+}
+
 } // namespace
 
 #if defined(__SANITIZE_ADDRESS__)
@@ -60,6 +77,7 @@ std::string Place::step() const {
 
 Child::Child(const Work& work, Limits limits, Exit exit)
     : _place(shared_place(), unmap), _limits(limits), _start(Clock::now()), _step_start(_start) {
+    await_threads();
     std::fflush(nullptr); // or the child writes it once more
     const pid_t parent = ::getpid();
     _process = ::fork();

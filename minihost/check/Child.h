@@ -50,7 +50,8 @@ struct Ending {
     std::vector<std::string> said; // the last lines on standard error
 };
 
-// A process that is forked off here. The parent should have no thread but one.
+// A process that is forked off here, once the parent's other threads have ended or made it wait for
+// a second.
 class Child {
   public:
     using Work = std::function<std::string(Place&)>;

@@ -30,7 +30,8 @@ std::string reason_to_skip(const Check& check, const Rehearsal& rehearsal) {
     if (check.needs == Needs::Life &&
         std::none_of(lives.begin(), lives.end(),
                      [](const RehearsedLife& life) { return life.ended_well(); }))
-        return "no life of the plug-in ends well (hooks.return, hooks.idle-ends)";
+        return "no life of the plug-in ends well (hooks.return, hooks.idle-ends): the plain one " +
+               death_of(lives[0].ending);
     return "";
 }
 
