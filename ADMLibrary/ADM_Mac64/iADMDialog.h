@@ -5,6 +5,7 @@
 #include "ADMLibrary/ADM_Mac64/ADMCommandAdapter.h"
 #include "ADMLibrary/ADM_Mac64/iADMItem.h"
 
+#include <unordered_map>
 #include <vector>
 
 class iADMDialogBase {
@@ -62,6 +63,8 @@ class iADMDialog : public iADMDialogBase {
     void SetBoundsRect(const Rect* r);
     void SetLocalRect(const Rect* r);
 
+    // A new one at the end of the store; null when that is full.
+    iADMItem* add_item(int id);
     iADMItem* GetItem(int id);
     iADMItem* GetNextItem(const iADMItem* item);
 
@@ -74,4 +77,6 @@ class iADMDialog : public iADMDialogBase {
     // Runs the init procedure; a dialog for which it fails is destroyed, and null comes back.
     static iADMDialog* finish(iADMDialog* dialog, ADMDialogInitProc init);
     void make_room_for_title_bar();
+
+    std::unordered_map<int, iADMItem*> _first_of_id; // of items with the same id the one made first
 };

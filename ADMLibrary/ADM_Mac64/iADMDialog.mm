@@ -5,7 +5,6 @@
 #include "ADMLibrary/ADM_Mac64/FlippedView.h"
 #include "ADMLibrary/ADM_Mac64/iADMDrawer.h"
 
-#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -133,10 +132,18 @@ iADMDialog* iADMDialog::CreatePanel(const char* name, ADMDialogInitProc init, vo
     return made;
 }
 
+iADMItem* iADMDialog::add_item(int id) {
+    if (_items.size() >= kMostItems) return nullptr;
+    iADMItem& item = _items.emplace_back();
+    item.dialog = this;
+    item._id = id;
+    _first_of_id.try_emplace(id, &item);
+    return &item;
+}
+
 iADMItem* iADMDialog::GetItem(int id) {
-    const auto found = std::find_if(_items.begin(), _items.end(),
-                                    [id](const iADMItem& item) { return item._id == id; });
-    return found == _items.end() ? nullptr : &*found;
+    const auto found = _first_of_id.find(id);
+    return found == _first_of_id.end() ? nullptr : found->second;
 }
 
 iADMItem* iADMDialog::GetNextItem(const iADMItem* item) {

@@ -20,12 +20,11 @@ iADMItemBase::~iADMItemBase() {
 
 iADMItem* iADMItem::Create(iADMDialog* dialog, int id, const char* type, const Rect* r,
                            ADMItemInitProc init, void* userData) {
-    if (!dialog || dialog->_items.size() >= iADMDialog::kMostItems) return nullptr;
-    iADMItem& item = dialog->_items.emplace_back();
-    item.dialog = dialog;
+    iADMItem* const added = dialog ? dialog->add_item(id) : nullptr;
+    if (!added) return nullptr;
+    iADMItem& item = *added;
     item._userData = userData;
     item._type = type;
-    item._id = id;
     if (r) item._bounds = *r;
     if (!dialog->_view) adm::assertion_failed("Create", adm::kAssertionSource, 203, "view");
 

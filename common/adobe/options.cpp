@@ -148,7 +148,10 @@ float AssistantDlg::number(int id) const {
     return sADMItem->GetFloatValue(item(id));
 }
 void AssistantDlg::enable_item(int id, bool enable) const {
-    sADMItem->Enable(item(id), enable);
+    // What is so already is left alone: this happens at every idle call, and setting it asks the
+    // host for colours and draws the item anew.
+    _Opaque_ADMItem* const it = item(id);
+    if (sADMItem->IsEnabled(it) != enable) sADMItem->Enable(it, enable);
 }
 void AssistantDlg::set_on(int id, bool on) const {
     sADMItem->SetBooleanValue(item(id), on);
