@@ -5,6 +5,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <new>
 #include <poll.h>
 #include <sys/mman.h>
@@ -140,19 +141,36 @@ bool Child::wait(std::chrono::milliseconds time) {
     return _over;
 }
 
+// What it has used of it; 0 once it has ended.
+std::chrono::nanoseconds Child::processor_time() const {
+    clockid_t clock{};
+    timespec time{};
+    if (::clock_getcpuclockid(_process, &clock) != 0 || ::clock_gettime(clock, &time) != 0)
+        return std::chrono::nanoseconds(0);
+    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+}
+
 void Child::check_limits() {
     const Clock::time_point now = Clock::now();
+    const std::chrono::nanoseconds worked = processor_time();
     if (const std::uint64_t steps = _place->steps(); steps != _steps_seen) {
         _steps_seen = steps;
         _step_start = now;
+        _step_start_of_processor = worked;
     }
-    const bool whole = now - _start > _limits.whole;
-    if (!whole && now - _step_start <= _limits.step) return;
+    std::chrono::milliseconds limit;
+    if (now - _start > _limits.whole)
+        limit = _limits.whole;
+    else if (now - _step_start > Limits::times_waiting * _limits.step)
+        limit = Limits::times_waiting * _limits.step;
+    else if (worked - _step_start_of_processor > _limits.step)
+        limit = _limits.step;
+    else
+        return;
     ::kill(_process, SIGKILL);
     ::waitpid(_process, nullptr, 0);
     _over = true;
-    const auto seconds =
-        std::chrono::duration<double>(whole ? _limits.whole : _limits.step).count();
+    const double seconds = std::chrono::duration<double>(limit).count();
     _ending = {Ending::Kind::TimedOut,
                "",
                _place->step(),

@@ -32,8 +32,11 @@ class Place {
     char _step[400] = {};
 };
 
-// How long a child may take: for all of it, and from one step to the next.
+// How long a child may take: for all of it by the clock, and from one step to the next of the
+// processor's time, so that a machine that is busy with something else does no harm. A step that
+// waits and does nothing gets `times_waiting` of that by the clock.
 struct Limits {
+    static constexpr int times_waiting = 20;
     std::chrono::milliseconds whole, step;
 };
 
@@ -73,6 +76,7 @@ class Child {
   private:
     [[noreturn]] void work(const Work& work, Exit exit);
     void check_limits();
+    std::chrono::nanoseconds processor_time() const;
     void finish(int status);
     std::vector<std::string> last_lines() const;
 
@@ -82,6 +86,7 @@ class Child {
     int _process = -1, _watch = -1;
     Limits _limits;
     Clock::time_point _start, _step_start;
+    std::chrono::nanoseconds _step_start_of_processor{0};
     std::uint64_t _steps_seen = 0;
     bool _over = false;
     Ending _ending;

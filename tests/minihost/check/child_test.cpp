@@ -7,6 +7,7 @@
 #include <mutex>
 #include <stdexcept>
 #include <thread>
+#include <unistd.h>
 
 namespace minihost {
 namespace {
@@ -30,6 +31,37 @@ TEST(Children, FindNoLockHeldByAThreadThatTheyDoNotHave) {
         limits, Child::Exit::Quick);
     holder.join();
     EXPECT_EQ(ending.result, "done") << ending.cause;
+}
+
+TEST(Children, ReachTheLimitOfAStepByWorkingAndNotByWaiting) {
+    constexpr Limits short_limits{std::chrono::seconds(20), std::chrono::milliseconds(300)};
+    const Ending waited = run_in_child(
+        [](Place&) {
+            std::this_thread::sleep_for(std::chrono::seconds(1));
+            return std::string("done");
+        },
+        short_limits, Child::Exit::Quick);
+    EXPECT_EQ(waited.kind, Ending::Kind::Done) << waited.cause;
+
+    const Ending worked = run_in_child(
+        [](Place& place) {
+            place.enter("a loop");
+            for (volatile bool forever = true; forever;) {
+            }
+            return std::string();
+        },
+        short_limits, Child::Exit::Quick);
+    EXPECT_EQ(worked.kind, Ending::Kind::TimedOut);
+    EXPECT_EQ(worked.step, "a loop");
+
+    constexpr Limits shorter{std::chrono::seconds(20), std::chrono::milliseconds(20)};
+    const Ending stuck = run_in_child(
+        [](Place&) {
+            for (;;) ::pause();
+            return std::string();
+        },
+        shorter, Child::Exit::Quick);
+    EXPECT_EQ(stuck.kind, Ending::Kind::TimedOut) << "it waited twenty times as long";
 }
 
 TEST(Children, GiveResultsOfAnySizeAndTheLastThatTheySaid) {
