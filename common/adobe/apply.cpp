@@ -10,8 +10,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <ctime>
-#include <list>
-#include <utility>
 #include <vector>
 
 namespace {
@@ -121,7 +119,8 @@ A_Err AssistantDlg::apply_to_layers() {
     const math::TGeomVector3D<double> offset = get_offset();
     AEGP_StreamValue zero{}; // not const: writing it fills its stream slot
     for (LayerInfo& record : layers) {
-        if (record.is_copy && !(record.layer = clone(record.layer))) continue;
+        if (record.is_copy) record.layer = clone(record.layer);
+        if (!record.layer) continue; // no duplicate was made
         const auto put = [&](AEGP_LayerStream stream, const AEGP_StreamValue& value, bool key) {
             write(plugin_id, record.layer, stream, value, key ? &record.time : nullptr);
         };

@@ -2,7 +2,6 @@
 
 #include "ADMLibrary/HostPointers.h"
 #include "common/adobe/AssistantDlg.h"
-#include "common/adobe/item_ids.h"
 
 #include <algorithm>
 #include <cstdint>
