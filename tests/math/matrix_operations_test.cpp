@@ -20,7 +20,7 @@ TEST(MatrixInverse, TimesTheMatrixIsTheIdentity) {
         try {
             const M3 inverse = m.Inversed();
             expect_near(m * inverse, M3::HI(), 1e-15 * size(m) * size(inverse));
-        } catch (const math::SingularMatrix3DException&) {
+        } catch (const SingularMatrix3DException&) {
             EXPECT_EQ(n % 2, 1) << "a full random matrix is never singular";
         }
     }
@@ -34,7 +34,7 @@ TEST(MatrixInverse, SingularOnesThrow) {
     const M3 table[] = {{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0},
                         {1, 2, 3, 4, 2, 4, 6, 8, 0, 1, 0, 0, 0, 0, 0, 1},
                         M3(NAN, 0, 0, 0, 0, NAN, 0, 0, 0, 0, NAN, 0, 0, 0, 0, NAN)};
-    for (M3 m : table) EXPECT_THROW(m.Inverse(), math::SingularMatrix3DException);
+    for (M3 m : table) EXPECT_THROW(m.Inverse(), SingularMatrix3DException);
     EXPECT_NO_THROW(M3::BuildScale(1, 2, 5e-324).Inversed()); // no pivot is exactly 0
 }
 

@@ -70,9 +70,9 @@ TEST(Matrix, GeneralProductDividesByTheProjectiveRow) {
     EXPECT_EQ(changed(3, 3, 2) * V3(2, 4, 8), V3(1, 2, 4));
     const M3 focus = changed(3, 0, -1);
     EXPECT_EQ(focus * V3(0.5, 1, 2), V3(1, 2, 4));
-    EXPECT_THROW(focus * V3(1, 5, 5), math::VectorInFocusException);
-    EXPECT_THROW(focus & V3(1, 5, 5), math::VectorInFocusException);
-    EXPECT_THROW(focus.X(), math::VectorInFocusException);
+    EXPECT_THROW(focus * V3(1, 5, 5), VectorInFocusException);
+    EXPECT_THROW(focus & V3(1, 5, 5), VectorInFocusException);
+    EXPECT_THROW(focus.X(), VectorInFocusException);
     const V3 zeros(-0.0, -0.0, -0.0); // the identity changes nothing at all
     EXPECT_TRUE(std::signbit((M3() * zeros).y));
 }
