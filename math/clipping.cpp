@@ -10,7 +10,7 @@ namespace math {
 namespace {
 
 using Point = TGeomVector2D<double>;
-using Buffer = std::array<Point, most_clipped_vertices>;
+using Buffer = std::array<Point, max_clipped_vertices>;
 
 constexpr double vertical = 1e-12; // a segment narrower than this has no slope
 
@@ -80,7 +80,7 @@ void clip_edge(const ClipRectangle& r, const Buffer& in, Buffer& out, int count,
 } // namespace
 
 bool polygon_clip(double a, double b, double c, double d, Point* vertices, int& count) {
-    if (count > most_vertices_to_clip || count < 0) return false;
+    if (count > max_vertices_to_clip || count < 0) return false;
     // A pass may make more vertices than the result has, so it does not use the caller's array.
     const ClipRectangle rectangle(a, b, c, d);
     Buffer here, there;

@@ -27,11 +27,11 @@ V HermitSpline(const V& p0, const V& p1, const V& t0, const V& t1, double s) {
 // [a, b]; the search always ends.
 template <typename Function>
 double Zeroin(double a, double b, Function&& f, double tol) {
-    constexpr int most_steps = 10000; // bisection alone needs some 2100 for all doubles
+    constexpr int max_steps = 10000; // bisection alone needs some 2100 for all doubles
     double fa = f(a);
     double fb = f(b);
     double c = a, fc = fa, d = b - a, e = d; // the root lies between b, the best so far, and c
-    for (int step = 0; step < most_steps; ++step) {
+    for (int step = 0; step < max_steps; ++step) {
         if (std::fabs(fc) < std::fabs(fb)) {
             a = b, b = c, c = a;
             fa = fb, fb = fc, fc = fa;

@@ -21,13 +21,13 @@ namespace math {
 
 // The most vertices that polygon_clip takes, and the most that it can make of them: a pass adds at
 // most one to every two.
-inline constexpr int most_vertices_to_clip = 19;
-inline constexpr int most_clipped_vertices = 94;
+inline constexpr int max_vertices_to_clip = 19;
+inline constexpr int max_clipped_vertices = 94;
 
 // Clips the polygon to the rectangle (Sutherland and Hodgman, Reentrant Polygon Clipping, 1974),
 // against y >= min, y <= max, x >= min and x <= max in turn; points on the boundary stay. The
 // vertices and their count are replaced: there must be room for the result, which for a convex
-// polygon has at most 4 vertices more, and never more than most_clipped_vertices. False when
+// polygon has at most 4 vertices more, and never more than max_clipped_vertices. False when
 // nothing is left (a count of 0), and, with nothing changed, for more than 19 vertices or a
 // negative count.
 bool polygon_clip(double a, double b, double c, double d, TGeomVector2D<double>* vertices,

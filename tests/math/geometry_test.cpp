@@ -26,7 +26,7 @@ std::vector<V3> star(Inputs& inputs, int n, const V3& center, const V3& u, const
 TEST(Clip, KeepsJustThePartInside) {
     Inputs inputs(1);
     for (int n = 0; n < 300; ++n) {
-        std::vector<V2> whole(math::most_clipped_vertices), part;
+        std::vector<V2> whole(math::max_clipped_vertices), part;
         int count = 0;
         for (const V3& v : star(inputs, inputs.whole(3, 19), {}, V3::Ex(), V3::Ey()))
             whole[count++] = {v.x, v.y};
@@ -51,7 +51,7 @@ TEST(Clip, KeepsJustThePartInside) {
     }
     // A comb, which each pass cuts into more pieces; one tooth too many; no vertices; a bad count.
     for (const auto& [count, left] : {std::pair{19, 37}, {20, 20}, {0, 0}, {-1, -1}}) {
-        std::vector<V2> comb(math::most_clipped_vertices);
+        std::vector<V2> comb(math::max_clipped_vertices);
         for (int i = 1; i < 20; ++i) comb[i] = {i * 1.0, i % 2 ? 9.0 : -9.0};
         int clipped = count;
         EXPECT_EQ(math::polygon_clip(-1, 0, 1, 18, comb.data(), clipped), count == 19);
