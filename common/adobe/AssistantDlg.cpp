@@ -97,11 +97,8 @@ bool AssistantDlg::is_on(int id) const {
 float AssistantDlg::number(int id) const {
     return sADMItem->GetFloatValue(item(id));
 }
-// Called at every idle call, and enabling asks the host for colours and redraws the item: an item
-// that is in the wanted state is left alone.
 void AssistantDlg::enable_item(int id, bool enable) {
-    _Opaque_ADMItem* const it = item(id);
-    if (sADMItem->IsEnabled(it) != enable) sADMItem->Enable(it, enable);
+    BaseDlg::enable_item(item(id), enable);
 }
 void AssistantDlg::set_on(int id, bool on) {
     sADMItem->SetBooleanValue(item(id), on);

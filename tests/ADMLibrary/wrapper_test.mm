@@ -39,7 +39,7 @@ struct WrapperTest : ToolkitTest {
 struct Picture : BaseADMImageItem {
     Picture(_Opaque_ADMItem* item, bool through_image)
         : BaseADMImageItem(item, nullptr), with_image(through_image) {}
-    bool UseImage() override { return with_image; }
+    bool UseImage() const override { return with_image; }
     void Draw(IADMDrawer drawer) override {
         image = adm::record(static_cast<_Opaque_ADMDrawer*>(drawer))->image;
         sADMDrawer->GetBoundsRect(drawer, &bounds);
