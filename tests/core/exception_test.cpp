@@ -1,4 +1,4 @@
-// The texts that exceptions carry, and what catches them.
+// The texts of exceptions, and the bases that catch them.
 
 #include "core/MathExceptions.h"
 

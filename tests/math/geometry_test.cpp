@@ -41,7 +41,7 @@ TEST(Clip, KeepsJustThePartInside) {
             EXPECT_LE(std::fabs(part[i].x - (b + d) / 2), std::fabs(b - d) / 2 + 1e-9);
             EXPECT_LE(std::fabs(part[i].y - (a + c) / 2), std::fabs(a - c) / 2 + 1e-9);
         }
-        // The area once more, by counting small cells of the rectangle.
+        // The area again, by counting small cells of the rectangle.
         int inside = 0;
         for (int i = 0; i < 10000; ++i)
             inside += math::PolygonContainsPoint(
@@ -217,7 +217,7 @@ TEST(Curves, ZeroinFindsTheRoot) {
 
 TEST(Fract, MovesTheHeightWithinItsBounds) {
     for (const double z : {-4.0, -0.5, 0.5, 3.0}) {
-        // Four equal heights have themselves as mean, whatever their weights.
+        // The mean of equal heights is that height, whatever the weights.
         const double h = z < 0 ? -2 : 2;
         const V3 q = math::Fract({0.2, 0.1, z}, {1, 0, 2}, {0, 1, -2}, {-1, 0, 2}, {0, -2, 2});
         EXPECT_LE(std::fabs(q.z - h), std::fabs(h - z) + 1e-12);

@@ -80,7 +80,7 @@ TEST(MatrixRelate, AnglesAndAxesRebuildTheRotation) {
         EXPECT_TRUE(0 <= angle && angle <= pi);
         axis = M3::getRotationAxis(b, angle);
         expect_near(M3::BuildRotate(axis, angle), b, 1e-7);
-        // At a pole the angles nearest to the reference come out.
+        // At a pole the result is the angles nearest to the reference.
         const V3 wanted(inputs.number(-9, 9), n % 2 ? pi / 2 : -pi / 2, inputs.number(-9, 9));
         expect_near(M3::BuildEuler(M3(), M3::BuildEuler(wanted), wanted), wanted, 1e-12);
         const V3 nearest = M3::BuildEuler(M3(), M3::BuildEuler(wanted));
@@ -119,7 +119,7 @@ TEST(MatrixCompare, UpToTheAccuracy) {
     EXPECT_EQ(M3::Accuracy(0), 1e-9);
     EXPECT_TRUE(near_one == M3());
     EXPECT_TRUE(M3::BuildScale(1 + 2e-9, 1, 1) != M3());
-    M3::Accuracy(5e-324); // as exact as at first
+    M3::Accuracy(5e-324); // exact again
 }
 
 TEST(PlaneMatrix, ActsOnRowVectors) {

@@ -30,7 +30,7 @@ TEST(Vector, NormalizeAndAngle) {
     EXPECT_EQ(-(V3(1, 2, 3) - 2.0 * V3(4, 5, 6) + V3(1, 1, 1) * 3 / 3), V3(6, 7, 8));
 }
 
-TEST(Matrix, FlagsTellWhatAMatrixIs) {
+TEST(Matrix, FlagsClassifyTheMatrix) {
     const std::pair<M3, int> table[] = {
         {M3::HI(), 3},
         {changed(3, 3, 2), 0},
