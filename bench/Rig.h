@@ -2,8 +2,8 @@
 
 #pragma once
 
+#include "minihost/dialog/DialogDriver.h"
 #include "minihost/suites/Host.h"
-#include "minihost/view/Screen.h"
 
 #include <memory>
 #include <string>

@@ -3,9 +3,9 @@
 
 #include "fuzz/Bytes.h"
 #include "minihost/actions/ActionFile.h"
+#include "minihost/dialog/PictureFile.h"
 #include "minihost/model/SceneReader.h"
-#include "minihost/view/PictureFile.h"
-#include "minihost/view/preview.h"
+#include "minihost/preview/Preview.h"
 
 #include <sstream>
 

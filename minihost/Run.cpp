@@ -4,7 +4,7 @@
 #include "minihost/actions/Progress.h"
 #include "minihost/model/OutputFile.h"
 #include "minihost/model/SceneReader.h"
-#include "minihost/window/Show.h"
+#include "minihost/window/MainWindow.h"
 
 #include <filesystem>
 #include <iostream>

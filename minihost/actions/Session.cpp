@@ -1,10 +1,10 @@
 #include "minihost/actions/Session.h"
 
+#include "minihost/dialog/PictureFile.h"
 #include "minihost/model/OutputFile.h"
 #include "minihost/model/SceneReader.h"
 #include "minihost/model/SceneWriter.h"
-#include "minihost/view/PictureFile.h"
-#include "minihost/view/preview.h"
+#include "minihost/preview/Preview.h"
 
 namespace minihost {
 

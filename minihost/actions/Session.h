@@ -4,9 +4,9 @@
 #pragma once
 
 #include "minihost/actions/ControlNames.h"
+#include "minihost/dialog/DialogDriver.h"
 #include "minihost/suites/Host.h"
 #include "minihost/suites/Module.h"
-#include "minihost/view/Screen.h"
 
 #include <iosfwd>
 #include <memory>

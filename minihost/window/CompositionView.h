@@ -10,7 +10,7 @@
 
 #pragma once
 
-#include "minihost/window/Workbench.h"
+#include "minihost/window/SceneEditor.h"
 
 #include <Cocoa/Cocoa.h>
 

@@ -1,8 +1,8 @@
 #include "minihost/window/CompositionView.h"
 
-#include "minihost/view/preview_paint.h"
-#include "minihost/window/Look.h"
+#include "minihost/preview/Painter.h"
 #include "minihost/window/Picking.h"
+#include "minihost/window/WindowStyle.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
 #include "minihost/window/DockedPanel.h"
 
-#include "minihost/view/AutoreleasePool.h"
-#include "minihost/view/Panel.h"
-#include "minihost/window/Desk.h"
+#include "minihost/dialog/AutoreleasePool.h"
+#include "minihost/dialog/Panel.h"
+#include "minihost/window/MainView.h"
 
 namespace minihost {
 

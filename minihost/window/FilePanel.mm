@@ -1,11 +1,11 @@
 #include "minihost/window/FilePanel.h"
 
+#include "minihost/dialog/AutoreleasePool.h"
+#include "minihost/dialog/Panel.h"
 #include "minihost/model/OutputFile.h"
-#include "minihost/view/AutoreleasePool.h"
-#include "minihost/view/Panel.h"
-#include "minihost/window/Look.h"
-#include "minihost/window/Questions.h"
-#include "minihost/window/RowList.h"
+#include "minihost/window/ListView.h"
+#include "minihost/window/Prompts.h"
+#include "minihost/window/WindowStyle.h"
 
 #include <algorithm>
 #include <filesystem>

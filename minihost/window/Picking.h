@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "minihost/view/preview_plan.h"
+#include "minihost/preview/DrawList.h"
 
 #include <vector>
 

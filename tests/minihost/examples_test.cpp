@@ -1,7 +1,7 @@
 // The example scenes: each can be read, and has something selected that can be arranged.
 
 #include "minihost/model/SceneReader.h"
-#include "minihost/view/preview.h"
+#include "minihost/preview/Preview.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,252 @@
+#include "minihost/dialog/Controls.h"
+
+#include "minihost/dialog/AutoreleasePool.h"
+
+#include <algorithm>
+#include <AppKit/NSDisplayStandIn.h>
+#include <charconv>
+#include <cmath>
+#include <Cocoa/Cocoa.h>
+#include <cstdlib>
+
+namespace minihost {
+
+namespace {
+
+enum class Kind { button, check, radio, edit, popup, text, box, slider, picture, none };
+
+constexpr const char* kind_names[] = {"button", "check box", "radio button", "edit",   "pop-up",
+                                      "text",   "box",       "slider",       "picture"};
+
+Kind kind_of(NSView* view) {
+    if ([view isKindOfClass:[NSPopUpButton class]]) return Kind::popup;
+    if ([view isKindOfClass:[NSButton class]]) {
+        NSButton* button = static_cast<NSButton*>(view);
+        switch (NSTypeOfButton(button)) {
+        case NSSwitchButton:
+            return Kind::check;
+        case NSRadioButton:
+            return Kind::radio;
+        // A button that says nothing shows something.
+        default:
+            return [[button title] length] ? Kind::button : Kind::picture;
+        }
+    }
+    if ([view isKindOfClass:[NSTextField class]])
+        return NSTextFieldIsLabel(static_cast<NSTextField*>(view)) ? Kind::text : Kind::edit;
+    if ([view isKindOfClass:[NSSlider class]]) return Kind::slider;
+    if ([view isKindOfClass:[NSBox class]]) return Kind::box;
+    return Kind::none;
+}
+
+std::string utf8(NSString* text) {
+    return text ? [text UTF8String] : "";
+}
+
+std::string text_of(NSView* view, Kind kind) {
+    switch (kind) {
+    case Kind::edit:
+    case Kind::text:
+        return utf8([static_cast<NSTextField*>(view) stringValue]);
+    case Kind::box:
+        return utf8([static_cast<NSBox*>(view) title]);
+    case Kind::popup:
+        return utf8([static_cast<NSPopUpButton*>(view) titleOfSelectedItem]);
+    case Kind::button:
+    case Kind::check:
+    case Kind::radio:
+        return utf8([static_cast<NSButton*>(view) title]);
+    default:
+        return "";
+    }
+}
+
+// The number that a text shows, if it is one from its first to its last character.
+decltype(Control::value) number_in(const std::string& text) {
+    const char* first = text.c_str();
+    char* end = nullptr;
+    const double number = std::strtod(first, &end);
+    if (end == first || *end != 0 || !std::isfinite(number)) return {};
+    return number;
+}
+
+std::vector<std::string> entries_of(NSPopUpButton* popup) {
+    std::vector<std::string> titles;
+    NSMenu* menu = [popup menu];
+    for (NSInteger i = 0; i < [menu numberOfItems]; ++i)
+        titles.push_back(utf8([[menu itemAtIndex:i] title]));
+    return titles;
+}
+
+Control control_of(NSView* view, Kind kind) {
+    Control control;
+    control.kind = kind_names[static_cast<int>(kind)];
+    control.text = text_of(view, kind);
+    if ([view isKindOfClass:[NSControl class]]) {
+        control.enabled = [static_cast<NSControl*>(view) isEnabled];
+        const NSInteger tag = [view tag];
+        if (tag > 0) control.id = static_cast<int>(tag);
+    }
+    switch (kind) {
+    case Kind::edit:
+        control.value = number_in(control.text);
+        break;
+    case Kind::check:
+    case Kind::radio:
+        control.value = [static_cast<NSButton*>(view) state] == NSOnState;
+        break;
+    case Kind::popup: {
+        NSPopUpButton* popup = static_cast<NSPopUpButton*>(view);
+        control.entries = entries_of(popup);
+        if ([popup indexOfSelectedItem] >= 0) control.value = control.text;
+        break;
+    }
+    default:
+        break;
+    }
+    const NSRect frame = [view frame];
+    control.top = NSMinY(frame);
+    control.left = NSMinX(frame);
+    control.bottom = NSMaxY(frame);
+    control.right = NSMaxX(frame);
+    return control;
+}
+
+void read_below(NSView* view, std::vector<Control>& controls) {
+    NSArray* subviews = [view subviews];
+    for (NSUInteger i = 0; i < [subviews count]; ++i) {
+        NSView* subview = [subviews objectAtIndex:i];
+        const Kind kind = kind_of(subview);
+        if (kind == Kind::none)
+            read_below(subview, controls);
+        else
+            controls.push_back(control_of(subview, kind)); // what is inside is its own affair
+    }
+}
+
+NSControl* find_control(NSView* view, int id) {
+    NSArray* subviews = [view subviews];
+    for (NSUInteger i = 0; i < [subviews count]; ++i) {
+        NSView* subview = [subviews objectAtIndex:i];
+        if (kind_of(subview) == Kind::none) {
+            if (NSControl* found = find_control(subview, id)) return found;
+        } else if ([subview isKindOfClass:[NSControl class]] && [subview tag] == id) {
+            return static_cast<NSControl*>(subview);
+        }
+    }
+    return nil;
+}
+
+NSControl* usable_control(NSView* root, int id, const std::string& name) {
+    if (!root) throw ControlError("control '" + name + "': no dialog is open");
+    NSControl* control = id > 0 ? find_control(root, id) : nil;
+    if (!control) throw ControlError("control '" + name + "' is not in the dialog");
+    if ([control isHiddenOrHasHiddenAncestor])
+        throw ControlError("control '" + name + "' is hidden");
+    if (![control isEnabled]) throw ControlError("control '" + name + "' is disabled");
+    return control;
+}
+
+void click(NSView* view) {
+    const NSRect bounds = [view bounds];
+    NSPostClick(view, NSMakePoint(NSMidX(bounds), NSMidY(bounds)));
+    NSDispatchEvents();
+}
+
+bool choice(const std::string& name, const std::string& value) {
+    if (value == "on") return true;
+    if (value == "off") return false;
+    throw ControlError("control '" + name + "' is set to on or off, not '" + value + "'");
+}
+
+void set_check(NSButton* button, const std::string& name, const std::string& value) {
+    const bool on = choice(name, value);
+    if (([button state] == NSOnState) != on) click(button);
+    if (([button state] == NSOnState) != on)
+        throw ControlError("control '" + name + "' did not go " + value);
+}
+
+void set_radio(NSButton* button, const std::string& name, const std::string& value) {
+    if (!choice(name, value))
+        throw ControlError("control '" + name +
+                           "' is a radio button: it goes off when another of its group is set on");
+    click(button);
+    if ([button state] != NSOnState) throw ControlError("control '" + name + "' did not go on");
+}
+
+// The whole text is replaced by what is typed, and Return ends the editing.
+void type_into(NSTextField* field, const std::string& name, const std::string& value) {
+    NSString* text = [NSString stringWithUTF8String:value.c_str()];
+    if (!text) throw ControlError("control '" + name + "': the text is not valid UTF-8");
+    for (const char c : value)
+        if (static_cast<unsigned char>(c) < 0x20 || c == 0x7f)
+            throw ControlError("control '" + name + "' takes one line of text");
+    click(field);
+    NSPostKey('a', NSCommandKeyMask);
+    if ([text length])
+        NSPostText(text);
+    else
+        NSPostKey(NSDeleteCharacter);
+    NSPostKey(NSCarriageReturnCharacter);
+    NSDispatchEvents();
+}
+
+std::size_t entry_index(const std::vector<std::string>& entries, const std::string& name,
+                        const std::string& value) {
+    const auto titled = std::find(entries.begin(), entries.end(), value);
+    if (titled != entries.end()) return titled - entries.begin();
+    std::size_t index = entries.size();
+    if (value.size() > 1 && value[0] == '#') {
+        const char* last = value.data() + value.size();
+        const auto [end, error] = std::from_chars(value.data() + 1, last, index);
+        if (error != std::errc() || end != last) index = entries.size();
+    }
+    if (index < entries.size()) return index;
+    throw ControlError("pop-up '" + name + "' has no entry '" + value + "'");
+}
+
+// Opens the list, walks to the entry with the arrow keys, and takes it.
+void pick(NSPopUpButton* popup, const std::string& name, const std::string& value) {
+    const auto wanted = static_cast<NSInteger>(entry_index(entries_of(popup), name, value));
+    const NSRect bounds = [popup bounds];
+    NSPostClick(popup, NSMakePoint(NSMidX(bounds), NSMidY(bounds)));
+    NSPostKey(NSHomeFunctionKey);
+    for (NSInteger i = 0; i < wanted; ++i) NSPostKey(NSDownArrowFunctionKey);
+    NSPostKey(NSCarriageReturnCharacter);
+    NSDispatchEvents();
+    if ([popup indexOfSelectedItem] != wanted)
+        throw ControlError("pop-up '" + name + "' did not take the entry '" + value + "'");
+}
+
+} // namespace
+
+std::vector<Control> read_controls(NSView* root) {
+    const AutoreleasePool pool;
+    std::vector<Control> controls;
+    if (root) read_below(root, controls);
+    return controls;
+}
+
+void set_control(NSView* root, int id, const std::string& name, const std::string& value) {
+    const AutoreleasePool pool;
+    NSControl* control = usable_control(root, id, name);
+    switch (kind_of(control)) {
+    case Kind::check:
+        return set_check(static_cast<NSButton*>(control), name, value);
+    case Kind::radio:
+        return set_radio(static_cast<NSButton*>(control), name, value);
+    case Kind::edit:
+        return type_into(static_cast<NSTextField*>(control), name, value);
+    case Kind::popup:
+        return pick(static_cast<NSPopUpButton*>(control), name, value);
+    default:
+        throw ControlError("control '" + name + "' has no value that could be set");
+    }
+}
+
+void click_control(NSView* root, int id, const std::string& name) {
+    const AutoreleasePool pool;
+    click(usable_control(root, id, name));
+}
+
+} // namespace minihost

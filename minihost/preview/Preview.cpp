@@ -1,0 +1,43 @@
+// From scene to file.
+
+#include "minihost/preview/Preview.h"
+
+#include "minihost/model/OutputFile.h"
+#include "minihost/preview/Painter.h"
+
+#include <memory>
+#include <stdexcept>
+
+namespace minihost {
+
+namespace {
+
+PreviewFormat format_of(const std::string& path) {
+    const std::string extension = extension_of(path);
+    if (extension == ".png") return PreviewFormat::png;
+    if (extension == ".svg") return PreviewFormat::svg;
+    throw std::runtime_error(
+        path + ": a preview is written as .png or .svg, " +
+        (extension.empty() ? "and this name has no extension" : "not as " + extension));
+}
+
+} // namespace
+
+std::string encode_preview(const Scene& scene, PreviewFormat format, double scale) {
+    if (!(scale >= least_preview_scale && scale <= greatest_preview_scale)) {
+        throw std::runtime_error("the scale of a picture is a number from 0.1 to 16");
+    }
+    const preview::Plan plan = preview::make_plan(scene, scale);
+    const std::unique_ptr<preview::Canvas> canvas =
+        format == PreviewFormat::png ? preview::png_canvas(plan.width, plan.height)
+                                     : preview::svg_canvas(plan.width, plan.height, plan.caption);
+    preview::paint(*canvas, plan);
+    return canvas->encode();
+}
+
+void render_preview(const Scene& scene, const std::string& path, double scale) {
+    const PreviewFormat format = format_of(path);
+    write_file(path, encode_preview(scene, format, scale));
+}
+
+} // namespace minihost

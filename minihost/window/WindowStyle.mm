@@ -1,0 +1,96 @@
+#include "minihost/window/WindowStyle.h"
+
+#include "minihost/preview/Canvas.h"
+
+#include <cmath>
+
+namespace minihost::look {
+
+namespace {
+
+Palette palette_in_use = Palette::Dark;
+
+struct Row {
+    Part part;
+    unsigned dark, light; // 0xRRGGBB
+};
+constexpr Row rows[] = {
+    {Part::Panel, 0x353535, 0xd2d2d2},        {Part::Header, 0x2b2b2b, 0xc2c2c2},
+    {Part::HeaderText, 0xc8c8c8, 0x303030},   {Part::List, 0x262626, 0xf2f2f2},
+    {Part::Stripe, 0x2a2a2a, 0xeaeaea},       {Part::Text, 0xdcdcdc, 0x1c1c1c},
+    {Part::DimText, 0x909090, 0x6a6a6a},      {Part::Line, 0x161616, 0x9c9c9c},
+    {Part::Selected, 0x2f62a6, 0x2f6fc4},     {Part::SelectedIdle, 0x45505e, 0xb9c8dc},
+    {Part::SelectedText, 0xffffff, 0xffffff}, {Part::Highlight, 0x5cb8ff, 0x5cb8ff},
+};
+
+NSDictionary* attributes(NSFont* font, NSColor* color) {
+    return [NSDictionary dictionaryWithObjectsAndKeys:font, NSFontAttributeName, color,
+                                                      NSForegroundColorAttributeName, nil];
+}
+
+// The longest beginning that fits together with the ellipsis.
+NSString* cut(NSString* text, NSDictionary* look, double room) {
+    NSUInteger low = 0, high = [text length];
+    NSString* ellipsis = @"…";
+    while (low < high) {
+        const NSUInteger middle = (low + high + 1) / 2;
+        NSString* part = [[text substringToIndex:middle] stringByAppendingString:ellipsis];
+        if ([part sizeWithAttributes:look].width <= room)
+            low = middle;
+        else
+            high = middle - 1;
+    }
+    // Not between the halves of a character.
+    if (low > 0 && ([text characterAtIndex:low - 1] & 0xfc00) == 0xd800) --low;
+    return [[text substringToIndex:low] stringByAppendingString:ellipsis];
+}
+
+} // namespace
+
+void use(Palette palette) {
+    palette_in_use = palette;
+}
+
+NSColor* color(Part part) {
+    unsigned hex = 0;
+    for (const Row& row : rows)
+        if (row.part == part) hex = palette_in_use == Palette::Dark ? row.dark : row.light;
+    return [NSColor colorWithDeviceRed:(hex >> 16) / 255.0
+                                 green:(hex >> 8 & 255) / 255.0
+                                  blue:(hex & 255) / 255.0
+                                 alpha:1];
+}
+
+void fill(NSRect rect, Part part) {
+    [color(part) setFill];
+    NSRectFill(rect);
+}
+
+NSFont* font() {
+    return [NSFont systemFontOfSize:12];
+}
+
+NSString* string(const std::string& utf8) {
+    NSString* text = [NSString stringWithUTF8String:preview::plain_text(utf8).c_str()];
+    return text ? text : @"";
+}
+
+void draw_text(const std::string& utf8, NSRect rect, NSColor* color, int alignment) {
+    constexpr std::size_t most = 1000; // bytes; no line of a window shows more
+    NSString* text = string(utf8.size() > most ? utf8.substr(0, most) : utf8);
+    if ([text length] == 0 || rect.size.width < 8) return;
+    NSDictionary* look = attributes(font(), color);
+    NSSize size = [text sizeWithAttributes:look];
+    if (size.width > rect.size.width) {
+        text = cut(text, look, rect.size.width);
+        size = [text sizeWithAttributes:look];
+        alignment = 0;
+    }
+    const double room = rect.size.width - size.width;
+    const double x = alignment == 1 ? room : alignment == 2 ? std::floor(room / 2) : 0;
+    [text drawAtPoint:NSMakePoint(NSMinX(rect) + x,
+                                  NSMinY(rect) + (rect.size.height - size.height) / 2)
+        withAttributes:look];
+}
+
+} // namespace minihost::look

@@ -1,0 +1,229 @@
+// The window without a window: where its parts are, what is seen from where, what a click and a
+// rubber band find, what the commands do to file and selection.
+
+#include "minihost/model/OutputFile.h"
+#include "minihost/model/SceneReader.h"
+#include "minihost/window/Picking.h"
+#include "minihost/window/SceneEditor.h"
+#include "minihost/window/WindowLayout.h"
+#include "tests/minihost/support/files.h"
+
+#include <cmath>
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <sstream>
+
+namespace minihost {
+namespace {
+
+namespace fs = std::filesystem;
+using preview::Point;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// A wall of two cards 200 to the right and left of the middle, a card hidden behind the left one, a
+// 2D layer, and a camera that looks from above.
+const char* const wall = R"({"format": "minihost scene 1",
+  "composition": {"name": "C", "width": 1000, "height": 600},
+  "layers": [
+    {"name": "Cam", "kind": "camera",
+     "transform": {"point_of_interest": [500, 300, 0], "position": [500, -200, -1000]}},
+    {"name": "Left", "kind": "solid", "three_d": true, "source": {"width": 100, "height": 100},
+     "transform": {"position": [300, 300, 0], "anchor_point": [50, 50, 0]}},
+    {"name": "Right", "kind": "solid", "three_d": true, "source": {"width": 100, "height": 100},
+     "transform": {"position": [700, 300, 100], "anchor_point": [50, 50, 0]}},
+    {"name": "Behind", "kind": "solid", "three_d": true, "source": {"width": 20, "height": 20},
+     "transform": {"position": [300, 300, 50], "anchor_point": [10, 10, 0]}},
+    {"name": "Flat", "kind": "solid", "source": {"width": 50, "height": 50},
+     "transform": {"position": [500, 100, 0], "anchor_point": [25, 25, 0]}}],
+  "selection": [1]})";
+
+TEST(WindowLayout, FitsItsPartsTogetherAtAnySize) {
+    for (const double width : {900.0, 901.0, 1280.0, 3000.0})
+        for (const double height : {576.0, 777.0, 1500.0})
+            for (const Docked& docked : {Docked{}, Docked{499, 448}}) {
+                const Layout at = lay_out(width, height, docked);
+                EXPECT_EQ(at.status.y + at.status.height, height);
+                EXPECT_EQ(at.status.width, width);
+                EXPECT_EQ(at.list.y + at.list.height, at.status.y);
+                EXPECT_LT(at.view.y + at.view.height, at.list.y);
+                EXPECT_GE(at.view.height, 300);
+                EXPECT_EQ(std::fmod(at.list.height - header_height, row_height), 0) << "whole rows";
+                EXPECT_EQ(at.view.width, at.list.width);
+                EXPECT_EQ(std::fmod(at.panel.x, 2), 0) << "a whole pixel at one and a half a point";
+                EXPECT_EQ(at.dock.width > 0, docked.width > 0);
+                if (docked.width == 0) continue;
+                EXPECT_GE(at.dock.width, docked.width);
+                EXPECT_GE(at.dock.height, docked.height);
+                EXPECT_LT(at.view.width, at.dock.x);
+            }
+}
+
+class Window : public testing::Test {
+  protected:
+    Window()
+        : session(parse_scene(wall, "test"), {}, make_blind_screen(), out,
+                  [](const std::string&) {}),
+          bench(session, folder / "test.json") {
+        write_file(bench.path(), wall);
+    }
+
+    preview::Plan plan(ViewKind kind) {
+        bench.view.choose(kind);
+        return preview::make_plan(bench.scene(), bench.view.framing(bench.scene(), 800, 500, 2));
+    }
+    // A point of the composition's space as it is seen.
+    static Point seen(const preview::Plan& plan, const preview::Vector& world) {
+        return plan.lens.project(plan.lens.view(world));
+    }
+    std::string name(LayerId id) { return id ? bench.scene().find(id)->name : "-"; }
+    std::vector<std::string> names(const std::vector<LayerId>& layers) {
+        std::vector<std::string> all;
+        for (const LayerId id : layers) all.push_back(name(id));
+        return all;
+    }
+    LayerId layer(std::size_t row) { return bench.scene().layer_at(row).id; }
+
+    TemporaryFolder temporary;
+    const fs::path& folder = temporary.path;
+    std::ostringstream out;
+    Session session;
+    Workbench bench;
+};
+
+TEST_F(Window, SidesShowTheAxesThatTheyAreNamedFor) {
+    const struct {
+        ViewKind kind;
+        preview::Vector right, up, nowhere; // a step in the world, and which way it is seen
+    } cases[] = {{ViewKind::Front, {100, 0, 0}, {0, -100, 0}, {0, 0, 100}},
+                 {ViewKind::Top, {100, 0, 0}, {0, 0, 100}, {0, 100, 0}},
+                 {ViewKind::Left, {0, 0, -100}, {0, -100, 0}, {100, 0, 0}}};
+    for (const auto& it : cases) {
+        const preview::Plan seen_so = plan(it.kind);
+        const preview::Vector middle{500, 300, 0};
+        const Point start = seen(seen_so, middle);
+        EXPECT_NEAR(start.x, 800, 1e-6); // the middle of 800 by 500 points of 2 pixels
+        EXPECT_NEAR(start.y, 500, 1e-6);
+        const double step = 100 * bench.view.magnification(bench.scene(), 800, 500) * 2;
+        const Point right = seen(seen_so, middle + it.right), up = seen(seen_so, middle + it.up);
+        EXPECT_NEAR(right.x - start.x, step, 0.01);
+        EXPECT_NEAR(right.y - start.y, 0, 0.01);
+        EXPECT_NEAR(start.y - up.y, step, 0.01);
+        const Point nowhere = seen(seen_so, middle + it.nowhere);
+        EXPECT_NEAR(nowhere.x, start.x, 0.01);
+        EXPECT_NEAR(nowhere.y, start.y, 0.01);
+    }
+}
+
+TEST_F(Window, ViewsAreZoomedMovedAndTurnedEachForItself) {
+    preview::Plan before = plan(ViewKind::Front);
+    const preview::Vector corner{0, 0, 0};
+    const Point fixed = seen(before, corner);
+    bench.view.zoom(3, {fixed.x / 2 - 400, fixed.y / 2 - 250});
+    EXPECT_NEAR(seen(plan(ViewKind::Front), corner).x, fixed.x, 1e-6);
+    EXPECT_NEAR(seen(plan(ViewKind::Front), corner).y, fixed.y, 1e-6);
+    bench.view.pan(10, -5);
+    EXPECT_NEAR(seen(plan(ViewKind::Front), corner).x, fixed.x + 20, 1e-6);
+    EXPECT_NEAR(seen(plan(ViewKind::Front), corner).y, fixed.y - 10, 1e-6);
+    EXPECT_NEAR(seen(plan(ViewKind::Top), {500, 300, 0}).x, 800, 1e-6) << "as it was";
+    bench.view.choose(ViewKind::Front);
+    bench.view.reset();
+    EXPECT_NEAR(seen(plan(ViewKind::Front), corner).x, fixed.x, 1e-6);
+
+    // From above and in front the farther card is seen higher; half a turn on, it is the nearer.
+    preview::Plan custom = plan(ViewKind::Custom);
+    const auto higher = [&] {
+        return seen(custom, {500, 300, 300}).y < seen(custom, {500, 300, -300}).y;
+    };
+    EXPECT_TRUE(higher());
+    bench.view.orbit(180, 0);
+    custom = plan(ViewKind::Custom);
+    EXPECT_FALSE(higher());
+    bench.view.orbit(0, 1000);
+    custom = plan(ViewKind::Custom);
+    EXPECT_NEAR(custom.lens.body.z.y, 1, 0.001) << "at most from right above";
+}
+
+TEST_F(Window, AClickFindsWhatIsSeenAndABandWhatItTouches) {
+    const preview::Plan front = plan(ViewKind::Front);
+    const auto at = [&](double x, double y) {
+        return name(layer_at(front, seen(front, {x, y, 0})));
+    };
+    EXPECT_EQ(at(300, 300), "Left") << "not what is behind it";
+    EXPECT_EQ(at(345, 255), "Left");
+    EXPECT_EQ(at(355, 300), "-");
+    EXPECT_EQ(at(500, 100), "Flat");
+    EXPECT_EQ(at(500, -200), "Cam");
+    const auto band = [&](double x0, double y0, double x1, double y1) {
+        return names(layers_touched(front, seen(front, {x0, y0, 0}), seen(front, {x1, y1, 0})));
+    };
+    EXPECT_THAT(band(700, 340, 320, 330), ElementsAre("Left", "Right"));
+    EXPECT_THAT(band(280, 280, 305, 305), ElementsAre("Left", "Behind"));
+    EXPECT_THAT(band(360, 200, 640, 400), IsEmpty());
+    EXPECT_THAT(band(-900, -900, 1900, 1500),
+                ElementsAre("Cam", "Left", "Right", "Behind", "Flat"));
+    // From above the cards are edges, which are not easily hit and found by a band even so.
+    const preview::Plan top = plan(ViewKind::Top);
+    EXPECT_EQ(name(layer_at(top, seen(top, {260, 300, 5}))), "Left");
+    EXPECT_EQ(name(layer_at(top, seen(top, {260, 300, 30}))), "-");
+    EXPECT_THAT(names(layers_touched(top, seen(top, {200, 0, -20}), seen(top, {400, 0, 60}))),
+                ElementsAre("Left", "Behind"));
+    const preview::Plan camera = plan(ViewKind::Camera);
+    EXPECT_EQ(name(layer_at(camera, seen(camera, {700, 300, 100}))), "Right");
+    EXPECT_EQ(name(layer_at(camera, seen(camera, {500, -200, -1000.1}))), "-")
+        << "the camera itself";
+}
+
+TEST_F(Window, SelectsAsClicksDo) {
+    const auto selection = [&] { return names(bench.scene().selection()); };
+    bench.toggle(layer(3));
+    EXPECT_THAT(selection(), ElementsAre("Left", "Behind"));
+    bench.toggle(layer(1));
+    EXPECT_THAT(selection(), ElementsAre("Behind"));
+    const Selection kept = bench.scene().selection();
+    bench.select_rows(4, 2, kept);
+    EXPECT_THAT(selection(), ElementsAre("Behind", "Right", "Flat"));
+    EXPECT_TRUE(bench.is_selected(layer(4)));
+    const auto look = bench.look();
+    bench.select_rows(2, 4, kept);
+    EXPECT_EQ(bench.look(), look) << "nothing to draw where nothing changes";
+    bench.select_only(layer(0));
+    EXPECT_NE(bench.look(), look);
+    EXPECT_THAT(selection(), ElementsAre("Cam"));
+    EXPECT_FALSE(bench.is_selected(layer(4)));
+    EXPECT_THAT(bench.status(), testing::HasSubstr("5 layers, 1 selected"));
+    bench.deselect();
+    EXPECT_THAT(selection(), IsEmpty());
+    EXPECT_FALSE(bench.has_changes()) << "selecting is nothing to save";
+}
+
+TEST_F(Window, KnowsWhatIsNotSavedAndKeepsItWhenAFileFails) {
+    EXPECT_EQ(bench.title(), "test.json");
+    EXPECT_EQ(bench.undo_title(), "Undo");
+    session.host().document.rename_layer(layer(1), "Other");
+    EXPECT_EQ(bench.title(), "test.json (edited)");
+    EXPECT_EQ(bench.undo_title(), "Undo Rename Layer");
+    bench.perform("undo");
+    EXPECT_FALSE(bench.has_changes());
+    EXPECT_FALSE(bench.can_undo());
+    EXPECT_EQ(bench.redo_title(), "Redo Rename Layer");
+    bench.perform("redo");
+    EXPECT_THROW(bench.save(folder / "none" / "x.json"), ActionError);
+    EXPECT_THROW(bench.open(folder / "none.json"), ActionError);
+    write_file(folder / "broken.json", "{");
+    EXPECT_THROW(bench.open(folder / "broken.json"), ActionError);
+    EXPECT_TRUE(bench.has_changes());
+    EXPECT_EQ(bench.file_name(), "test.json");
+    EXPECT_EQ(name(layer(1)), "Other");
+    bench.save(folder / "other.json");
+    EXPECT_EQ(bench.title(), "other.json");
+    EXPECT_EQ(read_scene(folder / "other.json").layer_at(1).name, "Other");
+    const auto look = bench.look();
+    bench.open(folder / "test.json");
+    EXPECT_EQ(bench.title(), "test.json");
+    EXPECT_EQ(name(layer(1)), "Left");
+    EXPECT_NE(bench.look().revision, look.revision);
+}
+
+} // namespace
+} // namespace minihost
