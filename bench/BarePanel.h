@@ -4,7 +4,7 @@
 #pragma once
 
 #include "minihost/dialog/Controls.h"
-#include "minihost/dialog/Panel.h"
+#include "minihost/dialog/Picture.h"
 
 #include <vector>
 

@@ -3,7 +3,7 @@
 
 #include "fuzz/Bytes.h"
 #include "minihost/actions/ActionFile.h"
-#include "minihost/dialog/PictureFile.h"
+#include "minihost/dialog/Picture.h"
 #include "minihost/model/SceneReader.h"
 #include "minihost/preview/Preview.h"
 
@@ -16,7 +16,7 @@ namespace minihost {
 std::string encode_png(const Picture&) {
     return {};
 }
-void render_preview(const Scene&, const std::string&, double) {}
+void write_preview(const Scene&, const std::string&, double) {}
 } // namespace minihost
 
 namespace {
@@ -32,7 +32,7 @@ void carry_out(const std::vector<Step>& steps) {
                         {"name": "A", "kind": "shape", "three_d": true},
                         {"name": "B C", "kind": "camera"}], "selection": [0]})",
                                 "small"),
-                    {}, make_blind_screen(), out, [](const std::string&) {});
+                    {}, make_null_dialog_driver(), out, [](const std::string&) {});
     for (const Step& step : steps) {
         if (writes_files(step)) continue;
         try {

@@ -1,18 +1,20 @@
-// The autorelease pool of one call into the plug-in or the toolkit of views, for C++ sources.
+// The autorelease pool of one C++ scope.
 
 #pragma once
+
+#include <Cocoa/Cocoa.h>
 
 namespace minihost {
 
 class AutoreleasePool {
   public:
-    AutoreleasePool();
-    ~AutoreleasePool();
+    AutoreleasePool() : _pool([[NSAutoreleasePool alloc] init]) {}
+    ~AutoreleasePool() { [_pool drain]; }
     AutoreleasePool(const AutoreleasePool&) = delete;
     AutoreleasePool& operator=(const AutoreleasePool&) = delete;
 
   private:
-    void* _pool;
+    NSAutoreleasePool* _pool;
 };
 
 } // namespace minihost

@@ -1,58 +1,51 @@
 #include "minihost/dialog/AutoreleasePool.h"
 #include "minihost/dialog/DialogDriver.h"
+#include "minihost/dialog/HostWindows.h"
+#include "minihost/dialog/PanelWindow.h"
 
 #include <AppKit/NSDisplayStandIn.h>
-#include <Cocoa/Cocoa.h>
 
 namespace minihost {
 
 namespace {
 
-// Until the plug-in tells which size it likes.
-constexpr double usual_width = 320, usual_height = 480;
-
-class CocoaPanel : public PanelView {
+class CocoaDialogDriver : public DialogDriver {
   public:
-    NSView* container() const override { return _panel.container(); }
-    void resize(double width, double height) override { _panel.resize(width, height); }
-    void set_title(const std::string& utf8) override { _panel.set_title(utf8); }
-    std::string title() const override { return _panel.title(); }
-    void show(bool visible) override { _panel.show(visible); }
-    bool is_visible() const override { return _panel.is_visible(); }
+    explicit CocoaDialogDriver(PanelMaker make_panel) : _make_panel(std::move(make_panel)) {}
 
-  private:
-    Panel _panel{usual_width, usual_height};
-};
+    std::unique_ptr<PanelView> make_panel() override { return _make_panel(); }
 
-class CocoaScreen : public Screen {
-  public:
-    explicit CocoaScreen(PanelMaker make_panel) : _make_panel(std::move(make_panel)) {}
-
-    std::unique_ptr<PanelView> make_panel() override {
-        return _make_panel ? _make_panel() : std::make_unique<CocoaPanel>();
+    bool has_floating_dialog() const override {
+        const AutoreleasePool pool;
+        return floating_dialog() != nil;
     }
-
-    bool has_window() const override { return floating_dialog() != nil; }
-    bool window_is_visible() const override { return floating_dialog_is_visible(); }
-    std::string window_title() const override { return floating_dialog_title(); }
+    bool floating_dialog_is_visible() const override {
+        const AutoreleasePool pool;
+        return [floating_dialog() isVisible];
+    }
+    std::string floating_dialog_title() const override {
+        const AutoreleasePool pool;
+        NSString* title = [floating_dialog() title];
+        return title ? [title UTF8String] : "";
+    }
 
     std::vector<Control> controls(const PanelView* panel) override {
-        return read_controls(root(panel));
+        return read_controls(content(panel));
     }
     Picture picture(const PanelView* panel, double scale) override {
-        return render(root(panel), scale);
+        return render_view(content(panel), scale);
     }
     void set(const PanelView* panel, int id, const std::string& name,
              const std::string& value) override {
-        set_control(root(panel), id, name, value);
+        set_control(content(panel), id, name, value);
     }
     void click(const PanelView* panel, int id, const std::string& name) override {
-        click_control(root(panel), id, name);
+        click_control(content(panel), id, name);
     }
     void post(const PanelView* panel, const RawEvent& event) override {
-        _hands.post(root(panel), event);
+        _events.post(content(panel), event);
     }
-    void settle() override { _hands.settle(); }
+    void settle() override { _events.settle(); }
 
     void answer_next_alert(int button) override {
         NSSetNextAlertAnswer(static_cast<NSUInteger>(button));
@@ -71,26 +64,28 @@ class CocoaScreen : public Screen {
     }
 
   private:
-    static NSView* root(const PanelView* panel) {
-        return panel ? panel->container() : floating_dialog();
+    static NSView* content(const PanelView* panel) {
+        const AutoreleasePool pool;
+        return panel ? panel->container() : [floating_dialog() contentView];
     }
 
-    Hands _hands;
     PanelMaker _make_panel;
+    EventPoster _events;
 };
 
 } // namespace
+
+std::unique_ptr<DialogDriver> make_dialog_driver(PanelMaker make_panel) {
+    return std::make_unique<CocoaDialogDriver>(make_panel ? std::move(make_panel)
+                                                          : make_panel_window);
+}
 
 void load_fonts() {
     const AutoreleasePool pool;
     NSTextField* field = [[NSTextField alloc] initWithFrame:NSMakeRect(0, 0, 20, 20)];
     [field setStringValue:@"A"];
-    render(field, 1);
+    render_view(field, 1);
     [field release];
-}
-
-std::unique_ptr<Screen> make_screen(PanelMaker make_panel) {
-    return std::make_unique<CocoaScreen>(std::move(make_panel));
 }
 
 } // namespace minihost

@@ -13,30 +13,31 @@ namespace minihost {
 
 namespace {
 
-enum class Kind { button, check, radio, edit, popup, text, box, slider, picture, none };
+enum class Kind { Button, CheckBox, RadioButton, Edit, PopUp, Text, Box, Slider, Picture, None };
 
 constexpr const char* kind_names[] = {"button", "check box", "radio button", "edit",   "pop-up",
                                       "text",   "box",       "slider",       "picture"};
 
+// None for a view that is no control, whose subviews may be some.
 Kind kind_of(NSView* view) {
-    if ([view isKindOfClass:[NSPopUpButton class]]) return Kind::popup;
+    if ([view isKindOfClass:[NSPopUpButton class]]) return Kind::PopUp;
     if ([view isKindOfClass:[NSButton class]]) {
         NSButton* button = static_cast<NSButton*>(view);
         switch (NSTypeOfButton(button)) {
         case NSSwitchButton:
-            return Kind::check;
+            return Kind::CheckBox;
         case NSRadioButton:
-            return Kind::radio;
-        // A button that says nothing shows something.
+            return Kind::RadioButton;
+        // A button without a title shows a picture.
         default:
-            return [[button title] length] ? Kind::button : Kind::picture;
+            return [[button title] length] ? Kind::Button : Kind::Picture;
         }
     }
     if ([view isKindOfClass:[NSTextField class]])
-        return NSTextFieldIsLabel(static_cast<NSTextField*>(view)) ? Kind::text : Kind::edit;
-    if ([view isKindOfClass:[NSSlider class]]) return Kind::slider;
-    if ([view isKindOfClass:[NSBox class]]) return Kind::box;
-    return Kind::none;
+        return NSTextFieldIsLabel(static_cast<NSTextField*>(view)) ? Kind::Text : Kind::Edit;
+    if ([view isKindOfClass:[NSSlider class]]) return Kind::Slider;
+    if ([view isKindOfClass:[NSBox class]]) return Kind::Box;
+    return Kind::None;
 }
 
 std::string utf8(NSString* text) {
@@ -45,23 +46,23 @@ std::string utf8(NSString* text) {
 
 std::string text_of(NSView* view, Kind kind) {
     switch (kind) {
-    case Kind::edit:
-    case Kind::text:
+    case Kind::Edit:
+    case Kind::Text:
         return utf8([static_cast<NSTextField*>(view) stringValue]);
-    case Kind::box:
+    case Kind::Box:
         return utf8([static_cast<NSBox*>(view) title]);
-    case Kind::popup:
+    case Kind::PopUp:
         return utf8([static_cast<NSPopUpButton*>(view) titleOfSelectedItem]);
-    case Kind::button:
-    case Kind::check:
-    case Kind::radio:
+    case Kind::Button:
+    case Kind::CheckBox:
+    case Kind::RadioButton:
         return utf8([static_cast<NSButton*>(view) title]);
     default:
         return "";
     }
 }
 
-// The number that a text shows, if it is one from its first to its last character.
+// The number that a text consists of, if it is one.
 decltype(Control::value) number_in(const std::string& text) {
     const char* first = text.c_str();
     char* end = nullptr;
@@ -88,14 +89,14 @@ Control control_of(NSView* view, Kind kind) {
         if (tag > 0) control.id = static_cast<int>(tag);
     }
     switch (kind) {
-    case Kind::edit:
+    case Kind::Edit:
         control.value = number_in(control.text);
         break;
-    case Kind::check:
-    case Kind::radio:
+    case Kind::CheckBox:
+    case Kind::RadioButton:
         control.value = [static_cast<NSButton*>(view) state] == NSOnState;
         break;
-    case Kind::popup: {
+    case Kind::PopUp: {
         NSPopUpButton* popup = static_cast<NSPopUpButton*>(view);
         control.entries = entries_of(popup);
         if ([popup indexOfSelectedItem] >= 0) control.value = control.text;
@@ -117,10 +118,10 @@ void read_below(NSView* view, std::vector<Control>& controls) {
     for (NSUInteger i = 0; i < [subviews count]; ++i) {
         NSView* subview = [subviews objectAtIndex:i];
         const Kind kind = kind_of(subview);
-        if (kind == Kind::none)
+        if (kind == Kind::None)
             read_below(subview, controls);
         else
-            controls.push_back(control_of(subview, kind)); // what is inside is its own affair
+            controls.push_back(control_of(subview, kind)); // its own subviews are its business
     }
 }
 
@@ -128,7 +129,7 @@ NSControl* find_control(NSView* view, int id) {
     NSArray* subviews = [view subviews];
     for (NSUInteger i = 0; i < [subviews count]; ++i) {
         NSView* subview = [subviews objectAtIndex:i];
-        if (kind_of(subview) == Kind::none) {
+        if (kind_of(subview) == Kind::None) {
             if (NSControl* found = find_control(subview, id)) return found;
         } else if ([subview isKindOfClass:[NSControl class]] && [subview tag] == id) {
             return static_cast<NSControl*>(subview);
@@ -174,7 +175,7 @@ void set_radio(NSButton* button, const std::string& name, const std::string& val
     if ([button state] != NSOnState) throw ControlError("control '" + name + "' did not go on");
 }
 
-// The whole text is replaced by what is typed, and Return ends the editing.
+// Replaces the whole text by typing, and ends editing with Return.
 void type_into(NSTextField* field, const std::string& name, const std::string& value) {
     NSString* text = [NSString stringWithUTF8String:value.c_str()];
     if (!text) throw ControlError("control '" + name + "': the text is not valid UTF-8");
@@ -205,7 +206,7 @@ std::size_t entry_index(const std::vector<std::string>& entries, const std::stri
     throw ControlError("pop-up '" + name + "' has no entry '" + value + "'");
 }
 
-// Opens the list, walks to the entry with the arrow keys, and takes it.
+// Opens the list, moves to the entry with the arrow keys, and chooses it.
 void pick(NSPopUpButton* popup, const std::string& name, const std::string& value) {
     const auto wanted = static_cast<NSInteger>(entry_index(entries_of(popup), name, value));
     const NSRect bounds = [popup bounds];
@@ -231,13 +232,13 @@ void set_control(NSView* root, int id, const std::string& name, const std::strin
     const AutoreleasePool pool;
     NSControl* control = usable_control(root, id, name);
     switch (kind_of(control)) {
-    case Kind::check:
+    case Kind::CheckBox:
         return set_check(static_cast<NSButton*>(control), name, value);
-    case Kind::radio:
+    case Kind::RadioButton:
         return set_radio(static_cast<NSButton*>(control), name, value);
-    case Kind::edit:
+    case Kind::Edit:
         return type_into(static_cast<NSTextField*>(control), name, value);
-    case Kind::popup:
+    case Kind::PopUp:
         return pick(static_cast<NSPopUpButton*>(control), name, value);
     default:
         throw ControlError("control '" + name + "' has no value that could be set");

@@ -1,11 +1,11 @@
-// Where dialogs are seen and used, as the actions need it: in front of Cocoa, or of nothing at all
-// for a host without a display.
+// Drives the plug-in's dialog as a user would, and takes pictures of it: with Cocoa, or with
+// nothing at all for a host without a display.
 
 #pragma once
 
 #include "minihost/dialog/Controls.h"
 #include "minihost/dialog/Events.h"
-#include "minihost/dialog/Panel.h"
+#include "minihost/dialog/Picture.h"
 #include "minihost/suites/Panels.h"
 
 #include <functional>
@@ -15,45 +15,45 @@
 
 namespace minihost {
 
-class Screen {
+class DialogDriver {
   public:
-    virtual ~Screen() = default;
+    virtual ~DialogDriver() = default;
 
     virtual std::unique_ptr<PanelView> make_panel() = 0;
 
-    // The floating dialog that the plug-in made last.
-    virtual bool has_window() const = 0;
-    virtual bool window_is_visible() const = 0;
-    virtual std::string window_title() const = 0;
+    // The floating dialog that the plug-in created last.
+    virtual bool has_floating_dialog() const = 0;
+    virtual bool floating_dialog_is_visible() const = 0;
+    virtual std::string floating_dialog_title() const = 0;
 
-    // Of a panel, or with null of the floating dialog.
+    // In these, a null panel stands for the floating dialog.
     virtual std::vector<Control> controls(const PanelView* panel) = 0;
-    virtual Picture picture(const PanelView* panel, double scale) = 0;
-    // As a user would. Each throws ControlError.
+    virtual Picture picture(const PanelView* panel, double scale) = 0; // pixels per point
+    // As a user does it; see Controls.h. Throw ControlError.
     virtual void set(const PanelView* panel, int id, const std::string& name,
                      const std::string& value) = 0;
     virtual void click(const PanelView* panel, int id, const std::string& name) = 0;
-    // A raw event, which waits until settle() lets all be answered. Throws ControlError.
+    // Queues a raw event until settle() handles all that are queued. Throws ControlError.
     virtual void post(const PanelView* panel, const RawEvent& event) = 0;
     virtual void settle() = 0;
 
-    // Alert panels: the button (from 1) that answers the next one; the texts of those shown since
-    // the last asking.
+    // Alert panels: which button (from 1) answers the next one, and the texts of those shown since
+    // the last call.
     virtual void answer_next_alert(int button) = 0;
     virtual std::vector<std::string> new_alerts() = 0;
 
-    // Runs something that makes objects of the display, which are gone afterwards.
+    // Runs `body` within an autorelease pool, if there is anything to release.
     virtual void with_pool(const std::function<void()>& body) = 0;
 };
 
-// A host without a display: panels without a view, no dialog ever.
-std::unique_ptr<Screen> make_blind_screen();
+// Panels without a view, and never a dialog.
+std::unique_ptr<DialogDriver> make_null_dialog_driver();
 
-// Draws a text to nowhere, so that the fonts are there for every process that is forked off later.
+// Cocoa's display, headless unless another was chosen. Without `make_panel` each panel is in a
+// window of its own.
+std::unique_ptr<DialogDriver> make_dialog_driver(PanelMaker make_panel = {});
+
+// Loads the fonts by drawing a text off screen, so that processes forked later have them.
 void load_fonts();
-
-// The display that this build has: Cocoa's, headless unless another was chosen. Without a maker a
-// panel is in a window of its own.
-std::unique_ptr<Screen> make_screen(PanelMaker make_panel = {});
 
 } // namespace minihost

@@ -1,6 +1,6 @@
-// Raw events, as a user's hands make them at the plug-in's dialog: posted one by one, and answered
-// together, since what follows a press or an open list takes the events that wait and gives up when
-// there are none.
+// Raw events of a user's mouse and keyboard over the plug-in's dialog. They are posted one by one
+// and handled together: a control that tracks the mouse, or an open pop-up list, takes the events
+// that follow from the queue and gives up when it is empty.
 
 #pragma once
 
@@ -25,21 +25,20 @@ struct RawEvent {
     bool right_button = false;
     int clicks = 1;
     unsigned modifiers = 0;
-    char16_t key = 0; // the character of a key, or the platform's for one that writes nothing
+    char16_t key = 0; // a character, or the platform's code for a key that writes none
     std::string text; // typed, UTF-8
 };
 
-// Hands over a view. Null has no place for the mouse: nothing happens. Keys go where the
-// application sends them.
-class Hands {
+class EventPoster {
   public:
-    // Throws ControlError for a text that is no UTF-8.
+    // Queues an event over `root`; without a view, mouse events are dropped. Keys go to whatever
+    // has the focus. Throws ControlError for text that is not UTF-8.
     void post(NSView* root, const RawEvent& event);
-    // Lets the application answer all that waits, and lets go of a button that is still held.
+    // Lets the application handle all queued events, and forgets a button that is still held.
     void settle();
 
   private:
-    bool _waits = false;
+    bool _has_queued = false;
     bool _left_is_down = false, _right_is_down = false;
 };
 

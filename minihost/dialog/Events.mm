@@ -19,7 +19,7 @@ NSUInteger flags(unsigned modifiers) {
     return mask;
 }
 
-NSPoint in_view(NSView* root, const RawEvent& event) {
+NSPoint location_in(NSView* root, const RawEvent& event) {
     const NSRect bounds = [root bounds];
     const double y = [root isFlipped] ? NSMinY(bounds) + event.y : NSMaxY(bounds) - event.y;
     return NSMakePoint(NSMinX(bounds) + event.x, y);
@@ -33,7 +33,7 @@ void type(const std::string& utf8) {
 
 } // namespace
 
-void Hands::post(NSView* root, const RawEvent& event) {
+void EventPoster::post(NSView* root, const RawEvent& event) {
     const AutoreleasePool pool;
     using Kind = RawEvent::Kind;
     if (event.kind == Kind::Text) {
@@ -43,7 +43,7 @@ void Hands::post(NSView* root, const RawEvent& event) {
     } else if (!root) {
         return;
     } else if (event.kind == Kind::Wheel) {
-        NSPostScroll(root, in_view(root, event), event.dx, event.dy);
+        NSPostScroll(root, location_in(root, event), event.dx, event.dy);
     } else {
         NSEventType type = NSMouseMoved;
         if (event.kind == Kind::MouseMove) {
@@ -59,15 +59,15 @@ void Hands::post(NSView* root, const RawEvent& event) {
             else
                 type = down ? NSLeftMouseDown : NSLeftMouseUp;
         }
-        NSPostMouse([root window], type, [root convertPoint:in_view(root, event) toView:nil],
+        NSPostMouse([root window], type, [root convertPoint:location_in(root, event) toView:nil],
                     event.clicks, flags(event.modifiers));
     }
-    _waits = true;
+    _has_queued = true;
 }
 
-void Hands::settle() {
-    if (!_waits) return;
-    _waits = _left_is_down = _right_is_down = false;
+void EventPoster::settle() {
+    if (!_has_queued) return;
+    _has_queued = _left_is_down = _right_is_down = false;
     const AutoreleasePool pool;
     NSDispatchEvents();
 }

@@ -4,12 +4,12 @@ namespace minihost {
 
 namespace {
 
-class BlindScreen : public Screen {
+class NullDialogDriver : public DialogDriver {
   public:
     std::unique_ptr<PanelView> make_panel() override { return blind_panels()(); }
-    bool has_window() const override { return false; }
-    bool window_is_visible() const override { return false; }
-    std::string window_title() const override { return {}; }
+    bool has_floating_dialog() const override { return false; }
+    bool floating_dialog_is_visible() const override { return false; }
+    std::string floating_dialog_title() const override { return {}; }
     std::vector<Control> controls(const PanelView*) override { return {}; }
     Picture picture(const PanelView*, double) override { return {}; }
     void set(const PanelView*, int, const std::string& name, const std::string&) override {
@@ -29,8 +29,8 @@ class BlindScreen : public Screen {
 
 } // namespace
 
-std::unique_ptr<Screen> make_blind_screen() {
-    return std::make_unique<BlindScreen>();
+std::unique_ptr<DialogDriver> make_null_dialog_driver() {
+    return std::make_unique<NullDialogDriver>();
 }
 
 } // namespace minihost

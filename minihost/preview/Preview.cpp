@@ -14,8 +14,8 @@ namespace {
 
 PreviewFormat format_of(const std::string& path) {
     const std::string extension = extension_of(path);
-    if (extension == ".png") return PreviewFormat::png;
-    if (extension == ".svg") return PreviewFormat::svg;
+    if (extension == ".png") return PreviewFormat::Png;
+    if (extension == ".svg") return PreviewFormat::Svg;
     throw std::runtime_error(
         path + ": a preview is written as .png or .svg, " +
         (extension.empty() ? "and this name has no extension" : "not as " + extension));
@@ -29,13 +29,13 @@ std::string encode_preview(const Scene& scene, PreviewFormat format, double scal
     }
     const preview::Plan plan = preview::make_plan(scene, scale);
     const std::unique_ptr<preview::Canvas> canvas =
-        format == PreviewFormat::png ? preview::png_canvas(plan.width, plan.height)
+        format == PreviewFormat::Png ? preview::png_canvas(plan.width, plan.height)
                                      : preview::svg_canvas(plan.width, plan.height, plan.caption);
     preview::paint(*canvas, plan);
     return canvas->encode();
 }
 
-void render_preview(const Scene& scene, const std::string& path, double scale) {
+void write_preview(const Scene& scene, const std::string& path, double scale) {
     const PreviewFormat format = format_of(path);
     write_file(path, encode_preview(scene, format, scale));
 }

@@ -14,7 +14,7 @@ inline constexpr const char* preview_help =
     "picture of the composition as its first camera sees it (a default camera if it has none); "
     ".png or .svg. It has the composition's shape, its longer side 960 points long";
 
-enum class PreviewFormat { png, svg };
+enum class PreviewFormat { Png, Svg };
 
 // Pixels per point that a picture may have.
 inline constexpr double least_preview_scale = 0.1, greatest_preview_scale = 16;
@@ -27,6 +27,6 @@ std::string encode_preview(const Scene& scene, PreviewFormat format, double scal
 // Writes the picture to a file whose extension (.png or .svg, in any case) says its format; the
 // file is written whole or not at all. Throws std::runtime_error, with the path in its text, for
 // any other extension, as above for the scale, and OutputError for a path that cannot be written.
-void render_preview(const Scene& scene, const std::string& path, double scale);
+void write_preview(const Scene& scene, const std::string& path, double scale);
 
 } // namespace minihost

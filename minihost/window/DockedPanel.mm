@@ -1,28 +1,26 @@
 #include "minihost/window/DockedPanel.h"
 
 #include "minihost/dialog/AutoreleasePool.h"
-#include "minihost/dialog/Panel.h"
+#include "minihost/dialog/PanelWindow.h"
 #include "minihost/window/MainView.h"
 
 namespace minihost {
 
 namespace {
 
-// Until the plug-in tells which size it likes.
-constexpr double usual_width = 320, usual_height = 480;
-
 class DockedPanel : public PanelView {
   public:
     explicit DockedPanel(Desk* desk) : _desk(desk) {
         const AutoreleasePool pool;
-        _container = [[NSView alloc] initWithFrame:NSMakeRect(0, 0, usual_width, usual_height)];
+        _container = [[NSView alloc]
+            initWithFrame:NSMakeRect(0, 0, default_panel_width, default_panel_height)];
         [_container setHidden:YES];
         [_desk addSubview:_container];
     }
     ~DockedPanel() override {
         const AutoreleasePool pool;
         show(false);
-        empty_container(_container);
+        remove_subviews(_container);
         [_container removeFromSuperview];
         [_container release];
     }

@@ -1,7 +1,7 @@
 #include "minihost/window/FilePanel.h"
 
 #include "minihost/dialog/AutoreleasePool.h"
-#include "minihost/dialog/Panel.h"
+#include "minihost/dialog/HostWindows.h"
 #include "minihost/model/OutputFile.h"
 #include "minihost/window/ListView.h"
 #include "minihost/window/Prompts.h"

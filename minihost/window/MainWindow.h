@@ -14,7 +14,7 @@
 
 namespace minihost {
 
-struct ShowOptions {
+struct MainWindowOptions {
     std::string scene;            // its file
     double scale = 0;             // pixels a point; 0: the desktop's own
     double width = 0, height = 0; // points, with the menu bar; 0: what the desktop has room for
@@ -23,15 +23,15 @@ struct ShowOptions {
     std::string screenshot; // a file for the last of them
 };
 
-class Show {
+class MainWindow {
   public:
     // Opens the window. Throws ActionError when there is no desktop to open it on.
-    explicit Show(const ShowOptions& options);
-    ~Show();
-    Show(const Show&) = delete;
-    Show& operator=(const Show&) = delete;
+    explicit MainWindow(const MainWindowOptions& options);
+    ~MainWindow();
+    MainWindow(const MainWindow&) = delete;
+    MainWindow& operator=(const MainWindow&) = delete;
 
-    std::unique_ptr<Screen> make_screen();
+    std::unique_ptr<DialogDriver> make_dialog_driver();
     // Throws ActionError for a screenshot that cannot be written.
     void run(Session& session);
 

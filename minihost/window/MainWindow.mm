@@ -2,7 +2,8 @@
 
 #include "minihost/actions/Actions.h"
 #include "minihost/dialog/AutoreleasePool.h"
-#include "minihost/dialog/PictureFile.h"
+#include "minihost/dialog/HostWindows.h"
+#include "minihost/dialog/Picture.h"
 #include "minihost/model/OutputFile.h"
 #include "minihost/window/CompositionView.h"
 #include "minihost/window/DockedPanel.h"
@@ -66,8 +67,8 @@ struct Ticking {
 
 namespace minihost {
 
-struct Show::State {
-    ShowOptions options;
+struct MainWindow::State {
+    MainWindowOptions options;
     DeskWindow* window = nil;
     Desk* desk = nil;
 
@@ -97,7 +98,7 @@ struct Show::State {
     }
 };
 
-Show::Show(const ShowOptions& options) : _state(std::make_unique<State>()) {
+MainWindow::MainWindow(const MainWindowOptions& options) : _state(std::make_unique<State>()) {
     const AutoreleasePool pool;
     _state->options = options;
     const NSSize size = NSMakeSize(options.width, options.height);
@@ -120,7 +121,7 @@ Show::Show(const ShowOptions& options) : _state(std::make_unique<State>()) {
     [_state->desk release];
 }
 
-Show::~Show() {
+MainWindow::~MainWindow() {
     const AutoreleasePool pool;
     [_state->desk setWorkbench:nullptr];
     disclaim_window(_state->window);
@@ -130,12 +131,12 @@ Show::~Show() {
     NSUseHeadlessDisplay(NSMakeSize(1440, 900), 1);
 }
 
-std::unique_ptr<Screen> Show::make_screen() {
+std::unique_ptr<DialogDriver> MainWindow::make_dialog_driver() {
     Desk* desk = _state->desk;
-    return minihost::make_screen([=] { return make_docked_panel(desk); });
+    return minihost::make_dialog_driver([=] { return make_docked_panel(desk); });
 }
 
-void Show::run(Session& session) {
+void MainWindow::run(Session& session) {
     const AutoreleasePool pool;
     State& state = *_state;
     state.bench.emplace(session, state.options.scene);

@@ -30,7 +30,7 @@ TEST(Examples, HaveSomethingToArrangeAndToSee) {
         SCOPED_TRACE(name);
         EXPECT_NE(told.find("`" + name + ".json`"), std::string::npos) << "README.md knows it";
         const Scene scene = read_scene((folder / (name + ".json")).string());
-        const std::string picture = encode_preview(scene, PreviewFormat::svg, 1);
+        const std::string picture = encode_preview(scene, PreviewFormat::Svg, 1);
         int placeable = 0, seen = 0;
         for (const LayerId id : scene.selection()) {
             const Layer* layer = id ? scene.find(id) : nullptr;

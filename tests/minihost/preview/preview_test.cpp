@@ -38,7 +38,7 @@ std::ostream& operator<<(std::ostream& to, const Pixel& p) {
 class Picture {
   public:
     explicit Picture(const Scene& scene, double scale = 1) {
-        std::string file = encode_preview(scene, PreviewFormat::png, scale);
+        std::string file = encode_preview(scene, PreviewFormat::Png, scale);
         const char* at = file.data();
         _surface = cairo_image_surface_create_from_png_stream(
             [](void* from, unsigned char* to, unsigned int size) {
@@ -110,7 +110,7 @@ Scene scene_of(const std::vector<Layer>& layers) {
 }
 
 std::string svg_of(const Scene& scene) {
-    return encode_preview(scene, PreviewFormat::svg, 1);
+    return encode_preview(scene, PreviewFormat::Svg, 1);
 }
 
 bool contains(const std::string& text, const std::string& part) {
@@ -347,7 +347,7 @@ class PreviewFile : public testing::Test {
     // What is said against a file; nothing when it was written.
     std::string complaint(const std::filesystem::path& path, double scale = 1) const {
         try {
-            render_preview(scene_of({card(red, "Card")}), path.string(), scale);
+            write_preview(scene_of({card(red, "Card")}), path.string(), scale);
         } catch (const std::runtime_error& error) {
             return error.what();
         }

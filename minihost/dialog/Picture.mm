@@ -1,5 +1,8 @@
-#include "minihost/dialog/PictureFile.h"
+#include "minihost/dialog/Picture.h"
 
+#include "minihost/dialog/AutoreleasePool.h"
+
+#include <AppKit/NSDisplayStandIn.h>
 #include <cairo.h>
 #include <cstdint>
 #include <memory>
@@ -15,6 +18,12 @@ cairo_status_t append(void* out, const unsigned char* data, unsigned length) {
 }
 
 } // namespace
+
+Picture render_view(NSView* view, double scale) {
+    const AutoreleasePool pool;
+    NSPicture picture = NSRenderView(view, scale);
+    return {picture.width, picture.height, std::move(picture.rgba)};
+}
 
 std::string encode_png(const Picture& picture) {
     const std::unique_ptr<cairo_surface_t, void (*)(cairo_surface_t*)> surface(
