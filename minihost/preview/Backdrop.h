@@ -1,4 +1,4 @@
-// What stands around the layers: sky and ground, the grid on the floor, the shadows on it.
+// What surrounds the layers: sky and ground, the grid on the floor, the layers' shadows on it.
 
 #pragma once
 
@@ -6,6 +6,6 @@
 
 namespace minihost::preview {
 
-void paint_stage(Canvas& canvas, const Plan& plan);
+void paint_backdrop(Canvas& canvas, const DrawList& list);
 
 } // namespace minihost::preview

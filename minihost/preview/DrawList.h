@@ -1,11 +1,11 @@
-// What of a composition is seen, and in which order it is painted. Reads the scene; everything
-// after it knows only the plan.
+// What is seen of a composition, in the order in which it is painted. Only building the list reads
+// the scene; all that paints, shades or picks works from the list.
 
 #pragma once
 
 #include "minihost/model/Scene.h"
-#include "minihost/preview/Camera.h"
 #include "minihost/preview/Canvas.h"
+#include "minihost/preview/LayerQuad.h"
 
 #include <cstdint>
 #include <string>
@@ -13,62 +13,64 @@
 
 namespace minihost::preview {
 
-struct Item {
-    enum class Kind { solid, photo, text, shape, light, camera };
-    Kind kind = Kind::solid;
+// One layer.
+struct DrawItem {
+    LayerKind kind = LayerKind::Solid;
     LayerId id = 0;
     int index = 0; // of the layer, 0 is the top one
     std::string name;
-    Colour colour;
-    bool coloured = false;  // the scene says its colour
-    std::uint32_t seed = 0; // drawn from the name: the same name always looks the same
-    bool flat = false;      // not 3D: it lies on the composition, untouched by light and haze
+    Rgba color;
+    bool has_own_color = false; // the scene gives it
+    std::uint32_t seed = 0;     // from the name: the same name always looks the same
+    bool flat = false;          // not 3D: it lies on the composition, without light and haze
     bool selected = false;
-    Facet facet; // none for lights and cameras
+    LayerQuad quad; // not of lights and cameras
     std::vector<Point> polygon;
-    Point spot; // where a light or a camera is marked
+    Point mark; // where a light or a camera is marked
     double depth = 0;
-    Vector middle, half_across, half_down; // in the world, for the shadow
+    Vector center, half_across, half_down; // in the world
+
+    // Lights and cameras are marks on the picture, not rectangles in the scene.
+    bool is_mark() const { return kind == LayerKind::Light || kind == LayerKind::Camera; }
+    // Hides what is behind its rectangle.
+    bool is_opaque() const { return kind == LayerKind::Solid || kind == LayerKind::Footage; }
+    // The n-th random number in [0, 1) of its seed.
+    double random(int n) const;
 };
 
-struct Plan {
-    Lens lens;
+struct DrawList {
+    Camera camera;
     int width = 1, height = 1; // of the picture, in pixels
-    double point = 1;          // pixels of a point: line widths and small type are told in points
+    double point = 1;          // pixels per point: line widths and small type are given in points
     double comp_width = 1;
-    double floor = 0;         // its height (y) in the world
+    double floor = 0;         // its y in the world
     double near = 0, far = 0; // depths between which the haze thickens
-    Vector middle;            // of what is 3D: the grid is thickest there
+    Vector center;            // of what is 3D: the grid is thickest there
     std::string caption;
-    std::vector<Item> items;  // in the order of painting; none that is wholly hidden or outside
-    std::vector<Item> edges;  // sheets that stand edge-on to a view that is not the camera's
-    std::vector<Item> hidden; // what would be seen if nothing stood before it; for windows alone
+    std::vector<DrawItem> items;  // in painting order, without those wholly hidden or outside
+    std::vector<DrawItem> edges;  // layers seen edge-on in a view that is not the camera's
+    std::vector<DrawItem> hidden; // those wholly behind others; for windows alone
 };
 
-// The size of the picture: the composition's shape, its longer side 960 points long, each point
-// `scale` pixels. At least one pixel each way.
-struct PictureSize {
-    int width, height;
-};
-PictureSize picture_size(double comp_width, double comp_height, double scale);
+// The preview of a composition as its camera sees it: of its shape, its longer side 960 points of
+// `scale` pixels each; at least one pixel each way.
+DrawList make_draw_list(const Scene& scene, double scale);
 
-Plan make_plan(const Scene& scene, double scale);
-
-// The lens of the first camera, or the default one, as it stands before the whole composition: one
-// pixel of the picture for one of the composition. And the name of that camera.
-Lens camera_lens(const Scene& scene);
-std::string camera_name(const Scene& scene);
-
-// The picture of a window: of any size, seen through any lens. What is selected is left to the
-// window to show.
+// The picture of a window: of any size, through any camera. Marking the selection is left to the
+// window.
 struct Framing {
     int width = 1, height = 1; // pixels
-    double point = 1;          // pixels
-    Lens lens;
-    bool through_camera =
-        true; // else the first camera is in the picture, and 2D layers stand in space
-    std::string caption;
+    double point = 1;          // pixels per point
+    Camera camera;
+    // Through the scene's own camera, which is not marked then; 2D layers lie on the picture. Else
+    // they stand in space.
+    bool through_scene_camera = true;
 };
-Plan make_plan(const Scene& scene, const Framing& framing);
+DrawList make_draw_list(const Scene& scene, const Framing& framing);
+
+// The first camera of the scene, or the default one, in front of the whole composition at one pixel
+// of the picture for one of the composition; and its name.
+Camera scene_camera(const Scene& scene);
+std::string scene_camera_name(const Scene& scene);
 
 } // namespace minihost::preview

@@ -1,41 +1,42 @@
-// What is drawn on a layer by its kind: a card, a small landscape for a photograph, letters,
-// a shape, the hatched back.
+// What is drawn on a layer's rectangle, by its kind.
 
 #pragma once
 
 #include "minihost/preview/PreviewColors.h"
+#include "minihost/preview/Shading.h"
 #include "minihost/preview/Typesetter.h"
 
 namespace minihost::preview {
 
-// A layer's face while it is painted: u and v go from 0 to 1 across and down its rectangle.
-class Face {
+// The surface of a layer to paint on: u and v go from 0 to 1 across and down its rectangle.
+class LayerFace {
   public:
-    Face(Canvas& canvas, const Plan& plan, const Item& item);
+    LayerFace(Canvas& canvas, const DrawList& list, const DrawItem& item);
 
     Canvas& canvas;
-    const Plan& plan;
-    const Item& item;
-    Tone tone;
-    // Its smaller side as it is seen, in points; 0 where it cannot carry detail.
+    const DrawItem& item;
+    const double point; // pixels per point
+    const Shading shading;
+    // Its smaller side as it is seen, in points; 0 if part of it is behind the camera.
     double extent = 0;
 
-    Point at(double u, double v) const { return item.facet.at(u, v); }
-    Outline rectangle(double u0, double v0, double u1, double v1) const;
-    Outline ellipse(double u, double v, double across, double down) const;
-    // A blend from the height v0 to v1.
-    Shade blend(double v0, const Colour& c0, double v1, const Colour& c1) const;
-    Outline whole() const { return polygon_outline(item.polygon); }
+    bool has_detail() const { return extent >= 12; }
+    Point at(double u, double v) const { return item.quad.at(u, v); }
+    Path outline() const { return polygon_path(item.polygon); }
+    Path ellipse(double u, double v, double half_width, double half_height) const;
+    // From one height to another.
+    Brush gradient(double v0, const Rgba& color0, double v1, const Rgba& color1) const;
     // Whether type of a height in the layer's pixels can be read at (u, v).
-    bool readable(double height, double u, double v) const;
+    bool is_readable(double height, double u, double v) const;
     // A line of text scaled by `scale`, its top left corner at (x, y) in the layer's pixels.
-    Outline text(const TextLine& line, double x, double y, double scale) const;
+    Path text(const TextLine& line, double x, double y, double scale) const;
 };
 
-void paint_card(const Face& face);
-void paint_photo(const Face& face);
-void paint_shape(const Face& face);
-void paint_letters(const Face& face, const Lettering& lettering);
-void paint_back(const Face& face);
+void paint_solid(const LayerFace& face);
+void paint_footage(const LayerFace& face);
+void paint_shape(const LayerFace& face);
+void paint_text(const LayerFace& face, const Typesetter& typesetter);
+// The hatched back of a solid or footage.
+void paint_back(const LayerFace& face);
 
 } // namespace minihost::preview

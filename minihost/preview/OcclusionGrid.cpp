@@ -1,5 +1,3 @@
-// The cells of Cover, row by row: a convex shape has one span in each.
-
 #include "minihost/preview/OcclusionGrid.h"
 
 #include <algorithm>
@@ -10,10 +8,11 @@ namespace minihost::preview {
 
 namespace {
 
+// Of x; left > right if empty.
 struct Span {
     double left = std::numeric_limits<double>::max();
     double right = std::numeric_limits<double>::lowest();
-    void take(double x) {
+    void include(double x) {
         left = std::min(left, x);
         right = std::max(right, x);
     }
@@ -24,19 +23,19 @@ Span span_at(const std::vector<Point>& p, double y) {
     Span span;
     for (std::size_t i = 0; i < p.size(); ++i) {
         const Point &a = p[i], &b = p[(i + 1) % p.size()];
-        if ((a.y <= y) != (b.y <= y)) span.take(a.x + (b.x - a.x) * (y - a.y) / (b.y - a.y));
+        if ((a.y <= y) != (b.y <= y)) span.include(a.x + (b.x - a.x) * (y - a.y) / (b.y - a.y));
     }
     return span;
 }
 
-// All that the polygon takes between two heights.
+// All of the polygon between two heights.
 Span span_between(const std::vector<Point>& p, double top, double bottom) {
     Span span = span_at(p, top);
     const Span low = span_at(p, bottom);
     span.left = std::min(span.left, low.left);
     span.right = std::max(span.right, low.right);
     for (const Point& a : p) {
-        if (a.y >= top && a.y <= bottom) span.take(a.x);
+        if (a.y >= top && a.y <= bottom) span.include(a.x);
     }
     return span;
 }
@@ -47,15 +46,14 @@ int cell_of(double coordinate, int cell, int count) {
 
 } // namespace
 
-Cover::Cover(int width, int height, int cell)
+OcclusionGrid::OcclusionGrid(int width, int height, int cell)
     : _cell(cell),
       _columns((width + cell - 1) / cell),
       _rows((height + cell - 1) / cell),
-      _open(_columns * _rows),
-      _covered(static_cast<std::size_t>(_open), 0),
-      _open_in_row(static_cast<std::size_t>(_rows), _columns) {}
+      _uncovered(_columns * _rows),
+      _covered(static_cast<std::size_t>(_uncovered), 0) {}
 
-Cover::Rows Cover::rows(const std::vector<Point>& p) const {
+OcclusionGrid::Rows OcclusionGrid::rows_of(const std::vector<Point>& p) const {
     if (p.empty()) return {0, -1};
     const auto by_y = [](const Point& a, const Point& b) { return a.y < b.y; };
     const auto [top, bottom] = std::minmax_element(p.begin(), p.end(), by_y);
@@ -63,10 +61,9 @@ Cover::Rows Cover::rows(const std::vector<Point>& p) const {
             std::min(cell_of(bottom->y, _cell, _rows), _rows - 1)};
 }
 
-bool Cover::shows(const std::vector<Point>& p) const {
-    const Rows r = rows(p);
+bool OcclusionGrid::is_visible(const std::vector<Point>& p) const {
+    const Rows r = rows_of(p);
     for (int row = r.first; row <= r.last; ++row) {
-        if (_open_in_row[row] == 0) continue;
         const Span span = span_between(p, double(row) * _cell, double(row + 1) * _cell);
         if (span.left > span.right) continue;
         const int first = std::max(cell_of(span.left, _cell, _columns), 0);
@@ -78,8 +75,8 @@ bool Cover::shows(const std::vector<Point>& p) const {
     return false;
 }
 
-void Cover::add(const std::vector<Point>& p) {
-    const Rows r = rows(p);
+void OcclusionGrid::cover(const std::vector<Point>& p) {
+    const Rows r = rows_of(p);
     for (int row = r.first; row <= r.last; ++row) {
         const Span high = span_at(p, double(row) * _cell);
         const Span low = span_at(p, double(row + 1) * _cell);
@@ -92,8 +89,7 @@ void Cover::add(const std::vector<Point>& p) {
             char& covered = _covered[std::size_t(row) * _columns + column];
             if (covered) continue;
             covered = 1;
-            --_open_in_row[row];
-            --_open;
+            --_uncovered;
         }
     }
 }

@@ -1,4 +1,4 @@
-// Paints a plan: the stage, every layer from far to near with its name, and the caption.
+// Paints a draw list: the backdrop, every layer from far to near with its name, and the caption.
 
 #pragma once
 
@@ -6,6 +6,6 @@
 
 namespace minihost::preview {
 
-void paint(Canvas& canvas, const Plan& plan);
+void paint(Canvas& canvas, const DrawList& list);
 
 } // namespace minihost::preview

@@ -1,5 +1,3 @@
-// From scene to file.
-
 #include "minihost/preview/Preview.h"
 
 #include "minihost/model/OutputFile.h"
@@ -24,14 +22,14 @@ PreviewFormat format_of(const std::string& path) {
 } // namespace
 
 std::string encode_preview(const Scene& scene, PreviewFormat format, double scale) {
-    if (!(scale >= least_preview_scale && scale <= greatest_preview_scale)) {
+    if (!(scale >= least_preview_scale && scale <= greatest_preview_scale))
         throw std::runtime_error("the scale of a picture is a number from 0.1 to 16");
-    }
-    const preview::Plan plan = preview::make_plan(scene, scale);
+    const preview::DrawList list = preview::make_draw_list(scene, scale);
     const std::unique_ptr<preview::Canvas> canvas =
-        format == PreviewFormat::Png ? preview::png_canvas(plan.width, plan.height)
-                                     : preview::svg_canvas(plan.width, plan.height, plan.caption);
-    preview::paint(*canvas, plan);
+        format == PreviewFormat::Png
+            ? preview::make_png_canvas(list.width, list.height)
+            : preview::make_svg_canvas(list.width, list.height, list.caption);
+    preview::paint(*canvas, list);
     return canvas->encode();
 }
 

@@ -1,6 +1,7 @@
-// The canvas that writes SVG: compact numbers, one group with a title for each layer.
+// The canvas that writes SVG: short numbers, one titled group for each layer.
 
 #include "minihost/preview/Canvas.h"
+#include "minihost/preview/PrintableText.h"
 
 #include <algorithm>
 #include <charconv>
@@ -24,7 +25,7 @@ void append_point(std::string& to, const Point& p) {
 }
 
 void append_escaped(std::string& to, std::string_view text) {
-    for (const char c : plain_text(text)) {
+    for (const char c : printable_text(text)) {
         switch (c) {
         case '&':
             to += "&amp;";
@@ -41,7 +42,7 @@ void append_escaped(std::string& to, std::string_view text) {
     }
 }
 
-void append_hex(std::string& to, const Colour& c) {
+void append_hex(std::string& to, const Rgba& c) {
     static constexpr char hex[] = "0123456789abcdef";
     to += '#';
     for (const double part : {c.r, c.g, c.b}) {
@@ -51,8 +52,8 @@ void append_hex(std::string& to, const Colour& c) {
     }
 }
 
-// colour="#..." and, where it is not opaque, its opacity.
-void append_colour(std::string& to, const char* name, const char* opacity, const Colour& c) {
+// name="#rrggbb" and, if it is not opaque, its opacity.
+void append_color(std::string& to, const char* name, const char* opacity, const Rgba& c) {
     to.append(" ").append(name).append("=\"");
     append_hex(to, c);
     to += '"';
@@ -75,24 +76,24 @@ class SvgCanvas : public Canvas {
         _text += "</title>\n";
     }
 
-    void fill(const Outline& outline, const Shade& shade) override {
-        const bool plain = shade.kind == Shade::Kind::plain;
-        if (!plain) define(shade);
-        path(outline);
+    void fill(const Path& path, const Brush& brush) override {
+        const bool plain = brush.kind == Brush::Kind::Color;
+        if (!plain) write_gradient(brush);
+        write_path(path);
         if (plain) {
-            append_colour(_text, "fill", "fill-opacity", shade.stops.front().colour);
+            append_color(_text, "fill", "fill-opacity", brush.stops.front().color);
         } else {
-            _text += " fill=\"url(#s" + std::to_string(_shades) + ")\"";
+            _text += " fill=\"url(#s" + std::to_string(_gradients) + ")\"";
         }
         _text += "/>\n";
     }
 
-    void stroke(const Outline& outline, const Colour& colour, double width, double dash) override {
-        path(outline);
+    void stroke(const Path& path, const Rgba& color, double width, double dash) override {
+        write_path(path);
         _text += " fill=\"none\"";
-        append_colour(_text, "stroke", "stroke-opacity", colour);
-        attribute(" stroke-width=\"", width);
-        if (dash > 0) attribute(" stroke-dasharray=\"", dash);
+        append_color(_text, "stroke", "stroke-opacity", color);
+        attribute("stroke-width", width);
+        if (dash > 0) attribute("stroke-dasharray", dash);
         _text += "/>\n";
     }
 
@@ -106,22 +107,22 @@ class SvgCanvas : public Canvas {
     std::string encode() override { return _text + "</svg>\n"; }
 
   private:
-    void attribute(const char* start, double value) {
-        _text += start;
+    void attribute(const char* name, double value) {
+        _text.append(" ").append(name).append("=\"");
         append_number(_text, value);
         _text += '"';
     }
 
-    void path(const Outline& outline) {
+    void write_path(const Path& path) {
         _text += "<path d=\"";
-        const Point* p = outline.points.data();
-        for (const Outline::Step step : outline.steps) {
-            if (step == Outline::Step::close) {
+        const Point* p = path.points.data();
+        for (const Path::Step step : path.steps) {
+            if (step == Path::Step::Close) {
                 _text += 'Z';
                 continue;
             }
-            const int count = step == Outline::Step::curve ? 3 : 1;
-            _text += step == Outline::Step::move ? 'M' : step == Outline::Step::line ? 'L' : 'C';
+            const int count = step == Path::Step::Curve ? 3 : 1;
+            _text += step == Path::Step::Move ? 'M' : step == Path::Step::Line ? 'L' : 'C';
             for (int i = 0; i < count; ++i) {
                 if (i > 0) _text += ' ';
                 append_point(_text, *p++);
@@ -130,36 +131,37 @@ class SvgCanvas : public Canvas {
         _text += '"';
     }
 
-    // Shades are written where they are first used: readers take them anywhere before.
-    void define(const Shade& shade) {
-        const bool along = shade.kind == Shade::Kind::along;
-        const char* element = along ? "linearGradient" : "radialGradient";
-        _text.append("<").append(element).append(" id=\"s").append(std::to_string(++_shades));
+    // Right before the path that uses it: readers accept gradients anywhere.
+    void write_gradient(const Brush& brush) {
+        const bool linear = brush.kind == Brush::Kind::Linear;
+        const char* element = linear ? "linearGradient" : "radialGradient";
+        _text.append("<").append(element).append(" id=\"s").append(std::to_string(++_gradients));
         _text += "\" gradientUnits=\"userSpaceOnUse\"";
-        attribute(along ? " x1=\"" : " cx=\"", shade.from.x);
-        attribute(along ? " y1=\"" : " cy=\"", shade.from.y);
-        if (along) {
-            attribute(" x2=\"", shade.to.x);
-            attribute(" y2=\"", shade.to.y);
+        attribute(linear ? "x1" : "cx", brush.from.x);
+        attribute(linear ? "y1" : "cy", brush.from.y);
+        if (linear) {
+            attribute("x2", brush.to.x);
+            attribute("y2", brush.to.y);
         } else {
-            attribute(" r=\"", std::hypot(shade.to.x - shade.from.x, shade.to.y - shade.from.y));
+            attribute("r", std::hypot(brush.to.x - brush.from.x, brush.to.y - brush.from.y));
         }
         _text += '>';
-        for (const Shade::Stop& stop : shade.stops) {
-            attribute("<stop offset=\"", stop.at);
-            append_colour(_text, "stop-color", "stop-opacity", stop.colour);
+        for (const Brush::Stop& stop : brush.stops) {
+            _text += "<stop";
+            attribute("offset", stop.offset);
+            append_color(_text, "stop-color", "stop-opacity", stop.color);
             _text += "/>";
         }
         _text.append("</").append(element).append(">\n");
     }
 
     std::string _text;
-    int _shades = 0;
+    int _gradients = 0;
 };
 
 } // namespace
 
-std::unique_ptr<Canvas> svg_canvas(int width, int height, std::string_view title) {
+std::unique_ptr<Canvas> make_svg_canvas(int width, int height, std::string_view title) {
     return std::make_unique<SvgCanvas>(width, height, title);
 }
 

@@ -1,42 +1,34 @@
-// Lines of text as outlines, so that names can be laid onto layers in perspective.
+// Lines of text as paths, so that names can be laid onto layers in perspective.
 
 #pragma once
 
-#include "minihost/preview/Canvas.h"
+#include "minihost/preview/Path.h"
 
 #include <memory>
 #include <string_view>
 
 namespace minihost::preview {
 
-// A line of text from (0, 0), its top left corner, at the size `Lettering::size`.
+// A line of text at the size Typesetter::size, its top left corner at (0, 0).
 struct TextLine {
-    Outline outline;
+    Path path;
     double width = 0, height = 0;
 };
 
-class Lettering {
+class Typesetter {
   public:
-    // Height of the type, in units of the outlines.
+    // Height of the type, in units of the path.
     static constexpr double size = 100;
 
-    Lettering();
-    ~Lettering();
+    Typesetter();
+    ~Typesetter();
 
-    // Text wider than `room` is cut and ends in an ellipsis. Any bytes are taken as text.
+    // Text wider than `room` is cut and ends in an ellipsis. Any bytes are accepted.
     TextLine line(std::string_view text, double room, bool bold = false) const;
 
   private:
-    struct Tools;
-    std::unique_ptr<Tools> _tools;
+    struct Pango;
+    std::unique_ptr<Pango> _pango;
 };
-
-// A part of a line of text whose points are moved: p goes to map(p).
-template <typename Map>
-Outline mapped(const Outline& outline, Map map) {
-    Outline moved = outline;
-    for (Point& p : moved.points) p = map(p);
-    return moved;
-}
 
 } // namespace minihost::preview

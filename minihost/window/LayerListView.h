@@ -1,16 +1,16 @@
-// The list of the composition's layers, top layer first: click, Shift-click and Ctrl-click select,
-// so do a drag along the rows and the keys; Space adds or takes away.
+// The list of the composition's layers, top layer first. Click, Shift-click, Ctrl-click, dragging
+// and the keys select; Space adds or removes a layer.
 
 #pragma once
 
 #include "minihost/window/ListView.h"
 #include "minihost/window/SceneEditor.h"
 
-@interface LayerList : RowList {
+@interface LayerListView : ListView {
   @private
-    minihost::Workbench* _bench; // lives longer
-    NSInteger _anchor;           // from which Shift extends
-    minihost::Selection* _kept;  // what was selected besides when the drag began
+    minihost::SceneEditor* _editor; // not owned
+    NSInteger _anchor;              // where Shift extends the selection from
+    minihost::Selection* _kept;     // what stays selected while dragging
 }
-- (void)setWorkbench:(minihost::Workbench*)bench;
+- (void)setEditor:(minihost::SceneEditor*)editor;
 @end

@@ -30,7 +30,7 @@ std::string kind_text(LayerKind kind) {
 
 } // namespace
 
-@implementation LayerList
+@implementation LayerListView
 - (id)initWithFrame:(NSRect)frame {
     self = [super initWithFrame:frame];
     if (self) _kept = new Selection();
@@ -40,23 +40,23 @@ std::string kind_text(LayerKind kind) {
     delete _kept;
     [super dealloc];
 }
-- (void)setWorkbench:(Workbench*)bench {
-    _bench = bench;
+- (void)setEditor:(SceneEditor*)editor {
+    _editor = editor;
 }
 
 - (NSInteger)rowCount {
-    return _bench ? static_cast<NSInteger>(_bench->scene().layer_count()) : 0;
+    return _editor ? static_cast<NSInteger>(_editor->scene().layer_count()) : 0;
 }
 - (const Layer&)layer:(NSInteger)row {
-    return _bench->scene().layer_at(static_cast<std::size_t>(row));
+    return _editor->scene().layer_at(static_cast<std::size_t>(row));
 }
 - (BOOL)isRowSelected:(NSInteger)row {
-    return _bench->is_selected([self layer:row].id);
+    return _editor->is_selected([self layer:row].id);
 }
 
 - (void)selectFrom:(NSInteger)first to:(NSInteger)last {
-    _bench->select_rows(static_cast<std::size_t>(std::max<NSInteger>(first, 0)),
-                        static_cast<std::size_t>(last), *_kept);
+    _editor->select_rows(static_cast<std::size_t>(std::max<NSInteger>(first, 0)),
+                         static_cast<std::size_t>(last), *_kept);
 }
 
 - (void)pressRow:(NSInteger)row modifiers:(NSUInteger)modifiers {
@@ -64,7 +64,7 @@ std::string kind_text(LayerKind kind) {
     const BOOL toggles = (modifiers & (NSControlKeyMask | NSCommandKeyMask)) != 0;
     _kept->clear();
     if (row < 0) {
-        if (!shift && !toggles) _bench->deselect();
+        if (!shift && !toggles) _editor->select({});
         return;
     }
     if (shift) {
@@ -73,10 +73,10 @@ std::string kind_text(LayerKind kind) {
     }
     _anchor = row;
     if (toggles) {
-        _bench->toggle([self layer:row].id);
-        *_kept = _bench->scene().selection();
+        _editor->toggle([self layer:row].id);
+        *_kept = _editor->scene().selection();
     } else {
-        _bench->select_only([self layer:row].id);
+        _editor->select({[self layer:row].id});
     }
 }
 - (void)dragToRow:(NSInteger)row {
@@ -93,26 +93,25 @@ std::string kind_text(LayerKind kind) {
 
 - (void)drawHeader:(NSRect)rect {
     const Columns at = columns(rect);
-    NSColor* color = look::color(look::Part::HeaderText);
-    look::draw_text("#", at.number, color, 1);
-    look::draw_text("Layer", at.name, color);
-    look::draw_text("Kind", at.kind, color);
+    NSColor* color = style::color(style::ColorRole::HeaderText);
+    style::draw_text("#", at.number, color, NSRightTextAlignment);
+    style::draw_text("Layer", at.name, color);
+    style::draw_text("Kind", at.kind, color);
 }
 
 - (void)drawRow:(NSInteger)row inRect:(NSRect)rect color:(NSColor*)color {
     const Layer& layer = [self layer:row];
     const Columns at = columns(rect);
-    look::draw_text(std::to_string(row + 1), at.number, color, 1);
+    style::draw_text(std::to_string(row + 1), at.number, color, NSRightTextAlignment);
     [[NSColor colorWithDeviceRed:layer.color.red / 255.0
                            green:layer.color.green / 255.0
                             blue:layer.color.blue / 255.0
                            alpha:1] setFill];
-    const BOOL is_sheet = layer.kind == LayerKind::Solid;
-    if (is_sheet) [[NSBezierPath bezierPathWithRoundedRect:at.swatch xRadius:2 yRadius:2] fill];
-    look::draw_text(layer.name, at.name, color);
-    look::draw_text(kind_text(layer.kind), at.kind, color);
-    const BOOL in_space =
-        layer.is_3d() && layer.kind != LayerKind::Camera && layer.kind != LayerKind::Light;
-    if (in_space) look::draw_text("3D", at.space, color, 1);
+    if (layer.kind == LayerKind::Solid)
+        [[NSBezierPath bezierPathWithRoundedRect:at.swatch xRadius:2 yRadius:2] fill];
+    style::draw_text(layer.name, at.name, color);
+    style::draw_text(kind_text(layer.kind), at.kind, color);
+    if (layer.three_d && layer.kind != LayerKind::Camera && layer.kind != LayerKind::Light)
+        style::draw_text("3D", at.space, color, NSRightTextAlignment);
 }
 @end

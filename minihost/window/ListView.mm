@@ -10,11 +10,11 @@ using namespace minihost;
 
 namespace {
 
-constexpr double bar_width = 12, least_knob = 24, lines_per_wheel = 3;
+constexpr double scroll_bar_width = 12, min_knob_height = 24, rows_per_wheel_line = 3;
 
 } // namespace
 
-@implementation RowList
+@implementation ListView
 - (id)initWithFrame:(NSRect)frame {
     self = [super initWithFrame:frame];
     if (self) _cursor = -1;
@@ -39,19 +39,19 @@ constexpr double bar_width = 12, least_knob = 24, lines_per_wheel = 3;
     return [[self window] firstResponder] == self && [[self window] isKeyWindow];
 }
 
-// Where things are.
+// Geometry.
 
 - (NSRect)rowsRect {
     const NSRect bounds = [self bounds];
     return NSMakeRect(0, header_height, NSWidth(bounds),
                       std::max(0.0, NSHeight(bounds) - header_height));
 }
-- (CGFloat)greatestScroll {
+- (CGFloat)maxScroll {
     return std::max(0.0, [self rowCount] * row_height - NSHeight([self rowsRect]));
 }
 - (NSRect)rectOfRow:(NSInteger)row {
     const NSRect rows = [self rowsRect];
-    const double width = NSWidth(rows) - ([self greatestScroll] > 0 ? bar_width : 0);
+    const double width = NSWidth(rows) - ([self maxScroll] > 0 ? scroll_bar_width : 0);
     return NSMakeRect(0, NSMinY(rows) + row * row_height - _scroll, width, row_height);
 }
 - (NSInteger)rowAt:(CGFloat)y {
@@ -59,23 +59,24 @@ constexpr double bar_width = 12, least_knob = 24, lines_per_wheel = 3;
     if (row < 0) return 0;
     return std::min(static_cast<NSInteger>(row), [self rowCount]);
 }
-- (NSRect)barRect {
+- (NSRect)scrollBarRect {
     const NSRect rows = [self rowsRect];
-    return NSMakeRect(NSMaxX(rows) - bar_width, NSMinY(rows), bar_width, NSHeight(rows));
+    return NSMakeRect(NSMaxX(rows) - scroll_bar_width, NSMinY(rows), scroll_bar_width,
+                      NSHeight(rows));
 }
 - (NSRect)knobRect {
-    const NSRect bar = [self barRect];
+    const NSRect bar = [self scrollBarRect];
     const double all = [self rowCount] * row_height, seen = NSHeight(bar);
     if (all <= seen) return NSZeroRect;
-    const double height = std::min(seen, std::max(least_knob, seen * seen / all));
-    const double top = (seen - height) * _scroll / [self greatestScroll];
-    return NSMakeRect(NSMinX(bar) + 3, NSMinY(bar) + top, bar_width - 6, height);
+    const double height = std::min(seen, std::max(min_knob_height, seen * seen / all));
+    const double top = (seen - height) * _scroll / [self maxScroll];
+    return NSMakeRect(NSMinX(bar) + 3, NSMinY(bar) + top, scroll_bar_width - 6, height);
 }
 
-// Scrolling. Whole rows: nothing is ever half seen at the top.
+// Scrolling, by whole rows.
 
 - (void)scrollTo:(CGFloat)scroll {
-    const double limit = std::ceil([self greatestScroll] / row_height) * row_height;
+    const double limit = std::ceil([self maxScroll] / row_height) * row_height;
     scroll = std::clamp(std::round(scroll / row_height) * row_height, 0.0, limit);
     if (scroll == _scroll) return;
     _scroll = scroll;
@@ -97,7 +98,7 @@ constexpr double bar_width = 12, least_knob = 24, lines_per_wheel = 3;
     [self scrollTo:_scroll];
 }
 - (void)scrollWheel:(NSEvent*)event {
-    [self scrollTo:_scroll - [event deltaY] * lines_per_wheel * row_height];
+    [self scrollTo:_scroll - [event deltaY] * rows_per_wheel_line * row_height];
 }
 
 - (NSInteger)cursor {
@@ -119,17 +120,17 @@ constexpr double bar_width = 12, least_knob = 24, lines_per_wheel = 3;
     return [event type] == NSLeftMouseDragged ? event : nil;
 }
 
-- (void)dragBar:(NSEvent*)event {
-    const NSRect bar = [self barRect], knob = [self knobRect];
+- (void)dragScrollBar:(NSEvent*)event {
+    const NSRect bar = [self scrollBarRect], knob = [self knobRect];
     if (NSIsEmptyRect(knob)) return;
     NSPoint point = [self convertPoint:[event locationInWindow] fromView:nil];
     const bool on_knob = point.y >= NSMinY(knob) && point.y < NSMaxY(knob);
-    _grip = on_knob ? point.y - NSMinY(knob) : NSHeight(knob) / 2;
+    // Where on the knob the mouse holds it.
+    const double grip = on_knob ? point.y - NSMinY(knob) : NSHeight(knob) / 2;
     while (event) {
         point = [self convertPoint:[event locationInWindow] fromView:nil];
         const double room = NSHeight(bar) - NSHeight(knob);
-        if (room > 0)
-            [self scrollTo:(point.y - _grip - NSMinY(bar)) / room * [self greatestScroll]];
+        if (room > 0) [self scrollTo:(point.y - grip - NSMinY(bar)) / room * [self maxScroll]];
         event = [self nextDrag];
     }
 }
@@ -137,20 +138,20 @@ constexpr double bar_width = 12, least_knob = 24, lines_per_wheel = 3;
 - (void)mouseDown:(NSEvent*)event {
     NSPoint point = [self convertPoint:[event locationInWindow] fromView:nil];
     if (point.y < header_height) return;
-    if ([self greatestScroll] > 0 && NSPointInRect(point, [self barRect])) {
-        [self dragBar:event];
+    if ([self maxScroll] > 0 && NSPointInRect(point, [self scrollBarRect])) {
+        [self dragScrollBar:event];
         return;
     }
     const NSInteger row = [self rowAt:point.y];
-    const BOOL any = row < [self rowCount];
-    if (any) [self setCursor:row];
-    [self pressRow:any ? row : -1 modifiers:[event modifierFlags]];
-    if (any && [event clickCount] == 2) {
+    const BOOL onRow = row < [self rowCount];
+    if (onRow) [self setCursor:row];
+    [self pressRow:onRow ? row : -1 modifiers:[event modifierFlags]];
+    if (onRow && [event clickCount] == 2) {
         [self openRow:row];
         return;
     }
     NSInteger last = row;
-    while (any && (event = [self nextDrag])) {
+    while (onRow && (event = [self nextDrag])) {
         point = [self convertPoint:[event locationInWindow] fromView:nil];
         const NSInteger at = std::min([self rowAt:point.y], [self rowCount] - 1);
         if (at == last || at < 0) continue;
@@ -211,23 +212,23 @@ constexpr double bar_width = 12, least_knob = 24, lines_per_wheel = 3;
 - (void)drawRowAt:(NSInteger)row {
     const NSRect rect = [self rectOfRow:row];
     const BOOL selected = [self isRowSelected:row], focus = [self hasFocus];
-    look::Part ground = row % 2 ? look::Part::Stripe : look::Part::List;
-    look::Part text = look::Part::Text;
+    style::ColorRole background = row % 2 ? style::ColorRole::Stripe : style::ColorRole::List;
+    style::ColorRole text = style::ColorRole::Text;
     if (selected) {
-        ground = focus ? look::Part::Selected : look::Part::SelectedIdle;
-        if (focus) text = look::Part::SelectedText;
+        background = focus ? style::ColorRole::Selected : style::ColorRole::SelectedIdle;
+        if (focus) text = style::ColorRole::SelectedText;
     }
-    look::fill(rect, ground);
-    [self drawRow:row inRect:rect color:look::color(text)];
+    style::fill(rect, background);
+    [self drawRow:row inRect:rect color:style::color(text)];
     if (focus && row == _cursor) {
-        [look::color(look::Part::Highlight) setFill];
+        [style::color(style::ColorRole::Highlight) setFill];
         NSFrameRect(rect);
     }
 }
 
 - (void)drawRect:(NSRect)__attribute__((unused))dirty {
     const NSRect bounds = [self bounds], rows = [self rowsRect];
-    look::fill(rows, look::Part::List);
+    style::fill(rows, style::ColorRole::List);
     [NSGraphicsContext saveGraphicsState];
     NSRectClip(rows);
     const NSInteger count = [self rowCount];
@@ -235,16 +236,16 @@ constexpr double bar_width = 12, least_knob = 24, lines_per_wheel = 3;
          row < count && NSMinY([self rectOfRow:row]) < NSMaxY(rows); ++row)
         [self drawRowAt:row];
     if (count == 0)
-        look::draw_text([self emptyText], NSInsetRect(rows, 12, 0),
-                        look::color(look::Part::DimText), 2);
+        style::draw_text([self emptyText], NSInsetRect(rows, 12, 0),
+                         style::color(style::ColorRole::DimText), NSCenterTextAlignment);
     const NSRect knob = [self knobRect];
     if (!NSIsEmptyRect(knob)) {
-        look::fill([self barRect], look::Part::Stripe);
-        [look::color(look::Part::DimText) setFill];
+        style::fill([self scrollBarRect], style::ColorRole::Stripe);
+        [style::color(style::ColorRole::DimText) setFill];
         [[NSBezierPath bezierPathWithRoundedRect:knob xRadius:3 yRadius:3] fill];
     }
     [NSGraphicsContext restoreGraphicsState];
-    look::fill(NSMakeRect(0, 0, NSWidth(bounds), header_height), look::Part::Header);
+    style::fill(NSMakeRect(0, 0, NSWidth(bounds), header_height), style::ColorRole::Header);
     [self drawHeader:NSMakeRect(0, 0, NSWidth([self rectOfRow:0]), header_height)];
 }
 

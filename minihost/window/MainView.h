@@ -1,5 +1,4 @@
-// What fills the window below the menu bar: composition view, layer list, dock and status line, in
-// their places whatever the window's size.
+// Fills the main window below the menu bar: composition view, layer list, dock and status line.
 
 #pragma once
 
@@ -7,22 +6,22 @@
 
 #include <Cocoa/Cocoa.h>
 
-@class CompositionView, LayerList;
+@class CompositionView, LayerListView;
 
-struct DeskState;
+struct MainViewState;
 
-@interface Desk : NSView {
+@interface MainView : NSView {
   @private
-    struct DeskState* _state;
-    CompositionView* _view; // held as subviews
-    LayerList* _list;
+    struct MainViewState* _state;
+    CompositionView* _view; // retained as subviews
+    LayerListView* _list;
 }
-- (void)setWorkbench:(minihost::Workbench*)bench;
+- (void)setEditor:(minihost::SceneEditor*)editor;
 - (CompositionView*)compositionView;
-- (LayerList*)layerList;
+- (LayerListView*)layerList;
 
-// A view stands in the dock, below its title, while it is shown there; nil leaves the dock empty.
-- (void)dock:(NSView*)view title:(const std::string&)title;
-- (void)setStatus:(const std::string&)text; // draws it if it is another one
-- (void)lookChanged;                        // draws view and list anew
+// Shows a panel in the dock, below its title; nil leaves the dock empty.
+- (void)dock:(NSView*)panel title:(const std::string&)title;
+- (void)setStatus:(const std::string&)text;
+- (void)contentsChanged; // redraws composition view and layer list
 @end

@@ -7,10 +7,10 @@
 
 using namespace minihost;
 
-struct DeskState {
+struct MainViewState {
     NSView* docked = nil;
     std::string dock_title, status;
-    Layout layout;
+    WindowLayout layout;
 };
 
 namespace {
@@ -21,17 +21,17 @@ NSRect rect(const Box& box) {
 
 } // namespace
 
-@interface Desk (Private)
+@interface MainView (Private)
 - (void)layOut;
 @end
 
-@implementation Desk
+@implementation MainView
 - (id)initWithFrame:(NSRect)frame {
     self = [super initWithFrame:frame];
     if (!self) return nil;
-    _state = new DeskState();
+    _state = new MainViewState();
     _view = [[CompositionView alloc] initWithFrame:NSZeroRect];
-    _list = [[LayerList alloc] initWithFrame:NSZeroRect];
+    _list = [[LayerListView alloc] initWithFrame:NSZeroRect];
     [self addSubview:_view];
     [self addSubview:_list];
     [_view release];
@@ -47,23 +47,23 @@ NSRect rect(const Box& box) {
     return YES;
 }
 
-- (void)setWorkbench:(Workbench*)bench {
-    [_view setWorkbench:bench];
-    [_list setWorkbench:bench];
+- (void)setEditor:(SceneEditor*)editor {
+    [_view setEditor:editor];
+    [_list setEditor:editor];
 }
 - (CompositionView*)compositionView {
     return _view;
 }
-- (LayerList*)layerList {
+- (LayerListView*)layerList {
     return _list;
 }
 
 - (void)layOut {
     const NSSize size = [self bounds].size;
-    Docked docked;
+    DockedSize docked;
     if (_state->docked)
         docked = {[_state->docked frame].size.width, [_state->docked frame].size.height};
-    _state->layout = lay_out(size.width, size.height, docked);
+    _state->layout = window_layout(size.width, size.height, docked);
     [_view setFrame:rect(_state->layout.view)];
     [_list setFrame:rect(_state->layout.list)];
     if (_state->docked)
@@ -74,13 +74,13 @@ NSRect rect(const Box& box) {
     [super setFrameSize:size];
     if (_state) [self layOut];
 }
-// The parts are laid out by layOut alone.
+// layOut alone lays out the parts.
 - (BOOL)autoresizesSubviews {
     return NO;
 }
 
-- (void)dock:(NSView*)view title:(const std::string&)title {
-    _state->docked = view;
+- (void)dock:(NSView*)panel title:(const std::string&)title {
+    _state->docked = panel;
     _state->dock_title = title;
     [self layOut];
 }
@@ -90,22 +90,22 @@ NSRect rect(const Box& box) {
     _state->status = text;
     [self setNeedsDisplayInRect:rect(_state->layout.status)];
 }
-- (void)lookChanged {
+- (void)contentsChanged {
     [_view setNeedsDisplay:YES];
     [_list rowsChanged];
 }
 
 - (void)drawRect:(NSRect)__attribute__((unused))dirty {
-    const Layout& at = _state->layout;
-    look::fill([self bounds], look::Part::Line);
+    const WindowLayout& at = _state->layout;
+    style::fill([self bounds], style::ColorRole::Line);
     if (_state->docked) {
-        look::fill(rect(at.dock), look::Part::Panel);
-        look::fill(rect(at.dock_header), look::Part::Header);
-        look::draw_text(_state->dock_title, NSInsetRect(rect(at.dock_header), 8, 0),
-                        look::color(look::Part::HeaderText));
+        style::fill(rect(at.dock), style::ColorRole::Panel);
+        style::fill(rect(at.dock_header), style::ColorRole::Header);
+        style::draw_text(_state->dock_title, NSInsetRect(rect(at.dock_header), 8, 0),
+                         style::color(style::ColorRole::HeaderText));
     }
-    look::fill(rect(at.status), look::Part::Header);
-    look::draw_text(_state->status, NSInsetRect(rect(at.status), 10, 0),
-                    look::color(look::Part::HeaderText));
+    style::fill(rect(at.status), style::ColorRole::Header);
+    style::draw_text(_state->status, NSInsetRect(rect(at.status), 10, 0),
+                     style::color(style::ColorRole::HeaderText));
 }
 @end

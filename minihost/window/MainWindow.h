@@ -1,9 +1,10 @@
 // The verb "show": a window of the desktop in which the plug-in is used as in a real host.
 //
-// 1. The window is opened, and gives the session its screen: panels are docked in it.
-// 2. run() shows the session's scene, opens the plug-in's dialog, and takes the user's events until
-//    he quits, with idle calls in between.
-// 3. The session unloads the plug-in; after that the window may go.
+// 1. The constructor opens the window, and make_dialog_driver() is for the session: panels are
+//    docked in the window.
+// 2. run() shows the session's scene, opens the plug-in's dialog, and handles the user's events,
+//    with idle calls in between, until the user quits.
+// 3. The session unloads the plug-in; only then may the window be destroyed.
 
 #pragma once
 
@@ -16,23 +17,23 @@ namespace minihost {
 
 struct MainWindowOptions {
     std::string scene;            // its file
-    double scale = 0;             // pixels a point; 0: the desktop's own
+    double scale = 0;             // pixels per point; 0: the desktop's own
     double width = 0, height = 0; // points, with the menu bar; 0: what the desktop has room for
     Palette palette = Palette::Dark;
-    int frames = 0;         // ends after so many drawn frames; 0: when the user quits
+    int frames = 0;         // closes after so many drawn frames; 0: when the user quits
     std::string screenshot; // a file for the last of them
 };
 
 class MainWindow {
   public:
-    // Opens the window. Throws ActionError when there is no desktop to open it on.
+    // Throws ActionError if there is no desktop to open a window on.
     explicit MainWindow(const MainWindowOptions& options);
     ~MainWindow();
     MainWindow(const MainWindow&) = delete;
     MainWindow& operator=(const MainWindow&) = delete;
 
     std::unique_ptr<DialogDriver> make_dialog_driver();
-    // Throws ActionError for a screenshot that cannot be written.
+    // Throws ActionError if the screenshot cannot be written.
     void run(Session& session);
 
   private:

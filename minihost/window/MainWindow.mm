@@ -17,84 +17,106 @@
 #include <AppKit/NSDisplayStandIn.h>
 #include <optional>
 
-using namespace minihost;
-
 namespace {
 
-// More often than ten times a second, also when other things come between.
+// More often than ten times a second, even if handling an event delays one.
 constexpr double seconds_between_idle_calls = 0.085;
 
 } // namespace
 
-// It fills the screen below the menu bar, behind whatever the plug-in opens.
-@interface DeskWindow : NSWindow
+// Fills the screen below the menu bar, behind whatever the plug-in opens.
+@interface BorderlessWindow : NSWindow
 @end
-@implementation DeskWindow
+@implementation BorderlessWindow
 - (BOOL)canBecomeKeyWindow {
     return YES;
 }
 @end
 
-// Fires between the user's events.
-@interface Ticker : NSObject {
-  @public
-    void* _work; // a Ticking: the runtime cannot describe it
-}
-- (void)tick:(NSTimer*)timer;
-@end
+struct TimerTask {
+    virtual void run() = 0;
 
-// What is to be done then.
-struct Ticking {
-    minihost::Session& session;
-    std::function<void()> after;
-    bool inside = false;
-
-    // None inside another, and no idle call while the plug-in itself waits for the user.
-    void tick() {
-        if (inside) return;
-        inside = true;
-        if (![NSApp modalWindow] || is_asking()) session.enter([&] { session.host().idle(); });
-        after();
-        inside = false;
-    }
+  protected:
+    ~TimerTask() = default;
 };
 
-@implementation Ticker
-- (void)tick:(NSTimer*)__attribute__((unused))timer {
-    static_cast<Ticking*>(_work)->tick();
+// Runs a task whenever a timer fires.
+@interface TimerTarget : NSObject {
+  @public
+    struct TimerTask* _task; // not owned
+}
+- (void)timerFired:(NSTimer*)timer;
+@end
+
+@implementation TimerTarget
+- (void)timerFired:(NSTimer*)__attribute__((unused))timer {
+    _task->run();
 }
 @end
 
 namespace minihost {
 
-struct MainWindow::State {
+struct MainWindow::State : TimerTask {
     MainWindowOptions options;
-    DeskWindow* window = nil;
-    Desk* desk = nil;
+    BorderlessWindow* window = nil;
+    MainView* main_view = nil;
 
     // While it runs.
-    std::optional<Workbench> bench;
-    Workbench::Look shown;
+    std::optional<SceneEditor> editor;
+    SceneEditor::DisplayState shown;
     std::size_t frames_before = 0;
+    bool is_in_tick = false;
 
-    bool has_all_frames() const {
+    bool has_drawn_all_frames() const {
         return options.frames > 0 &&
                NSFramesDrawn() >= frames_before + static_cast<std::size_t>(options.frames);
     }
 
-    // Draws what may look different now.
+    // Redraws what may look different now.
     void refresh() {
-        const Workbench::Look now = bench->look();
+        const SceneEditor::DisplayState now = editor->display_state();
         if (!(now == shown)) {
             shown = now;
-            [desk lookChanged];
+            [main_view contentsChanged];
         }
-        const NSRect view = [[desk compositionView] bounds];
-        const int percent = static_cast<int>(
-            bench->view.magnification(bench->scene(), NSWidth(view), NSHeight(view)) * 100 + 0.5);
-        [desk setStatus:bench->status() + "   " + std::to_string(percent) + " %"];
-        NSString* title = look::string(bench->title());
+        const NSSize size = [[main_view compositionView] bounds].size;
+        const double magnification =
+            editor->viewpoint.magnification(editor->scene(), size.width, size.height);
+        const int percent = static_cast<int>(magnification * 100 + 0.5);
+        [main_view setStatus:editor->status() + "   " + std::to_string(percent) + " %"];
+        NSString* title = style::printable_string(editor->title());
         if (![[window title] isEqualToString:title]) [window setTitle:title];
+    }
+
+    // An idle call, unless the plug-in itself waits for the user; not within another tick.
+    void run() override {
+        if (is_in_tick) return;
+        is_in_tick = true;
+        Session& session = editor->session();
+        if (![NSApp modalWindow] || prompt_is_open()) session.enter([&] { session.host().idle(); });
+        refresh();
+        // The frames that are counted are drawn even if nothing changes.
+        if (options.frames > 0) [window setViewsNeedDisplay:YES];
+        is_in_tick = false;
+    }
+
+    void handle_events(MenuCommands* commands) {
+        while (![commands hasQuit] && !has_drawn_all_frames()) {
+            editor->session().enter([&] {
+                NSEvent* event =
+                    [NSApp nextEventMatchingMask:NSAnyEventMask
+                                       untilDate:[NSDate dateWithTimeIntervalSinceNow:0.25]
+                                          inMode:NSDefaultRunLoopMode
+                                         dequeue:YES];
+                try {
+                    [NSApp sendEvent:event];
+                    [commands quitIfWanted];
+                } catch (const std::exception& error) {
+                    show_error("This could not be done", error.what());
+                }
+            });
+            refresh();
+        }
     }
 };
 
@@ -105,25 +127,26 @@ MainWindow::MainWindow(const MainWindowOptions& options) : _state(std::make_uniq
     if (!NSUseWindowDisplay(@"minihost", size, options.scale,
                             NSMakeSize(least_window_width, least_window_height)))
         throw ActionError("show: there is no desktop to open a window on");
-    look::use(options.palette);
+    style::use_palette(options.palette);
     NSUseLightAppearance(options.palette == Palette::Light);
     [NSApplication sharedApplication];
-    _state->window = [[DeskWindow alloc] initWithContentRect:[[NSScreen mainScreen] visibleFrame]
-                                                   styleMask:NSBorderlessWindowMask
-                                                     backing:NSBackingStoreBuffered
-                                                       defer:YES];
+    _state->window =
+        [[BorderlessWindow alloc] initWithContentRect:[[NSScreen mainScreen] visibleFrame]
+                                            styleMask:NSBorderlessWindowMask
+                                              backing:NSBackingStoreBuffered
+                                                defer:YES];
     claim_window(_state->window);
     [_state->window setReleasedWhenClosed:NO];
     [_state->window setLevel:NSNormalWindowLevel - 1];
     [_state->window zoom:nil];
-    _state->desk = [[Desk alloc] initWithFrame:NSZeroRect];
-    [_state->window setContentView:_state->desk];
-    [_state->desk release];
+    _state->main_view = [[MainView alloc] initWithFrame:NSZeroRect];
+    [_state->window setContentView:_state->main_view];
+    [_state->main_view release];
 }
 
 MainWindow::~MainWindow() {
     const AutoreleasePool pool;
-    [_state->desk setWorkbench:nullptr];
+    [_state->main_view setEditor:nullptr];
     disclaim_window(_state->window);
     [_state->window close];
     [_state->window release];
@@ -132,63 +155,46 @@ MainWindow::~MainWindow() {
 }
 
 std::unique_ptr<DialogDriver> MainWindow::make_dialog_driver() {
-    Desk* desk = _state->desk;
-    return minihost::make_dialog_driver([=] { return make_docked_panel(desk); });
+    MainView* main_view = _state->main_view;
+    return minihost::make_dialog_driver([=] { return make_docked_panel(main_view); });
 }
 
 void MainWindow::run(Session& session) {
     const AutoreleasePool pool;
     State& state = *_state;
-    state.bench.emplace(session, state.options.scene);
-    [state.desk setWorkbench:&*state.bench];
-    Commands* commands = [[Commands alloc] initWithWorkbench:&*state.bench];
+    state.editor.emplace(session, state.options.scene);
+    [state.main_view setEditor:&*state.editor];
+    MenuCommands* commands = [[MenuCommands alloc] initWithEditor:&*state.editor];
     [NSApp setDelegate:commands];
     [NSApp setMainMenu:[commands menuBar]];
     [state.window makeKeyAndOrderFront:nil];
-    [state.window makeFirstResponder:[state.desk layerList]];
+    [state.window makeFirstResponder:[state.main_view layerList]];
     try {
         run_step(session, make_step({"open"}, "show"));
     } catch (const std::exception& error) {
         session.host().report(error.what());
     }
+
     state.frames_before = NSFramesDrawn();
-    Ticking work{session, [&] {
-                     state.refresh();
-                     // Frames that are counted come whether anything changes or not.
-                     if (state.options.frames > 0) [state.window setViewsNeedDisplay:YES];
-                 }};
-    Ticker* ticker = [[Ticker alloc] init];
-    ticker->_work = &work;
+    TimerTarget* target = [[TimerTarget alloc] init];
+    target->_task = &state;
     NSTimer* timer = [NSTimer timerWithTimeInterval:seconds_between_idle_calls
-                                             target:ticker
-                                           selector:@selector(tick:)
+                                             target:target
+                                           selector:@selector(timerFired:)
                                            userInfo:nil
                                             repeats:YES];
     [[NSRunLoop currentRunLoop] addTimer:timer forMode:NSRunLoopCommonModes];
     state.refresh();
-    while (![commands isFinished] && !state.has_all_frames()) {
-        session.enter([&] {
-            NSEvent* event = [NSApp nextEventMatchingMask:NSAnyEventMask
-                                                untilDate:[NSDate dateWithTimeIntervalSinceNow:0.25]
-                                                   inMode:NSDefaultRunLoopMode
-                                                  dequeue:YES];
-            try {
-                [NSApp sendEvent:event];
-                [commands finishWhatWaits];
-            } catch (const std::exception& error) {
-                tell("This could not be done", error.what());
-            }
-        });
-        state.refresh();
-    }
+    state.handle_events(commands);
     NSPicture picture = NSRenderScreen();
     [timer invalidate];
-    [ticker release];
+    [target release];
     [NSApp setMainMenu:nil];
     [NSApp setDelegate:nil];
     [commands release];
-    [state.desk setWorkbench:nullptr];
-    state.bench.reset();
+    [state.main_view setEditor:nullptr];
+    state.editor.reset();
+
     if (state.options.screenshot.empty()) return;
     try {
         write_file(state.options.screenshot,

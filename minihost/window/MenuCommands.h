@@ -1,5 +1,5 @@
-// The menu bar's commands: what each is called, its shortcut, whether it can be chosen now, and
-// what it does. Also the application's delegate: asks about changes before the window goes.
+// The menu bar's commands: title, shortcut, whether each is enabled, and what it does. Also the
+// application's delegate, which asks about unsaved changes before quitting.
 
 #pragma once
 
@@ -7,14 +7,15 @@
 
 #include <Cocoa/Cocoa.h>
 
-@interface Commands : NSObject <NSApplicationDelegate> {
+@interface MenuCommands : NSObject <NSApplicationDelegate> {
   @private
-    minihost::Workbench* _bench; // lives longer
-    BOOL _wantsToQuit;           // once no modal panel of the plug-in is open any more
-    BOOL _finished;
+    minihost::SceneEditor* _editor; // not owned
+    BOOL _wantsToQuit;              // as soon as no modal panel of the plug-in is open
+    BOOL _hasQuit;
 }
-- (id)initWithWorkbench:(minihost::Workbench*)bench;
-- (NSMenu*)menuBar; // autoreleased; its items have the receiver as target
-- (BOOL)isFinished; // the user has quit, and nothing is left that was to be saved
-- (void)finishWhatWaits;
+- (id)initWithEditor:(minihost::SceneEditor*)editor;
+- (NSMenu*)menuBar;
+// To be called between events: asks about unsaved changes if the user wants to quit.
+- (void)quitIfWanted;
+- (BOOL)hasQuit;
 @end

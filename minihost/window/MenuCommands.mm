@@ -1,6 +1,5 @@
 #include "minihost/window/MenuCommands.h"
 
-#include "minihost/preview/Preview.h"
 #include "minihost/window/FilePanel.h"
 #include "minihost/window/Prompts.h"
 #include "minihost/window/WindowStyle.h"
@@ -11,17 +10,17 @@ using namespace minihost;
 
 namespace {
 
-constexpr double menu_zoom = 1.25;
+constexpr double zoom_step = 1.25;
 
-// The commands of one menu, in their order. An empty title is a line between them.
-struct Row {
+// One command. An empty title is a separator.
+struct Command {
     const char* menu;
     const char* title;
     const char* action;
     const char* key; // with Ctrl; a capital letter with Shift too
     int tag = 0;
 };
-constexpr Row rows[] = {
+constexpr Command commands[] = {
     {"File", "Open…", "openScene:", "o"},
     {"File", "Save", "saveScene:", "s"},
     {"File", "Save As…", "saveSceneAs:", "S"},
@@ -45,44 +44,44 @@ constexpr Row rows[] = {
     {"View", "Reset View", "resetView:", "0"},
 };
 
-// A file beside another, with another extension.
-std::string beside(const std::string& path, const char* extension) {
+// The same file name with another extension.
+std::string with_extension(const std::string& path, const char* extension) {
     return std::filesystem::path(path).replace_extension(extension).string();
 }
 
-// Tells what could not be done instead of throwing on.
+// Shows an error instead of throwing it; whether there was none.
 template <typename Body>
 bool attempt(const char* what, const Body& body) {
     try {
         body();
         return true;
     } catch (const std::exception& error) {
-        tell(what, error.what());
+        show_error(what, error.what());
         return false;
     }
 }
 
 } // namespace
 
-@implementation Commands
-- (id)initWithWorkbench:(Workbench*)bench {
+@implementation MenuCommands
+- (id)initWithEditor:(SceneEditor*)editor {
     self = [super init];
-    if (self) _bench = bench;
+    if (self) _editor = editor;
     return self;
 }
 
 // The menus.
 
-- (void)addRow:(const Row&)row to:(NSMenu*)menu {
-    if (!*row.title) {
+- (void)addCommand:(const Command&)command to:(NSMenu*)menu {
+    if (!*command.title) {
         [menu addItem:[NSMenuItem separatorItem]];
         return;
     }
-    NSMenuItem* item = [menu addItemWithTitle:look::string(row.title)
-                                       action:sel_registerName(row.action)
-                                keyEquivalent:look::string(row.key)];
+    NSMenuItem* item = [menu addItemWithTitle:style::printable_string(command.title)
+                                       action:sel_registerName(command.action)
+                                keyEquivalent:style::printable_string(command.key)];
     [item setTarget:self];
-    [item setTag:row.tag];
+    [item setTag:command.tag];
 }
 
 - (NSMenu*)addMenu:(NSString*)title to:(NSMenu*)bar {
@@ -95,16 +94,16 @@ bool attempt(const char* what, const Body& body) {
 - (NSMenu*)menuBar {
     NSMenu* bar = [[[NSMenu alloc] initWithTitle:@""] autorelease];
     NSMenu* menu = nil;
-    for (const Row& row : rows) {
-        NSString* title = look::string(row.menu);
+    for (const Command& command : commands) {
+        NSString* title = style::printable_string(command.menu);
         if (![[menu title] isEqualToString:title]) menu = [self addMenu:title to:bar];
-        [self addRow:row to:menu];
+        [self addCommand:command to:menu];
     }
     menu = [self addMenu:@"Window" to:bar];
     NSInteger index = 0;
-    for (const MenuItem& command : _bench->session().host().menu()) {
-        NSMenuItem* item = [menu addItemWithTitle:look::string(command.text)
-                                           action:@selector(choosePlugin:)
+    for (const MenuItem& command : _editor->session().host().menu()) {
+        NSMenuItem* item = [menu addItemWithTitle:style::printable_string(command.text)
+                                           action:@selector(choosePluginCommand:)
                                     keyEquivalent:index == 0 ? @"t" : @""];
         [item setTarget:self];
         [item setTag:index++];
@@ -112,63 +111,63 @@ bool attempt(const char* what, const Body& body) {
     return bar;
 }
 
-- (const MenuItem*)commandOf:(NSMenuItem*)item {
-    const auto& commands = _bench->session().host().menu();
+- (const MenuItem*)pluginCommandOf:(NSMenuItem*)item {
+    const auto& menu = _editor->session().host().menu();
     const auto index = static_cast<std::size_t>([item tag]);
-    return index < commands.size() ? &commands[index] : nullptr;
+    return index < menu.size() ? &menu[index] : nullptr;
 }
 
-- (BOOL)validatePlugin:(NSMenuItem*)item {
-    Session& session = _bench->session();
+- (BOOL)validatePluginCommand:(NSMenuItem*)item {
+    Session& session = _editor->session();
     session.enter([&] { session.host().update_menu(); });
-    const MenuItem* command = [self commandOf:item];
+    const MenuItem* command = [self pluginCommandOf:item];
     if (!command) return NO;
-    [item setTitle:look::string(command->text)];
+    [item setTitle:style::printable_string(command->text)];
     [item setState:command->checked ? NSOnState : NSOffState];
     return command->enabled;
 }
 
 - (BOOL)validateMenuItem:(NSMenuItem*)item {
     const SEL action = [item action];
-    if (action == @selector(choosePlugin:)) return [self validatePlugin:item];
+    if (action == @selector(choosePluginCommand:)) return [self validatePluginCommand:item];
     if (action == @selector(chooseView:)) {
-        const BOOL chosen = [item tag] == static_cast<NSInteger>(_bench->view.kind());
+        const BOOL chosen = [item tag] == static_cast<NSInteger>(_editor->viewpoint.kind());
         [item setState:chosen ? NSOnState : NSOffState];
     }
     if (action == @selector(undoStep:)) {
-        [item setTitle:look::string(_bench->undo_title())];
-        return _bench->can_undo();
+        [item setTitle:style::printable_string(_editor->undo_title())];
+        return _editor->can_undo();
     }
     if (action == @selector(redoStep:)) {
-        [item setTitle:look::string(_bench->redo_title())];
-        return _bench->can_redo();
+        [item setTitle:style::printable_string(_editor->redo_title())];
+        return _editor->can_redo();
     }
-    if (action == @selector(selectAllLayers:)) return _bench->scene().layer_count() > 0;
-    if (action == @selector(deselectLayers:)) return !_bench->scene().selection().empty();
+    if (action == @selector(selectAllLayers:)) return _editor->scene().layer_count() > 0;
+    if (action == @selector(deselectLayers:)) return !_editor->scene().selection().empty();
     return YES;
 }
 
-- (void)choosePlugin:(NSMenuItem*)item {
-    const MenuItem* command = [self commandOf:item];
+- (void)choosePluginCommand:(NSMenuItem*)item {
+    const MenuItem* command = [self pluginCommandOf:item];
     if (!command) return;
     const AEGP_Command number = command->command;
-    Session& session = _bench->session();
+    Session& session = _editor->session();
     session.enter([&] { session.host().choose(number); });
 }
 
 // File.
 
 - (BOOL)saveTo:(const std::string&)path {
-    Workbench& bench = *_bench;
-    return attempt("The scene could not be saved", [&] { bench.save(path); });
+    SceneEditor& editor = *_editor;
+    return attempt("The scene could not be saved", [&] { editor.save(path); });
 }
 
-// Whether what is open may go: it is saved, has no changes, or the user does not want them.
-- (BOOL)mayLoseScene {
-    if (!_bench->has_changes()) return YES;
-    switch (ask_to_save(_bench->file_name())) {
+// Whether the scene may be closed: it has no unsaved changes, or they are now saved or discarded.
+- (BOOL)mayCloseScene {
+    if (!_editor->has_changes()) return YES;
+    switch (ask_to_save(_editor->file_name())) {
     case SaveAnswer::Save:
-        return [self saveTo:_bench->path()];
+        return [self saveTo:_editor->path()];
     case SaveAnswer::Discard:
         return YES;
     default:
@@ -177,55 +176,56 @@ bool attempt(const char* what, const Body& body) {
 }
 
 - (void)openScene:(id)__attribute__((unused))sender {
-    if (![self mayLoseScene]) return;
-    const auto path =
-        ask_file({"Open a Scene", "Open", beside(_bench->path(), ".json"), {".json"}, true});
-    Workbench& bench = *_bench;
-    if (path) attempt("The scene could not be opened", [&] { bench.open(*path); });
+    if (![self mayCloseScene]) return;
+    const auto path = run_file_panel(
+        {"Open a Scene", "Open", with_extension(_editor->path(), ".json"), {".json"}, true});
+    SceneEditor& editor = *_editor;
+    if (path) attempt("The scene could not be opened", [&] { editor.open(*path); });
 }
 - (void)saveScene:(id)__attribute__((unused))sender {
-    [self saveTo:_bench->path()];
+    [self saveTo:_editor->path()];
 }
 - (void)saveSceneAs:(id)__attribute__((unused))sender {
-    const auto path = ask_file({"Save the Scene As", "Save", _bench->path(), {".json"}, false});
+    const auto path =
+        run_file_panel({"Save the Scene As", "Save", _editor->path(), {".json"}, false});
     if (path) [self saveTo:*path];
 }
 - (void)exportPicture:(id)__attribute__((unused))sender {
-    const auto path = ask_file({"Export a Picture (.png, .svg)",
-                                "Export",
-                                beside(_bench->path(), ".png"),
-                                {".png", ".svg"},
-                                false});
-    Workbench& bench = *_bench;
-    if (path) attempt("The picture could not be written", [&] { bench.export_picture(*path); });
+    const auto path = run_file_panel({"Export a Picture (.png, .svg)",
+                                      "Export",
+                                      with_extension(_editor->path(), ".png"),
+                                      {".png", ".svg"},
+                                      false});
+    SceneEditor& editor = *_editor;
+    if (path) attempt("The picture could not be written", [&] { editor.export_picture(*path); });
 }
 
-// The window closes only between events, never from within a menu or a modal panel.
+// The application quits only between events, never inside a menu or a modal panel.
 - (void)quit:(id)__attribute__((unused))sender {
     _wantsToQuit = YES;
 }
 - (NSApplicationTerminateReply)applicationShouldTerminate:(NSApplication*)__attribute__((unused))
                                                           application {
-    // The host's own questions wait for their answer; an alert of the plug-in's is taken as read.
-    if (is_asking()) return NSTerminateCancel;
+    // The host's own prompts stay until they are answered; an alert of the plug-in's is closed.
+    if (prompt_is_open()) return NSTerminateCancel;
     _wantsToQuit = YES;
     if ([NSApp modalWindow]) [NSApp abortModal];
     return NSTerminateCancel;
 }
-- (void)finishWhatWaits {
+- (void)quitIfWanted {
     if (!_wantsToQuit || [NSApp modalWindow]) return;
     _wantsToQuit = NO;
-    _finished = [self mayLoseScene];
+    _hasQuit = [self mayCloseScene];
 }
-- (BOOL)isFinished {
-    return _finished;
+- (BOOL)hasQuit {
+    return _hasQuit;
 }
 
 // Edit.
 
 - (void)perform:(const char*)action {
-    Workbench& bench = *_bench;
-    attempt("This could not be done", [&] { bench.perform(action); });
+    SceneEditor& editor = *_editor;
+    attempt("This could not be done", [&] { editor.perform(action); });
 }
 - (void)undoStep:(id)__attribute__((unused))sender {
     [self perform:"undo"];
@@ -243,15 +243,15 @@ bool attempt(const char* what, const Body& body) {
 // View.
 
 - (void)chooseView:(NSMenuItem*)item {
-    _bench->view.choose(static_cast<ViewKind>([item tag]));
+    _editor->viewpoint.choose(static_cast<ViewKind>([item tag]));
 }
 - (void)zoomIn:(id)__attribute__((unused))sender {
-    _bench->view.zoom(menu_zoom);
+    _editor->viewpoint.zoom(zoom_step);
 }
 - (void)zoomOut:(id)__attribute__((unused))sender {
-    _bench->view.zoom(1 / menu_zoom);
+    _editor->viewpoint.zoom(1 / zoom_step);
 }
 - (void)resetView:(id)__attribute__((unused))sender {
-    _bench->view.reset();
+    _editor->viewpoint.reset();
 }
 @end

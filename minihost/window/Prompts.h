@@ -1,4 +1,4 @@
-// What the window itself tells and asks, in alert panels that do not count as the plug-in's.
+// What the window itself reports and asks, in alert panels that do not count as the plug-in's.
 
 #pragma once
 
@@ -7,24 +7,24 @@
 namespace minihost {
 
 // What could not be done, and why.
-void tell(const std::string& what, const std::string& why);
+void show_error(const std::string& what, const std::string& why);
 
 enum class SaveAnswer { Save, Discard, Cancel };
 SaveAnswer ask_to_save(const std::string& file_name);
 
-// Whether a file that is there may be replaced.
+// Whether an existing file may be replaced.
 bool ask_to_replace(const std::string& file_name);
 
 // Whether one of these, or the file panel, is on the screen.
-bool is_asking();
+bool prompt_is_open();
 
-// As long as it lives, is_asking() is true.
-class Asking {
+// Makes prompt_is_open() true for as long as it lives.
+class OpenPrompt {
   public:
-    Asking();
-    ~Asking();
-    Asking(const Asking&) = delete;
-    Asking& operator=(const Asking&) = delete;
+    OpenPrompt();
+    ~OpenPrompt();
+    OpenPrompt(const OpenPrompt&) = delete;
+    OpenPrompt& operator=(const OpenPrompt&) = delete;
 };
 
 } // namespace minihost

@@ -10,29 +10,30 @@ namespace minihost {
 
 namespace {
 
-int open_questions = 0;
+int open_prompts = 0;
 
 NSInteger run(const std::string& title, const std::string& message, NSString* first,
               NSString* second = nil, NSString* third = nil) {
     const AutoreleasePool pool;
-    const Asking asking;
-    NSLeaveNextAlertOut(); // only what the plug-in shows is remembered
-    return NSRunAlertPanel(look::string(title), @"%@", first, second, third, look::string(message));
+    const OpenPrompt prompt;
+    NSLeaveNextAlertOut(); // only the plug-in's alerts are recorded
+    return NSRunAlertPanel(style::printable_string(title), @"%@", first, second, third,
+                           style::printable_string(message));
 }
 
 } // namespace
 
-Asking::Asking() {
-    ++open_questions;
+OpenPrompt::OpenPrompt() {
+    ++open_prompts;
 }
-Asking::~Asking() {
-    --open_questions;
+OpenPrompt::~OpenPrompt() {
+    --open_prompts;
 }
-bool is_asking() {
-    return open_questions > 0;
+bool prompt_is_open() {
+    return open_prompts > 0;
 }
 
-void tell(const std::string& what, const std::string& why) {
+void show_error(const std::string& what, const std::string& why) {
     run(what, why, @"OK");
 }
 

@@ -1,5 +1,5 @@
 // From where the window looks at the composition: through its camera, straight at it from one of
-// three sides, or from wherever the user has turned; nearer or farther, and moved aside.
+// three sides, or from wherever the user has turned; zoomed and panned.
 
 #pragma once
 
@@ -14,41 +14,41 @@ namespace minihost {
 enum class ViewKind { Camera, Front, Top, Left, Custom };
 inline constexpr int view_kinds = 5;
 
-class ViewPoint {
+// Each kind of view keeps its own zoom, pan and rotation.
+class Viewpoint {
   public:
     ViewKind kind() const { return _kind; }
-    // Each view is found as it was left.
     void choose(ViewKind kind) { _kind = kind; }
-    // As the program first shows this view.
-    void reset() { now() = Pose{}; }
+    // Back to how this view is shown at first.
+    void reset() { current() = View{}; }
 
-    // Magnifies by a factor; the point of the picture that is `about` (in points from its middle)
-    // stays where it is.
-    void zoom(double factor, preview::Point about = {});
+    // Magnifies by a factor around a fixed point of the picture, in points from its center.
+    void zoom(double factor, preview::Point fixed = {});
     void pan(double dx, double dy); // points
-    // Turns the custom view (degrees); the others are passed over.
+    // Rotates the custom view (degrees); does nothing in the others.
     void orbit(double right, double down);
 
-    // How large the composition is: 1 is pixel for point, in the plane of the composition.
+    // Points of the window for one pixel of the composition, in its plane. The window's size is in
+    // points.
     double magnification(const Scene& scene, double width, double height) const;
-    // A picture of this size in points, with `scale` pixels for each.
+    // For a picture of this size in points, with `scale` pixels for each.
     preview::Framing framing(const Scene& scene, double width, double height, double scale) const;
     // "Front", or the camera's name.
     std::string title(const Scene& scene) const;
 
-    bool operator==(const ViewPoint&) const = default;
+    bool operator==(const Viewpoint&) const = default;
 
   private:
-    struct Pose {
+    struct View {
         double zoom = 1, x = 0, y = 0, yaw = 34, pitch = 22;
-        bool operator==(const Pose&) const = default;
+        bool operator==(const View&) const = default;
     };
-    Pose& now() { return _poses[static_cast<std::size_t>(_kind)]; }
-    const Pose& now() const { return _poses[static_cast<std::size_t>(_kind)]; }
-    preview::Lens lens(const Scene& scene) const;
+    View& current() { return _views[static_cast<std::size_t>(_kind)]; }
+    const View& current() const { return _views[static_cast<std::size_t>(_kind)]; }
+    preview::Camera camera(const Scene& scene) const;
 
     ViewKind _kind = ViewKind::Camera;
-    std::array<Pose, view_kinds> _poses{};
+    std::array<View, view_kinds> _views{};
 };
 
 } // namespace minihost

@@ -1,4 +1,4 @@
-// The window's own colours in both palettes, and its lines of text.
+// The window's own colours in both palettes, and how it draws text.
 
 #pragma once
 
@@ -7,9 +7,9 @@
 #include <Cocoa/Cocoa.h>
 #include <string>
 
-namespace minihost::look {
+namespace minihost::style {
 
-enum class Part {
+enum class ColorRole {
     Panel,  // behind the docked panel, as the plug-in draws it
     Header, // above a part
     HeaderText,
@@ -19,20 +19,21 @@ enum class Part {
     DimText,
     Line,         // between parts
     Selected,     // row of a list that has the focus
-    SelectedIdle, // of one that has not
+    SelectedIdle, // row of a list without it
     SelectedText,
     Highlight, // around what is selected in the composition
 };
 
 // For the whole process, like the host's palette.
-void use(Palette palette);
-NSColor* color(Part part);
+void use_palette(Palette palette);
+NSColor* color(ColorRole role);
 
-void fill(NSRect rect, Part part);
+void fill(NSRect rect, ColorRole role);
 NSFont* font();
-// One line in the middle of the rectangle's height, cut with an ellipsis where it does not fit.
-// Alignment: 0 left, 1 right, 2 middle. Any bytes are taken.
-void draw_text(const std::string& utf8, NSRect rect, NSColor* color, int alignment = 0);
-NSString* string(const std::string& utf8);
+// One line, vertically centred; cut with an ellipsis if it does not fit. Any bytes are accepted.
+void draw_text(const std::string& utf8, NSRect rect, NSColor* color,
+               NSTextAlignment alignment = NSLeftTextAlignment);
+// Of any bytes.
+NSString* printable_string(const std::string& utf8);
 
-} // namespace minihost::look
+} // namespace minihost::style

@@ -1,26 +1,26 @@
 #include "minihost/window/WindowStyle.h"
 
-#include "minihost/preview/Canvas.h"
+#include "minihost/preview/PrintableText.h"
 
 #include <cmath>
 
-namespace minihost::look {
+namespace minihost::style {
 
 namespace {
 
-Palette palette_in_use = Palette::Dark;
+Palette current_palette = Palette::Dark;
 
 struct Row {
-    Part part;
+    ColorRole role;
     unsigned dark, light; // 0xRRGGBB
 };
 constexpr Row rows[] = {
-    {Part::Panel, 0x353535, 0xd2d2d2},        {Part::Header, 0x2b2b2b, 0xc2c2c2},
-    {Part::HeaderText, 0xc8c8c8, 0x303030},   {Part::List, 0x262626, 0xf2f2f2},
-    {Part::Stripe, 0x2a2a2a, 0xeaeaea},       {Part::Text, 0xdcdcdc, 0x1c1c1c},
-    {Part::DimText, 0x909090, 0x6a6a6a},      {Part::Line, 0x161616, 0x9c9c9c},
-    {Part::Selected, 0x2f62a6, 0x2f6fc4},     {Part::SelectedIdle, 0x45505e, 0xb9c8dc},
-    {Part::SelectedText, 0xffffff, 0xffffff}, {Part::Highlight, 0x5cb8ff, 0x5cb8ff},
+    {ColorRole::Panel, 0x353535, 0xd2d2d2},        {ColorRole::Header, 0x2b2b2b, 0xc2c2c2},
+    {ColorRole::HeaderText, 0xc8c8c8, 0x303030},   {ColorRole::List, 0x262626, 0xf2f2f2},
+    {ColorRole::Stripe, 0x2a2a2a, 0xeaeaea},       {ColorRole::Text, 0xdcdcdc, 0x1c1c1c},
+    {ColorRole::DimText, 0x909090, 0x6a6a6a},      {ColorRole::Line, 0x161616, 0x9c9c9c},
+    {ColorRole::Selected, 0x2f62a6, 0x2f6fc4},     {ColorRole::SelectedIdle, 0x45505e, 0xb9c8dc},
+    {ColorRole::SelectedText, 0xffffff, 0xffffff}, {ColorRole::Highlight, 0x5cb8ff, 0x5cb8ff},
 };
 
 NSDictionary* attributes(NSFont* font, NSColor* color) {
@@ -47,22 +47,22 @@ NSString* cut(NSString* text, NSDictionary* look, double room) {
 
 } // namespace
 
-void use(Palette palette) {
-    palette_in_use = palette;
+void use_palette(Palette palette) {
+    current_palette = palette;
 }
 
-NSColor* color(Part part) {
+NSColor* color(ColorRole role) {
     unsigned hex = 0;
     for (const Row& row : rows)
-        if (row.part == part) hex = palette_in_use == Palette::Dark ? row.dark : row.light;
+        if (row.role == role) hex = current_palette == Palette::Dark ? row.dark : row.light;
     return [NSColor colorWithDeviceRed:(hex >> 16) / 255.0
                                  green:(hex >> 8 & 255) / 255.0
                                   blue:(hex & 255) / 255.0
                                  alpha:1];
 }
 
-void fill(NSRect rect, Part part) {
-    [color(part) setFill];
+void fill(NSRect rect, ColorRole role) {
+    [color(role) setFill];
     NSRectFill(rect);
 }
 
@@ -70,14 +70,14 @@ NSFont* font() {
     return [NSFont systemFontOfSize:12];
 }
 
-NSString* string(const std::string& utf8) {
-    NSString* text = [NSString stringWithUTF8String:preview::plain_text(utf8).c_str()];
+NSString* printable_string(const std::string& utf8) {
+    NSString* text = [NSString stringWithUTF8String:preview::printable_text(utf8).c_str()];
     return text ? text : @"";
 }
 
-void draw_text(const std::string& utf8, NSRect rect, NSColor* color, int alignment) {
+void draw_text(const std::string& utf8, NSRect rect, NSColor* color, NSTextAlignment alignment) {
     constexpr std::size_t most = 1000; // bytes; no line of a window shows more
-    NSString* text = string(utf8.size() > most ? utf8.substr(0, most) : utf8);
+    NSString* text = printable_string(utf8.size() > most ? utf8.substr(0, most) : utf8);
     if ([text length] == 0 || rect.size.width < 8) return;
     NSDictionary* look = attributes(font(), color);
     NSSize size = [text sizeWithAttributes:look];
@@ -93,4 +93,4 @@ void draw_text(const std::string& utf8, NSRect rect, NSColor* color, int alignme
         withAttributes:look];
 }
 
-} // namespace minihost::look
+} // namespace minihost::style

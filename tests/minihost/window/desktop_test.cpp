@@ -117,8 +117,8 @@ class Desktop : public testing::Test {
         for (const json& control : state["controls"])
             if (control["name"].is_string()) controls[control["name"]] = control;
         const auto [width, height] = png_size(read_file(folder / "panel.png"));
-        layout = lay_out(window_width, window_height - menu_bar_height,
-                         {static_cast<double>(width), static_cast<double>(height)});
+        layout = window_layout(window_width, window_height - menu_bar_height,
+                               {static_cast<double>(width), static_cast<double>(height)});
         process = start({MINIHOST, "show", (folder / "scene.json").string(), "--scale", "1",
                          "--window", "1000x700"},
                         2);
@@ -191,7 +191,7 @@ class Desktop : public testing::Test {
     const fs::path& folder = temporary.path;
     json scene;
     std::map<std::string, json> controls;
-    Layout layout;
+    WindowLayout layout;
     pid_t process = -1;
     std::string window;
 };

@@ -41,8 +41,8 @@ const char* const wall = R"({"format": "minihost scene 1",
 TEST(WindowLayout, FitsItsPartsTogetherAtAnySize) {
     for (const double width : {900.0, 901.0, 1280.0, 3000.0})
         for (const double height : {576.0, 777.0, 1500.0})
-            for (const Docked& docked : {Docked{}, Docked{499, 448}}) {
-                const Layout at = lay_out(width, height, docked);
+            for (const DockedSize& docked : {DockedSize{}, DockedSize{499, 448}}) {
+                const WindowLayout at = window_layout(width, height, docked);
                 EXPECT_EQ(at.status.y + at.status.height, height);
                 EXPECT_EQ(at.status.width, width);
                 EXPECT_EQ(at.list.y + at.list.height, at.status.y);
@@ -64,31 +64,32 @@ class Window : public testing::Test {
     Window()
         : session(parse_scene(wall, "test"), {}, make_null_dialog_driver(), out,
                   [](const std::string&) {}),
-          bench(session, folder / "test.json") {
-        write_file(bench.path(), wall);
+          editor(session, folder / "test.json") {
+        write_file(editor.path(), wall);
     }
 
-    preview::Plan plan(ViewKind kind) {
-        bench.view.choose(kind);
-        return preview::make_plan(bench.scene(), bench.view.framing(bench.scene(), 800, 500, 2));
+    preview::DrawList draw_list(ViewKind kind) {
+        editor.viewpoint.choose(kind);
+        return preview::make_draw_list(editor.scene(),
+                                       editor.viewpoint.framing(editor.scene(), 800, 500, 2));
     }
     // A point of the composition's space as it is seen.
-    static Point seen(const preview::Plan& plan, const preview::Vector& world) {
-        return plan.lens.project(plan.lens.view(world));
+    static Point seen(const preview::DrawList& list, const preview::Vector& world) {
+        return list.camera.project(list.camera.to_view(world));
     }
-    std::string name(LayerId id) { return id ? bench.scene().find(id)->name : "-"; }
+    std::string name(LayerId id) { return id ? editor.scene().find(id)->name : "-"; }
     std::vector<std::string> names(const std::vector<LayerId>& layers) {
         std::vector<std::string> all;
         for (const LayerId id : layers) all.push_back(name(id));
         return all;
     }
-    LayerId layer(std::size_t row) { return bench.scene().layer_at(row).id; }
+    LayerId layer(std::size_t row) { return editor.scene().layer_at(row).id; }
 
     TemporaryFolder temporary;
     const fs::path& folder = temporary.path;
     std::ostringstream out;
     Session session;
-    Workbench bench;
+    SceneEditor editor;
 };
 
 TEST_F(Window, SidesShowTheAxesThatTheyAreNamedFor) {
@@ -99,12 +100,12 @@ TEST_F(Window, SidesShowTheAxesThatTheyAreNamedFor) {
                  {ViewKind::Top, {100, 0, 0}, {0, 0, 100}, {0, 100, 0}},
                  {ViewKind::Left, {0, 0, -100}, {0, -100, 0}, {100, 0, 0}}};
     for (const auto& it : cases) {
-        const preview::Plan seen_so = plan(it.kind);
+        const preview::DrawList seen_so = draw_list(it.kind);
         const preview::Vector middle{500, 300, 0};
         const Point start = seen(seen_so, middle);
         EXPECT_NEAR(start.x, 800, 1e-6); // the middle of 800 by 500 points of 2 pixels
         EXPECT_NEAR(start.y, 500, 1e-6);
-        const double step = 100 * bench.view.magnification(bench.scene(), 800, 500) * 2;
+        const double step = 100 * editor.viewpoint.magnification(editor.scene(), 800, 500) * 2;
         const Point right = seen(seen_so, middle + it.right), up = seen(seen_so, middle + it.up);
         EXPECT_NEAR(right.x - start.x, step, 0.01);
         EXPECT_NEAR(right.y - start.y, 0, 0.01);
@@ -116,36 +117,36 @@ TEST_F(Window, SidesShowTheAxesThatTheyAreNamedFor) {
 }
 
 TEST_F(Window, ViewsAreZoomedMovedAndTurnedEachForItself) {
-    preview::Plan before = plan(ViewKind::Front);
+    preview::DrawList before = draw_list(ViewKind::Front);
     const preview::Vector corner{0, 0, 0};
     const Point fixed = seen(before, corner);
-    bench.view.zoom(3, {fixed.x / 2 - 400, fixed.y / 2 - 250});
-    EXPECT_NEAR(seen(plan(ViewKind::Front), corner).x, fixed.x, 1e-6);
-    EXPECT_NEAR(seen(plan(ViewKind::Front), corner).y, fixed.y, 1e-6);
-    bench.view.pan(10, -5);
-    EXPECT_NEAR(seen(plan(ViewKind::Front), corner).x, fixed.x + 20, 1e-6);
-    EXPECT_NEAR(seen(plan(ViewKind::Front), corner).y, fixed.y - 10, 1e-6);
-    EXPECT_NEAR(seen(plan(ViewKind::Top), {500, 300, 0}).x, 800, 1e-6) << "as it was";
-    bench.view.choose(ViewKind::Front);
-    bench.view.reset();
-    EXPECT_NEAR(seen(plan(ViewKind::Front), corner).x, fixed.x, 1e-6);
+    editor.viewpoint.zoom(3, {fixed.x / 2 - 400, fixed.y / 2 - 250});
+    EXPECT_NEAR(seen(draw_list(ViewKind::Front), corner).x, fixed.x, 1e-6);
+    EXPECT_NEAR(seen(draw_list(ViewKind::Front), corner).y, fixed.y, 1e-6);
+    editor.viewpoint.pan(10, -5);
+    EXPECT_NEAR(seen(draw_list(ViewKind::Front), corner).x, fixed.x + 20, 1e-6);
+    EXPECT_NEAR(seen(draw_list(ViewKind::Front), corner).y, fixed.y - 10, 1e-6);
+    EXPECT_NEAR(seen(draw_list(ViewKind::Top), {500, 300, 0}).x, 800, 1e-6) << "as it was";
+    editor.viewpoint.choose(ViewKind::Front);
+    editor.viewpoint.reset();
+    EXPECT_NEAR(seen(draw_list(ViewKind::Front), corner).x, fixed.x, 1e-6);
 
     // From above and in front the farther card is seen higher; half a turn on, it is the nearer.
-    preview::Plan custom = plan(ViewKind::Custom);
+    preview::DrawList custom = draw_list(ViewKind::Custom);
     const auto higher = [&] {
         return seen(custom, {500, 300, 300}).y < seen(custom, {500, 300, -300}).y;
     };
     EXPECT_TRUE(higher());
-    bench.view.orbit(180, 0);
-    custom = plan(ViewKind::Custom);
+    editor.viewpoint.orbit(180, 0);
+    custom = draw_list(ViewKind::Custom);
     EXPECT_FALSE(higher());
-    bench.view.orbit(0, 1000);
-    custom = plan(ViewKind::Custom);
-    EXPECT_NEAR(custom.lens.body.z.y, 1, 0.001) << "at most from right above";
+    editor.viewpoint.orbit(0, 1000);
+    custom = draw_list(ViewKind::Custom);
+    EXPECT_NEAR(custom.camera.axes.z.y, 1, 0.001) << "at most from right above";
 }
 
 TEST_F(Window, AClickFindsWhatIsSeenAndABandWhatItTouches) {
-    const preview::Plan front = plan(ViewKind::Front);
+    const preview::DrawList front = draw_list(ViewKind::Front);
     const auto at = [&](double x, double y) {
         return name(layer_at(front, seen(front, {x, y, 0})));
     };
@@ -163,66 +164,66 @@ TEST_F(Window, AClickFindsWhatIsSeenAndABandWhatItTouches) {
     EXPECT_THAT(band(-900, -900, 1900, 1500),
                 ElementsAre("Cam", "Left", "Right", "Behind", "Flat"));
     // From above the cards are edges, which are not easily hit and found by a band even so.
-    const preview::Plan top = plan(ViewKind::Top);
+    const preview::DrawList top = draw_list(ViewKind::Top);
     EXPECT_EQ(name(layer_at(top, seen(top, {260, 300, 5}))), "Left");
     EXPECT_EQ(name(layer_at(top, seen(top, {260, 300, 30}))), "-");
     EXPECT_THAT(names(layers_touched(top, seen(top, {200, 0, -20}), seen(top, {400, 0, 60}))),
                 ElementsAre("Left", "Behind"));
-    const preview::Plan camera = plan(ViewKind::Camera);
+    const preview::DrawList camera = draw_list(ViewKind::Camera);
     EXPECT_EQ(name(layer_at(camera, seen(camera, {700, 300, 100}))), "Right");
     EXPECT_EQ(name(layer_at(camera, seen(camera, {500, -200, -1000.1}))), "-")
         << "the camera itself";
 }
 
 TEST_F(Window, SelectsAsClicksDo) {
-    const auto selection = [&] { return names(bench.scene().selection()); };
-    bench.toggle(layer(3));
+    const auto selection = [&] { return names(editor.scene().selection()); };
+    editor.toggle(layer(3));
     EXPECT_THAT(selection(), ElementsAre("Left", "Behind"));
-    bench.toggle(layer(1));
+    editor.toggle(layer(1));
     EXPECT_THAT(selection(), ElementsAre("Behind"));
-    const Selection kept = bench.scene().selection();
-    bench.select_rows(4, 2, kept);
+    const Selection kept = editor.scene().selection();
+    editor.select_rows(4, 2, kept);
     EXPECT_THAT(selection(), ElementsAre("Behind", "Right", "Flat"));
-    EXPECT_TRUE(bench.is_selected(layer(4)));
-    const auto look = bench.look();
-    bench.select_rows(2, 4, kept);
-    EXPECT_EQ(bench.look(), look) << "nothing to draw where nothing changes";
-    bench.select_only(layer(0));
-    EXPECT_NE(bench.look(), look);
+    EXPECT_TRUE(editor.is_selected(layer(4)));
+    const auto before = editor.display_state();
+    editor.select_rows(2, 4, kept);
+    EXPECT_EQ(editor.display_state(), before) << "nothing to draw where nothing changes";
+    editor.select({layer(0)});
+    EXPECT_NE(editor.display_state(), before);
     EXPECT_THAT(selection(), ElementsAre("Cam"));
-    EXPECT_FALSE(bench.is_selected(layer(4)));
-    EXPECT_THAT(bench.status(), testing::HasSubstr("5 layers, 1 selected"));
-    bench.deselect();
+    EXPECT_FALSE(editor.is_selected(layer(4)));
+    EXPECT_THAT(editor.status(), testing::HasSubstr("5 layers, 1 selected"));
+    editor.select({});
     EXPECT_THAT(selection(), IsEmpty());
-    EXPECT_FALSE(bench.has_changes()) << "selecting is nothing to save";
+    EXPECT_FALSE(editor.has_changes()) << "selecting is nothing to save";
 }
 
 TEST_F(Window, KnowsWhatIsNotSavedAndKeepsItWhenAFileFails) {
-    EXPECT_EQ(bench.title(), "test.json");
-    EXPECT_EQ(bench.undo_title(), "Undo");
+    EXPECT_EQ(editor.title(), "test.json");
+    EXPECT_EQ(editor.undo_title(), "Undo");
     session.host().document.rename_layer(layer(1), "Other");
-    EXPECT_EQ(bench.title(), "test.json (edited)");
-    EXPECT_EQ(bench.undo_title(), "Undo Rename Layer");
-    bench.perform("undo");
-    EXPECT_FALSE(bench.has_changes());
-    EXPECT_FALSE(bench.can_undo());
-    EXPECT_EQ(bench.redo_title(), "Redo Rename Layer");
-    bench.perform("redo");
-    EXPECT_THROW(bench.save(folder / "none" / "x.json"), ActionError);
-    EXPECT_THROW(bench.open(folder / "none.json"), ActionError);
+    EXPECT_EQ(editor.title(), "test.json (edited)");
+    EXPECT_EQ(editor.undo_title(), "Undo Rename Layer");
+    editor.perform("undo");
+    EXPECT_FALSE(editor.has_changes());
+    EXPECT_FALSE(editor.can_undo());
+    EXPECT_EQ(editor.redo_title(), "Redo Rename Layer");
+    editor.perform("redo");
+    EXPECT_THROW(editor.save(folder / "none" / "x.json"), ActionError);
+    EXPECT_THROW(editor.open(folder / "none.json"), ActionError);
     write_file(folder / "broken.json", "{");
-    EXPECT_THROW(bench.open(folder / "broken.json"), ActionError);
-    EXPECT_TRUE(bench.has_changes());
-    EXPECT_EQ(bench.file_name(), "test.json");
+    EXPECT_THROW(editor.open(folder / "broken.json"), ActionError);
+    EXPECT_TRUE(editor.has_changes());
+    EXPECT_EQ(editor.file_name(), "test.json");
     EXPECT_EQ(name(layer(1)), "Other");
-    bench.save(folder / "other.json");
-    EXPECT_EQ(bench.title(), "other.json");
+    editor.save(folder / "other.json");
+    EXPECT_EQ(editor.title(), "other.json");
     EXPECT_EQ(read_scene(folder / "other.json").layer_at(1).name, "Other");
-    const auto look = bench.look();
-    bench.open(folder / "test.json");
-    EXPECT_EQ(bench.title(), "test.json");
+    const auto before = editor.display_state();
+    editor.open(folder / "test.json");
+    EXPECT_EQ(editor.title(), "test.json");
     EXPECT_EQ(name(layer(1)), "Left");
-    EXPECT_NE(bench.look().revision, look.revision);
+    EXPECT_NE(editor.display_state().revision, before.revision);
 }
 
 } // namespace
