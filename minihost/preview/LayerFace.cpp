@@ -11,7 +11,7 @@ namespace {
 constexpr double min_type = 5.2;          // points; smaller cannot be read
 constexpr double min_foreshortened = 2.4; // points of its smaller dimension, seen at an angle
 
-// Corners on an ellipse that fills the layer; every other one drawn in to `inner` of it.
+// Corners on the ellipse in the layer; every other one at `inner` of its radius.
 Path star(const LayerFace& face, int corners, double inner) {
     std::vector<Point> points;
     for (int i = 0; i < corners; ++i) {
@@ -26,7 +26,7 @@ Path rounded(const LayerFace& face) {
     const double side = std::min(face.item.quad.width(), face.item.quad.height());
     const double u = 0.22 * side / face.item.quad.width();
     const double v = 0.22 * side / face.item.quad.height();
-    constexpr double k = 0.45; // what is left of the corner beyond a quarter circle's handles
+    constexpr double k = 0.45; // from the corner to the handle, as a share of the radius
     Path o;
     o.move(face.at(u, 0));
     o.line(face.at(1 - u, 0));

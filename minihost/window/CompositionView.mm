@@ -87,7 +87,7 @@ struct CompositionPicture {
     [self setNeedsDisplay:YES];
     return YES;
 }
-// Inside, as its neighbours would hide it.
+// Inside the view: outside it would be drawn over the neighbours.
 - (NSRect)focusRingRect {
     return NSInsetRect([self bounds], 3, 3);
 }
@@ -171,13 +171,7 @@ struct CompositionPicture {
 
 - (void)drawTitle {
     const std::string title = _editor->viewpoint.title(_editor->scene());
-    const double width = std::min(
-        [style::printable_string(title)
-            sizeWithAttributes:[NSDictionary dictionaryWithObjectsAndKeys:style::font(),
-                                                                          NSFontAttributeName, nil]]
-                .width +
-            16,
-        NSWidth([self bounds]) - 16);
+    const double width = std::min(style::text_width(title), NSWidth([self bounds]) - 32) + 16;
     const NSRect pill = NSMakeRect(8, 8, std::ceil(width), 20);
     [[NSColor colorWithDeviceRed:0.07 green:0.08 blue:0.11 alpha:0.6] setFill];
     [[NSBezierPath bezierPathWithRoundedRect:pill xRadius:10 yRadius:10] fill];

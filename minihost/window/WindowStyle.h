@@ -30,6 +30,7 @@ NSColor* color(ColorRole role);
 
 void fill(NSRect rect, ColorRole role);
 NSFont* font();
+double text_width(const std::string& utf8);
 // One line, vertically centred; cut with an ellipsis if it does not fit. Any bytes are accepted.
 void draw_text(const std::string& utf8, NSRect rect, NSColor* color,
                NSTextAlignment alignment = NSLeftTextAlignment);

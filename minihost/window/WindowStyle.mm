@@ -23,24 +23,19 @@ constexpr Row rows[] = {
     {ColorRole::SelectedText, 0xffffff, 0xffffff}, {ColorRole::Highlight, 0x5cb8ff, 0x5cb8ff},
 };
 
-NSDictionary* attributes(NSFont* font, NSColor* color) {
-    return [NSDictionary dictionaryWithObjectsAndKeys:font, NSFontAttributeName, color,
-                                                      NSForegroundColorAttributeName, nil];
-}
-
-// The longest beginning that fits together with the ellipsis.
-NSString* cut(NSString* text, NSDictionary* look, double room) {
+// The longest prefix that fits together with an ellipsis.
+NSString* truncated(NSString* text, NSDictionary* attributes, double width) {
     NSUInteger low = 0, high = [text length];
     NSString* ellipsis = @"…";
     while (low < high) {
         const NSUInteger middle = (low + high + 1) / 2;
         NSString* part = [[text substringToIndex:middle] stringByAppendingString:ellipsis];
-        if ([part sizeWithAttributes:look].width <= room)
+        if ([part sizeWithAttributes:attributes].width <= width)
             low = middle;
         else
             high = middle - 1;
     }
-    // Not between the halves of a character.
+    // Not between two surrogates.
     if (low > 0 && ([text characterAtIndex:low - 1] & 0xfc00) == 0xd800) --low;
     return [[text substringToIndex:low] stringByAppendingString:ellipsis];
 }
@@ -70,27 +65,38 @@ NSFont* font() {
     return [NSFont systemFontOfSize:12];
 }
 
+double text_width(const std::string& utf8) {
+    return [printable_string(utf8)
+               sizeWithAttributes:[NSDictionary dictionaryWithObject:font()
+                                                              forKey:NSFontAttributeName]]
+        .width;
+}
+
 NSString* printable_string(const std::string& utf8) {
     NSString* text = [NSString stringWithUTF8String:preview::printable_text(utf8).c_str()];
     return text ? text : @"";
 }
 
 void draw_text(const std::string& utf8, NSRect rect, NSColor* color, NSTextAlignment alignment) {
-    constexpr std::size_t most = 1000; // bytes; no line of a window shows more
-    NSString* text = printable_string(utf8.size() > most ? utf8.substr(0, most) : utf8);
+    constexpr std::size_t max_bytes = 1000; // no line of a window shows more
+    NSString* text = printable_string(utf8.substr(0, max_bytes));
     if ([text length] == 0 || rect.size.width < 8) return;
-    NSDictionary* look = attributes(font(), color);
-    NSSize size = [text sizeWithAttributes:look];
+    NSDictionary* attributes =
+        [NSDictionary dictionaryWithObjectsAndKeys:font(), NSFontAttributeName, color,
+                                                   NSForegroundColorAttributeName, nil];
+    NSSize size = [text sizeWithAttributes:attributes];
     if (size.width > rect.size.width) {
-        text = cut(text, look, rect.size.width);
-        size = [text sizeWithAttributes:look];
-        alignment = 0;
+        text = truncated(text, attributes, rect.size.width);
+        size = [text sizeWithAttributes:attributes];
+        alignment = NSLeftTextAlignment;
     }
     const double room = rect.size.width - size.width;
-    const double x = alignment == 1 ? room : alignment == 2 ? std::floor(room / 2) : 0;
+    const double x = alignment == NSRightTextAlignment    ? room
+                     : alignment == NSCenterTextAlignment ? std::floor(room / 2)
+                                                          : 0;
     [text drawAtPoint:NSMakePoint(NSMinX(rect) + x,
                                   NSMinY(rect) + (rect.size.height - size.height) / 2)
-        withAttributes:look];
+        withAttributes:attributes];
 }
 
 } // namespace minihost::style

@@ -11,7 +11,7 @@
 namespace minihost::preview {
 namespace {
 
-// The eye of a composition 1920 wide: 1920 · 50/36 before its plane.
+// The distance of the default camera of a composition 1920 wide: 1920 · 50/36.
 constexpr double eye = 8000.0 / 3.0;
 constexpr Rectangle card{0, 0, 200, 120};
 
@@ -59,7 +59,7 @@ TEST(Geometry, PlacesALayerByItsWholeTransform) {
                 "scaled about the anchor point");
     pose.rotation = {0, 0, 90};
     expect_near(layer_to_world(pose).point({0, 0, 0}), {990, 340, 7}, "scaled, then rotated");
-    // Rotation acts first, orientation on what comes of it: x goes to y, and y to z.
+    // Rotation is applied first, then orientation: x goes to y, and y to z.
     const Transform both = transform_at({0, 0, 0}, {90, 0, 0}, {0, 0, 90});
     expect_near(layer_to_world(both).direction({1, 0, 0}), {0, 0, 1}, "orientation over rotation");
     Transform flat = transform_at({300, 200, 900}, {45, 45, 45}, {30, 60, 90});
@@ -105,7 +105,7 @@ TEST(LayerQuad, SeesACardCornerByCorner) {
     EXPECT_TRUE(quad.is_in_front());
     EXPECT_NEAR(quad.depth(), eye, 1e-9);
     EXPECT_NEAR(quad.stretch(0.5, 0.5).smallest, 1, 1e-3);
-    // Turned by 60°, a card is half as wide; which side it shows goes by which way it looks.
+    // Turned by 60°, a card looks half as wide; beyond 90° it shows its back.
     const LayerQuad turned = card_at({960, 540, 0}, {0, 60, 0});
     EXPECT_NEAR(turned.stretch(0.5, 0.5).smallest, 0.5, 1e-3);
     EXPECT_NEAR(turned.stretch(0.5, 0.5).largest, 1, 1e-3);
@@ -118,7 +118,7 @@ TEST(LayerQuad, ClipsWhatReachesBehindTheCamera) {
     EXPECT_FALSE(card_at({960, 540, -eye - 1}).is_visible()) << "behind";
     EXPECT_FALSE(card_at({1e200, 540, 0}).is_visible()) << "too far for numbers";
     EXPECT_TRUE(card_at({1e6, 540, 0}).polygon().empty()) << "far beside the picture";
-    // On edge below the eye and through its plane: the front half alone is drawn.
+    // Lying below the eye and reaching behind it: only the part in front is drawn.
     Transform floor = transform_at({960, 600, -eye}, {90, 0, 0});
     floor.scale = {1000, 1000, 100};
     const LayerQuad quad(default_camera(1920, 1080), layer_to_world(floor), card);
@@ -126,7 +126,7 @@ TEST(LayerQuad, ClipsWhatReachesBehindTheCamera) {
     EXPECT_FALSE(quad.is_in_front());
     ASSERT_GE(quad.polygon().size(), 3u);
     for (const Point& p : quad.polygon()) {
-        EXPECT_GT(p.y, 540) << "what lies below the eye is below the horizon";
+        EXPECT_GT(p.y, 540) << "below the horizon";
         EXPECT_LT(std::abs(p.x), 5000);
         EXPECT_LT(p.y, 5000);
     }
@@ -147,10 +147,10 @@ std::vector<Point> box(double left, double top, double right, double bottom) {
     return {{left, top}, {right, top}, {right, bottom}, {left, bottom}};
 }
 
-TEST(OcclusionGrid, HidesOnlyWhatNothingShowsOf) {
+TEST(OcclusionGrid, HidesOnlyWhatIsWhollyCovered) {
     OcclusionGrid grid(100, 60, 10);
     EXPECT_TRUE(grid.is_visible(box(20, 20, 30, 30)));
-    EXPECT_FALSE(grid.is_visible(box(120, 20, 130, 30))) << "outside of the picture";
+    EXPECT_FALSE(grid.is_visible(box(120, 20, 130, 30))) << "outside the picture";
     grid.cover(box(15, 15, 75, 55)); // fills the cells from 20 to 70 and 20 to 50
     EXPECT_FALSE(grid.is_visible(box(21, 21, 69, 49)));
     EXPECT_TRUE(grid.is_visible(box(21, 21, 76, 49))) << "sticks out to the right";
@@ -162,10 +162,10 @@ TEST(OcclusionGrid, HidesOnlyWhatNothingShowsOf) {
     EXPECT_FALSE(grid.is_visible(box(0, 0, 100, 60)));
 }
 
-TEST(OcclusionGrid, ASlantedEdgeCoversNoCellInPart) {
+TEST(OcclusionGrid, ASlantedEdgeCoversOnlyWholeCells) {
     for (const bool mirrored : {false, true}) {
         const auto across = [&](double x) { return mirrored ? 100 - x : x; };
-        const auto square = [&](double x, double y) { // of 8, within a cell
+        const auto square = [&](double x, double y) { // 8 wide, within a cell
             return box(std::min(across(x), across(x + 8)), y, std::max(across(x), across(x + 8)),
                        y + 8);
         };

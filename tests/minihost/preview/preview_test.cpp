@@ -1,4 +1,4 @@
-// What is seen in a preview and what is not, in pixels and in SVG, and what becomes of the file.
+// What is seen in a preview and what is not, in pixels and in SVG, and how its file is written.
 
 #include "minihost/model/SceneReader.h"
 #include "minihost/preview/Preview.h"
@@ -19,7 +19,7 @@
 namespace minihost {
 namespace {
 
-constexpr double eye = 8000.0 / 3.0; // before the plane of a composition 1920 wide
+constexpr double eye = 8000.0 / 3.0; // the default camera's distance, 1920 · 50/36
 constexpr Color red{220, 40, 40}, blue{40, 60, 220}, pale{240, 240, 240};
 
 struct Pixel {
@@ -34,7 +34,7 @@ std::ostream& operator<<(std::ostream& to, const Pixel& p) {
     return to << "rgb(" << p.r << ", " << p.g << ", " << p.b << ")";
 }
 
-// A PNG as pixels. At scale 1 a composition 1920 wide is 960 wide: half a pixel for each of its.
+// A preview's pixels. At scale 1 a composition 1920 wide is 960 wide: its coordinates are halved.
 class Picture {
   public:
     explicit Picture(const Scene& scene, double scale = 1) {
@@ -117,7 +117,7 @@ bool contains(const std::string& text, const std::string& part) {
     return text.find(part) != std::string::npos;
 }
 
-// Whether a parser takes it, and no character is in it that XML has not.
+// Whether a parser accepts it, and it has no control characters, which XML forbids.
 bool well_formed(const std::string& text) {
     const GMarkupParser nothing{};
     GMarkupParseContext* parse = g_markup_parse_context_new(&nothing, {}, nullptr, nullptr);
@@ -147,8 +147,7 @@ TEST(Preview, ShowsACardWhereTheDefaultCameraSeesIt) {
 }
 
 TEST(Preview, LooksThroughTheFirstCamera) {
-    // From the left, at the distance of the default camera: the card is seen on edge, the one that
-    // is turned toward the camera in full.
+    // Seen from the left, a card is edge-on, and one that is turned toward the camera is full.
     Layer turned = card(blue);
     turned.transform.orientation = {0, 90, 0};
     const Layer from_left = camera({960 - eye, 540, 0}, {960, 540, 0});
@@ -174,13 +173,13 @@ TEST(Preview, LeavesLayersThatAreNot3DInTheirOrder) {
     const Layer near = card_at(blue, {990, 540, -300});
     EXPECT_TRUE(Picture(scene_of({flat, near})).at(500, 270).is_red());
     EXPECT_TRUE(Picture(scene_of({near, flat})).at(500, 270).is_blue());
-    // What is 3D below it stays below, however near; cameras do not move it.
+    // 3D layers below a 2D one are behind it, however near; the camera has no effect on it.
     const Picture divided(scene_of(
         {card_at(blue, {760, 540, 900}), flat, near, camera({0, 0, -4000}, {960, 540, 0})}));
     EXPECT_TRUE(divided.at(500, 270).is_red()) << divided.at(500, 270);
 }
 
-TEST(Preview, LeavesNoInkOfWhatIsBehindTheCameraOrBesideThePicture) {
+TEST(Preview, ShowsNothingBehindTheCameraOrBesideThePicture) {
     const Picture empty(Scene{});
     for (const Vec3& position : {Vec3{960, 540, -eye - 50}, Vec3{-3000, 540, 0}}) {
         const Scene scene = scene_of({card_at(red, position, "Lost")});
@@ -191,7 +190,7 @@ TEST(Preview, LeavesNoInkOfWhatIsBehindTheCameraOrBesideThePicture) {
     }
 }
 
-TEST(Preview, TakesValuesAtTheCurrentTime) {
+TEST(Preview, UsesValuesAtTheCurrentTime) {
     Layer moving = card(red);
     *moving.keys_of(Stream::Position) = {{0, {160, 540, 0}}, {2, {560, 540, 0}}};
     Scene scene = scene_of({moving});
@@ -201,14 +200,14 @@ TEST(Preview, TakesValuesAtTheCurrentTime) {
     EXPECT_FALSE(picture.at(80, 250).is_red());
 }
 
-TEST(Preview, TellsBacksDistanceAndSelectionApart) {
+TEST(Preview, MarksBacksDistanceAndSelection) {
     Layer back = card_at(pale, {1360, 540, 0});
     back.transform.orientation = {0, 180, 0};
     const Scene scene =
         scene_of({card_at(pale, {560, 540, -800}), card_at(pale, {960, 540, 1500}), back});
     const Picture picture(scene);
     const int near = picture.at(195, 270).sum(), far = picture.at(480, 270).sum();
-    EXPECT_GT(near, far + 40) << "haze takes what is far";
+    EXPECT_GT(near, far + 40) << "haze dims what is far";
     const Picture level(scene_of({card_at(pale, {560, 540, 0}), back}));
     EXPECT_GT(level.at(280, 270).sum(), level.at(680, 270).sum() + 100) << "backs are darker";
 
@@ -262,16 +261,16 @@ TEST(Preview, WritesSvgWithEveryVisibleName) {
     }
 }
 
-TEST(Preview, TakesAnyBytesAsNames) {
+TEST(Preview, AcceptsAnyBytesAsNames) {
     const std::string svg = svg_of(scene_of({card(red, "a<b>&\"c\"\x01\n\xff\xef\xbf\xbf")}));
     EXPECT_TRUE(well_formed(svg));
     EXPECT_TRUE(contains(svg, "a&lt;b&gt;&amp;\"c\"  \uFFFD\uFFFD</title>")) << svg.substr(0, 400);
     EXPECT_FALSE(contains(svg, "\xff"));
-    // A very long name is drawn, too.
+    // So are very long names.
     EXPECT_TRUE(well_formed(svg_of(scene_of({card(red, std::string(100000, 'W'))}))));
 }
 
-TEST(Preview, ShowsOfAPileItsTopAlone) {
+TEST(Preview, ShowsOnlyTheTopOfAPile) {
     std::vector<Layer> pile;
     for (int i = 0; i < 300; ++i)
         pile.push_back(card(i ? red : blue, "Sheet " + std::to_string(i)));
@@ -281,7 +280,7 @@ TEST(Preview, ShowsOfAPileItsTopAlone) {
     EXPECT_FALSE(contains(svg_of(scene), "Sheet 1<"));
 }
 
-TEST(Preview, BearsWhateverValuesAScene) {
+TEST(Preview, DrawsScenesWithExtremeValues) {
     const auto with = [](const std::function<void(Layer&)>& change) {
         Layer layer = card(red, "Broken");
         change(layer);
@@ -301,11 +300,12 @@ TEST(Preview, BearsWhateverValuesAScene) {
         s.emplace_back("negative", with([](Layer& l) { l.transform.scale = {-100, 5e-324, 1}; }));
         s.emplace_back("on edge", with([](Layer& l) { l.transform.orientation = {0, 90, 0}; }));
         s.emplace_back("turns", with([](Layer& l) { l.transform.rotation = {1e300, -1e18, 720}; }));
-        s.emplace_back("lens there",
+        s.emplace_back("camera at its target",
                        scene_of({camera({960, 540, 0}, {960, 540, 0}), card(blue, "Sound")}));
-        s.emplace_back("lens off",
+        s.emplace_back("camera far off",
                        scene_of({camera({1e308, -1e308, 0}, {0, 0, 1e308}), card(red)}));
-        s.emplace_back("lens down", scene_of({camera({960, -5000, 0}, {960, 540, 0}), card(red)}));
+        s.emplace_back("camera above",
+                       scene_of({camera({960, -5000, 0}, {960, 540, 0}), card(red)}));
         s.emplace_back("text unsized", with([](Layer& l) {
                            l.kind = LayerKind::Text;
                            l.size = {};
@@ -338,14 +338,12 @@ TEST(Preview, HasTheCompositionsShape) {
     }
 }
 
-// ---- files ----------------------------------------------------------------------------------
-
 class PreviewFile : public testing::Test {
   protected:
     std::filesystem::path in(const std::string& name) const { return _folder.path / name; }
     std::size_t files() const { return _folder.entries(); }
-    // What is said against a file; nothing when it was written.
-    std::string complaint(const std::filesystem::path& path, double scale = 1) const {
+    // The error of writing a file; empty if it was written.
+    std::string error_of(const std::filesystem::path& path, double scale = 1) const {
         try {
             write_preview(scene_of({card(red, "Card")}), path.string(), scale);
         } catch (const std::runtime_error& error) {
@@ -358,34 +356,35 @@ class PreviewFile : public testing::Test {
     TemporaryFolder _folder;
 };
 
-TEST_F(PreviewFile, GoesByTheExtensionAndIsTheSameEachTime) {
+TEST_F(PreviewFile, HasTheFormatOfItsExtensionAndIsTheSameEachTime) {
     for (const auto& [name, start] : {std::pair{"a.png", "\x89PNG"},
                                       {"b.PNG", "\x89PNG"},
                                       {"c.svg", "<?xml"},
                                       {"d.e.Svg", "<?xml"}}) {
-        EXPECT_EQ(complaint(in(name)), "");
+        EXPECT_EQ(error_of(in(name)), "");
         const std::string first = read_file(in(name));
         EXPECT_TRUE(first.starts_with(start)) << name;
-        EXPECT_EQ(complaint(in(name)), "");
+        EXPECT_EQ(error_of(in(name)), "");
         EXPECT_TRUE(read_file(in(name)) == first) << name;
     }
     EXPECT_EQ(files(), 4u);
 }
 
-TEST_F(PreviewFile, SaysWhatIsWrongAndLeavesNothing) {
+TEST_F(PreviewFile, ReportsErrorsAndLeavesNothing) {
     for (const char* name : {"a.jpg", "a", "a.png.txt", ".png"}) {
-        const std::string said = complaint(in(name));
-        EXPECT_TRUE(contains(said, in(name).string()) && contains(said, ".svg")) << said;
+        const std::string message = error_of(in(name));
+        EXPECT_TRUE(contains(message, in(name).string()) && contains(message, ".svg")) << message;
     }
     for (const double scale : {0.0, -1.0, 17.0, 1e300, std::nan("")}) {
-        EXPECT_TRUE(contains(complaint(in("a.png"), scale), "scale")) << scale;
+        EXPECT_TRUE(contains(error_of(in("a.png"), scale), "scale")) << scale;
     }
-    const std::string said = complaint(in("no such folder/a.png"));
-    EXPECT_TRUE(contains(said, "no such folder/a.png") && contains(said, "No such file")) << said;
+    const std::string message = error_of(in("no such folder/a.png"));
+    EXPECT_TRUE(contains(message, "no such folder/a.png") && contains(message, "No such file"))
+        << message;
     EXPECT_EQ(files(), 0u);
     std::filesystem::create_directory(in("folder.png"));
-    EXPECT_NE(complaint(in("folder.png")), "");
-    EXPECT_EQ(files(), 1u) << "nothing beside the folder that was there";
+    EXPECT_NE(error_of(in("folder.png")), "");
+    EXPECT_EQ(files(), 1u) << "only the folder";
 }
 
 } // namespace

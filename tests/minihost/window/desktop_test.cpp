@@ -1,5 +1,5 @@
-// The window in a real desktop: an X server of the test's own, mouse and keys from xdotool, and the
-// saved files beside those of the command line. Skipped where there is no X server to be had.
+// The window on a real desktop: an X server of the test's own, mouse and keys from xdotool, and the
+// saved files compared with those of the command line. Skipped without X server or xdotool.
 
 #include "minihost/check/Child.h"
 #include "minihost/model/OutputFile.h"
@@ -28,7 +28,7 @@ using nlohmann::json;
 using testing::HasSubstr;
 
 constexpr double window_width = 1000, window_height = 700;
-constexpr auto patience = std::chrono::seconds(60); // a loaded machine is slow, not broken
+constexpr auto time_limit = std::chrono::seconds(60); // enough for a loaded machine
 
 std::string output_of(const std::string& command) {
     std::string text;
@@ -42,7 +42,7 @@ std::string output_of(const std::string& command) {
 }
 
 bool wait_until(const std::function<bool()>& done) {
-    const auto end = std::chrono::steady_clock::now() + patience;
+    const auto end = std::chrono::steady_clock::now() + time_limit;
     while (!done()) {
         if (std::chrono::steady_clock::now() > end) return false;
         std::this_thread::sleep_for(std::chrono::milliseconds(30));
@@ -50,21 +50,21 @@ bool wait_until(const std::function<bool()>& done) {
     return true;
 }
 
-pid_t start(const std::vector<std::string>& words, int told_to) {
+pid_t start(const std::vector<std::string>& words, int error_output) {
     const pid_t child = ::fork();
     if (child != 0) return child;
     std::vector<char*> arguments;
     for (const std::string& word : words) arguments.push_back(const_cast<char*>(word.c_str()));
     arguments.push_back(nullptr);
-    ::prctl(PR_SET_PDEATHSIG, SIGKILL); // not to outlive a test that crashes
-    ::dup2(told_to, 2);
-    // What the desktop's libraries keep to the end, some of them unloaded by then, is not ours.
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL); // does not outlive a test that crashes
+    ::dup2(error_output, 2);
+    // The desktop's libraries leak, some of them unloaded by then.
     ::setenv("LSAN_OPTIONS", "detect_leaks=0", 1);
     ::execvp(arguments[0], arguments.data());
     ::_exit(127);
 }
 
-// A server without a screen; empty where there is none.
+// A virtual X server; `display` is empty if there is none.
 class Server {
   public:
     Server() {
@@ -97,7 +97,7 @@ class Desktop : public testing::Test {
     void SetUp() override {
         if (output_of("command -v xdotool").empty()) GTEST_SKIP() << "xdotool is not installed";
         server.emplace();
-        if (server->display.empty()) GTEST_SKIP() << "there is no X server to be had";
+        if (server->display.empty()) GTEST_SKIP() << "there is no X server";
         ::setenv("DISPLAY", (":" + server->display).c_str(), 1);
         ::setenv("SDL_VIDEODRIVER", "x11", 1);
     }
@@ -108,7 +108,7 @@ class Desktop : public testing::Test {
         }
     }
 
-    // Opens an example, and finds out where the controls of the panel are.
+    // Opens an example, and finds the controls of the panel.
     void open(const std::string& example) {
         fs::copy_file(fs::path(EXAMPLES) / example, folder / "scene.json");
         fs::copy_file(folder / "scene.json", folder / "before.json");
@@ -128,10 +128,10 @@ class Desktop : public testing::Test {
             return !window.empty() && title() == "scene.json";
         }));
         xdo("windowfocus --sync " + window);
-        let_idle_calls_pass(); // a press right with the focus counts for the focus alone
+        let_idle_calls_pass(); // a press that comes with the focus only gives focus
     }
 
-    // The same by the command line, from the same file; what it prints.
+    // Plays actions on the command line, from the same file, and returns what it prints.
     std::string play(const std::string& actions) {
         write_file(folder / "actions.txt", actions);
         return output_of("cd '" + folder.string() +
@@ -158,7 +158,7 @@ class Desktop : public testing::Test {
         xdo(held.empty() ? move + "click 1"
                          : "keydown " + held + " " + move + "click 1 keyup " + held);
     }
-    // The plug-in sees at an idle call that something else is selected.
+    // The plug-in notices a changed selection at an idle call.
     static void let_idle_calls_pass() {
         std::this_thread::sleep_for(std::chrono::milliseconds(sanitizer_factor > 1 ? 1200 : 500));
     }
@@ -170,13 +170,13 @@ class Desktop : public testing::Test {
         click(layout.panel.x + (rect[1].get<double>() + rect[3].get<double>()) / 2,
               layout.panel.y + (rect[0].get<double>() + rect[2].get<double>()) / 2);
     }
-    // Comes to the window as the desktop's wish to close it.
+    // The window sees it as the desktop's request to close.
     void ask_to_close() {
         ASSERT_GT(process, 0);
         ::kill(process, SIGTERM);
     }
-    // The status of the program, once it has ended.
-    int end_status() {
+    // Waits for the program to exit.
+    int exit_status() {
         int status = -1;
         pid_t ended = 0;
         if (!wait_until([&] { return (ended = ::waitpid(process, &status, WNOHANG)) != 0; }))
@@ -205,7 +205,7 @@ TEST_F(Desktop, ArrangesByMouseAsTheCommandLineDoes) {
     click_control("angle.min");
     key("ctrl+a");
     type("35");
-    key("Tab"); // to the greatest, so that nothing is drawn by chance
+    key("Tab"); // to the maximum: equal, so that nothing is random
     type("35");
     key("Return");
     click_control("orientation.towards-camera");
@@ -223,18 +223,18 @@ TEST_F(Desktop, ArrangesByMouseAsTheCommandLineDoes) {
     expect_same_as("open\nselect #2 #3 #5 #6 #8\nset angle.min=35\nset angle.max=35\n"
                    "set orientation.towards-camera=on\nset camera=#1\nclick apply\nidle\n");
     key("ctrl+q");
-    EXPECT_EQ(end_status(), 0);
+    EXPECT_EQ(exit_status(), 0);
 }
 
 TEST_F(Desktop, ArrangesByKeysAlone) {
     open("cards.json");
     key("Home shift+Down shift+Down");
-    key("Tab Tab"); // over Apply to the first field
+    key("Tab Tab"); // past Apply to the first field
     type("600");
     key("Tab Tab");
     type("700");
     key("Return");
-    int stops = 0; // until the buttons of the orientation: what can be used between them
+    int stops = 0; // usable controls between the sizes and the orientation
     bool counts = false;
     const json state = json::parse(play("open\nselect #0 #1 #2\nidle\nstate\n"));
     for (const json& control : state["controls"]) {
@@ -247,8 +247,8 @@ TEST_F(Desktop, ArrangesByKeysAlone) {
     for (int i = 0; i <= stops; ++i) key("Tab");
     key("Down Down Down Down"); // towards camera, random, XY, XZ
     key("shift+Tab");
-    key("F10 Right Escape"); // the menus are in reach, and nothing is chosen
-    for (int i = 0; i < 3 + stops + 4; ++i) key("shift+Tab"); // over the sizes back to Apply
+    key("F10 Right Escape");                                  // opens the menus and chooses nothing
+    for (int i = 0; i < 3 + stops + 4; ++i) key("shift+Tab"); // past the sizes back to Apply
     let_idle_calls_pass();
     key("space");
     ASSERT_TRUE(title_becomes("scene.json (edited)"));
@@ -271,11 +271,11 @@ TEST_F(Desktop, AsksBeforeChangesAreLost) {
     key("Escape");
     EXPECT_EQ(title(), "scene.json (edited)");
     EXPECT_TRUE(is_running());
-    click(66 - 30, -12); // a menu is open when the window is closed once more
+    click(66 - 30, -12); // a menu is open when the window is closed again
     ask_to_close();
     let_idle_calls_pass();
     key("Return"); // Save
-    EXPECT_EQ(end_status(), 0);
+    EXPECT_EQ(exit_status(), 0);
     std::string cards;
     for (std::size_t i = 0; i < scene["layers"].size(); ++i)
         if (scene["layers"][i]["kind"] != "camera") cards += " #" + std::to_string(i);
@@ -290,7 +290,7 @@ TEST_F(Desktop, OpensAnotherSceneAndKeepsThisOneWhenThatIsBroken) {
     type("broken.json");
     key("Return");
     let_idle_calls_pass();
-    key("Return"); // it was told
+    key("Return"); // OK to the error
     EXPECT_EQ(title(), "scene.json");
     key("ctrl+o ctrl+a");
     type((folder / "story.json").string());
@@ -300,7 +300,7 @@ TEST_F(Desktop, OpensAnotherSceneAndKeepsThisOneWhenThatIsBroken) {
     click_control("apply");
     ASSERT_TRUE(title_becomes("story.json (edited)"));
     key("ctrl+shift+s ctrl+a");
-    type((folder / "scene").string()); // ".json" is understood
+    type((folder / "scene").string()); // ".json" is added
     key("Return");
     let_idle_calls_pass();
     key("Return"); // Replace

@@ -1,5 +1,5 @@
-// The window without a window: where its parts are, what is seen from where, what a click and a
-// rubber band find, what the commands do to file and selection.
+// The window's logic without a window: its layout, the views, what a click and a rubber band find,
+// what the commands do to file and selection.
 
 #include "minihost/model/OutputFile.h"
 #include "minihost/model/SceneReader.h"
@@ -21,8 +21,8 @@ using preview::Point;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// A wall of two cards 200 to the right and left of the middle, a card hidden behind the left one, a
-// 2D layer, and a camera that looks from above.
+// Two cards 200 left and right of the center, a card hidden behind the left one, a 2D layer, and a
+// camera above.
 const char* const wall = R"({"format": "minihost scene 1",
   "composition": {"name": "C", "width": 1000, "height": 600},
   "layers": [
@@ -50,7 +50,7 @@ TEST(WindowLayout, FitsItsPartsTogetherAtAnySize) {
                 EXPECT_GE(at.view.height, 300);
                 EXPECT_EQ(std::fmod(at.list.height - header_height, row_height), 0) << "whole rows";
                 EXPECT_EQ(at.view.width, at.list.width);
-                EXPECT_EQ(std::fmod(at.panel.x, 2), 0) << "a whole pixel at one and a half a point";
+                EXPECT_EQ(std::fmod(at.panel.x, 2), 0) << "a whole pixel at scale 1.5";
                 EXPECT_EQ(at.dock.width > 0, docked.width > 0);
                 if (docked.width == 0) continue;
                 EXPECT_GE(at.dock.width, docked.width);
@@ -73,7 +73,7 @@ class Window : public testing::Test {
         return preview::make_draw_list(editor.scene(),
                                        editor.viewpoint.framing(editor.scene(), 800, 500, 2));
     }
-    // A point of the composition's space as it is seen.
+    // Where a point of the world is seen in the picture.
     static Point seen(const preview::DrawList& list, const preview::Vector& world) {
         return list.camera.project(list.camera.to_view(world));
     }
@@ -92,31 +92,32 @@ class Window : public testing::Test {
     SceneEditor editor;
 };
 
-TEST_F(Window, SidesShowTheAxesThatTheyAreNamedFor) {
+TEST_F(Window, SideViewsShowTheirAxes) {
     const struct {
         ViewKind kind;
-        preview::Vector right, up, nowhere; // a step in the world, and which way it is seen
+        preview::Vector right, up,
+            nowhere; // steps in the world by the direction in which they are seen
     } cases[] = {{ViewKind::Front, {100, 0, 0}, {0, -100, 0}, {0, 0, 100}},
                  {ViewKind::Top, {100, 0, 0}, {0, 0, 100}, {0, 100, 0}},
                  {ViewKind::Left, {0, 0, -100}, {0, -100, 0}, {100, 0, 0}}};
     for (const auto& it : cases) {
-        const preview::DrawList seen_so = draw_list(it.kind);
+        const preview::DrawList list = draw_list(it.kind);
         const preview::Vector middle{500, 300, 0};
-        const Point start = seen(seen_so, middle);
+        const Point start = seen(list, middle);
         EXPECT_NEAR(start.x, 800, 1e-6); // the middle of 800 by 500 points of 2 pixels
         EXPECT_NEAR(start.y, 500, 1e-6);
         const double step = 100 * editor.viewpoint.magnification(editor.scene(), 800, 500) * 2;
-        const Point right = seen(seen_so, middle + it.right), up = seen(seen_so, middle + it.up);
+        const Point right = seen(list, middle + it.right), up = seen(list, middle + it.up);
         EXPECT_NEAR(right.x - start.x, step, 0.01);
         EXPECT_NEAR(right.y - start.y, 0, 0.01);
         EXPECT_NEAR(start.y - up.y, step, 0.01);
-        const Point nowhere = seen(seen_so, middle + it.nowhere);
+        const Point nowhere = seen(list, middle + it.nowhere);
         EXPECT_NEAR(nowhere.x, start.x, 0.01);
         EXPECT_NEAR(nowhere.y, start.y, 0.01);
     }
 }
 
-TEST_F(Window, ViewsAreZoomedMovedAndTurnedEachForItself) {
+TEST_F(Window, EachViewHasItsOwnZoomPanAndOrbit) {
     preview::DrawList before = draw_list(ViewKind::Front);
     const preview::Vector corner{0, 0, 0};
     const Point fixed = seen(before, corner);
@@ -126,12 +127,12 @@ TEST_F(Window, ViewsAreZoomedMovedAndTurnedEachForItself) {
     editor.viewpoint.pan(10, -5);
     EXPECT_NEAR(seen(draw_list(ViewKind::Front), corner).x, fixed.x + 20, 1e-6);
     EXPECT_NEAR(seen(draw_list(ViewKind::Front), corner).y, fixed.y - 10, 1e-6);
-    EXPECT_NEAR(seen(draw_list(ViewKind::Top), {500, 300, 0}).x, 800, 1e-6) << "as it was";
+    EXPECT_NEAR(seen(draw_list(ViewKind::Top), {500, 300, 0}).x, 800, 1e-6) << "unchanged";
     editor.viewpoint.choose(ViewKind::Front);
     editor.viewpoint.reset();
     EXPECT_NEAR(seen(draw_list(ViewKind::Front), corner).x, fixed.x, 1e-6);
 
-    // From above and in front the farther card is seen higher; half a turn on, it is the nearer.
+    // From above, the farther point is seen higher; half a turn later, it is the nearer one.
     preview::DrawList custom = draw_list(ViewKind::Custom);
     const auto higher = [&] {
         return seen(custom, {500, 300, 300}).y < seen(custom, {500, 300, -300}).y;
@@ -142,7 +143,7 @@ TEST_F(Window, ViewsAreZoomedMovedAndTurnedEachForItself) {
     EXPECT_FALSE(higher());
     editor.viewpoint.orbit(0, 1000);
     custom = draw_list(ViewKind::Custom);
-    EXPECT_NEAR(custom.camera.axes.z.y, 1, 0.001) << "at most from right above";
+    EXPECT_NEAR(custom.camera.axes.z.y, 1, 0.001) << "straight from above at most";
 }
 
 TEST_F(Window, AClickFindsWhatIsSeenAndABandWhatItTouches) {
@@ -150,7 +151,7 @@ TEST_F(Window, AClickFindsWhatIsSeenAndABandWhatItTouches) {
     const auto at = [&](double x, double y) {
         return name(layer_at(front, seen(front, {x, y, 0})));
     };
-    EXPECT_EQ(at(300, 300), "Left") << "not what is behind it";
+    EXPECT_EQ(at(300, 300), "Left") << "hides the one behind it";
     EXPECT_EQ(at(345, 255), "Left");
     EXPECT_EQ(at(355, 300), "-");
     EXPECT_EQ(at(500, 100), "Flat");
@@ -163,7 +164,7 @@ TEST_F(Window, AClickFindsWhatIsSeenAndABandWhatItTouches) {
     EXPECT_THAT(band(360, 200, 640, 400), IsEmpty());
     EXPECT_THAT(band(-900, -900, 1900, 1500),
                 ElementsAre("Cam", "Left", "Right", "Behind", "Flat"));
-    // From above the cards are edges, which are not easily hit and found by a band even so.
+    // From above the cards are edges, which are found a little beside them too.
     const preview::DrawList top = draw_list(ViewKind::Top);
     EXPECT_EQ(name(layer_at(top, seen(top, {260, 300, 5}))), "Left");
     EXPECT_EQ(name(layer_at(top, seen(top, {260, 300, 30}))), "-");
@@ -172,7 +173,7 @@ TEST_F(Window, AClickFindsWhatIsSeenAndABandWhatItTouches) {
     const preview::DrawList camera = draw_list(ViewKind::Camera);
     EXPECT_EQ(name(layer_at(camera, seen(camera, {700, 300, 100}))), "Right");
     EXPECT_EQ(name(layer_at(camera, seen(camera, {500, -200, -1000.1}))), "-")
-        << "the camera itself";
+        << "the scene's own camera";
 }
 
 TEST_F(Window, SelectsAsClicksDo) {
@@ -187,7 +188,7 @@ TEST_F(Window, SelectsAsClicksDo) {
     EXPECT_TRUE(editor.is_selected(layer(4)));
     const auto before = editor.display_state();
     editor.select_rows(2, 4, kept);
-    EXPECT_EQ(editor.display_state(), before) << "nothing to draw where nothing changes";
+    EXPECT_EQ(editor.display_state(), before) << "nothing to redraw";
     editor.select({layer(0)});
     EXPECT_NE(editor.display_state(), before);
     EXPECT_THAT(selection(), ElementsAre("Cam"));
@@ -195,10 +196,10 @@ TEST_F(Window, SelectsAsClicksDo) {
     EXPECT_THAT(editor.status(), testing::HasSubstr("5 layers, 1 selected"));
     editor.select({});
     EXPECT_THAT(selection(), IsEmpty());
-    EXPECT_FALSE(editor.has_changes()) << "selecting is nothing to save";
+    EXPECT_FALSE(editor.has_changes()) << "selecting is no change to save";
 }
 
-TEST_F(Window, KnowsWhatIsNotSavedAndKeepsItWhenAFileFails) {
+TEST_F(Window, TracksUnsavedChangesAndKeepsThemWhenAFileFails) {
     EXPECT_EQ(editor.title(), "test.json");
     EXPECT_EQ(editor.undo_title(), "Undo");
     session.host().document.rename_layer(layer(1), "Other");
