@@ -1,6 +1,6 @@
 #include "minihost/dialog/AutoreleasePool.h"
 #include "minihost/dialog/DialogDriver.h"
-#include "minihost/dialog/HostWindows.h"
+#include "minihost/dialog/HostWindow.h"
 #include "minihost/dialog/PanelWindow.h"
 
 #include <AppKit/NSDisplayStandIn.h>

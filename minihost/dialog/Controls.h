@@ -3,17 +3,13 @@
 
 #pragma once
 
+#include "sdk/HostTypes.h"
+
 #include <optional>
 #include <stdexcept>
 #include <string>
 #include <variant>
 #include <vector>
-
-#ifdef __OBJC__
-@class NSView;
-#else
-class NSView;
-#endif
 
 namespace minihost {
 

@@ -44,24 +44,6 @@ std::string utf8(NSString* text) {
     return text ? [text UTF8String] : "";
 }
 
-std::string text_of(NSView* view, Kind kind) {
-    switch (kind) {
-    case Kind::Edit:
-    case Kind::Text:
-        return utf8([static_cast<NSTextField*>(view) stringValue]);
-    case Kind::Box:
-        return utf8([static_cast<NSBox*>(view) title]);
-    case Kind::PopUp:
-        return utf8([static_cast<NSPopUpButton*>(view) titleOfSelectedItem]);
-    case Kind::Button:
-    case Kind::CheckBox:
-    case Kind::RadioButton:
-        return utf8([static_cast<NSButton*>(view) title]);
-    default:
-        return "";
-    }
-}
-
 // The number that a text consists of, if it is one.
 decltype(Control::value) number_in(const std::string& text) {
     const char* first = text.c_str();
@@ -79,29 +61,38 @@ std::vector<std::string> entries_of(NSPopUpButton* popup) {
     return titles;
 }
 
-Control control_of(NSView* view, Kind kind) {
+Control control_of(NSView* view) {
+    const Kind kind = kind_of(view);
     Control control;
     control.kind = kind_names[static_cast<int>(kind)];
-    control.text = text_of(view, kind);
     if ([view isKindOfClass:[NSControl class]]) {
         control.enabled = [static_cast<NSControl*>(view) isEnabled];
-        const NSInteger tag = [view tag];
-        if (tag > 0) control.id = static_cast<int>(tag);
+        if ([view tag] > 0) control.id = static_cast<int>([view tag]);
     }
     switch (kind) {
     case Kind::Edit:
-        control.value = number_in(control.text);
+    case Kind::Text:
+        control.text = utf8([static_cast<NSTextField*>(view) stringValue]);
+        if (kind == Kind::Edit) control.value = number_in(control.text);
         break;
+    case Kind::Button:
     case Kind::CheckBox:
-    case Kind::RadioButton:
-        control.value = [static_cast<NSButton*>(view) state] == NSOnState;
+    case Kind::RadioButton: {
+        NSButton* button = static_cast<NSButton*>(view);
+        control.text = utf8([button title]);
+        if (kind != Kind::Button) control.value = [button state] == NSOnState;
         break;
+    }
     case Kind::PopUp: {
         NSPopUpButton* popup = static_cast<NSPopUpButton*>(view);
+        control.text = utf8([popup titleOfSelectedItem]);
         control.entries = entries_of(popup);
         if ([popup indexOfSelectedItem] >= 0) control.value = control.text;
         break;
     }
+    case Kind::Box:
+        control.text = utf8([static_cast<NSBox*>(view) title]);
+        break;
     default:
         break;
     }
@@ -113,28 +104,24 @@ Control control_of(NSView* view, Kind kind) {
     return control;
 }
 
-void read_below(NSView* view, std::vector<Control>& controls) {
+// The controls below a view, in the order of the views; not those inside other controls.
+void collect_controls(NSView* view, std::vector<NSView*>& controls) {
     NSArray* subviews = [view subviews];
     for (NSUInteger i = 0; i < [subviews count]; ++i) {
         NSView* subview = [subviews objectAtIndex:i];
-        const Kind kind = kind_of(subview);
-        if (kind == Kind::None)
-            read_below(subview, controls);
+        if (kind_of(subview) == Kind::None)
+            collect_controls(subview, controls);
         else
-            controls.push_back(control_of(subview, kind)); // its own subviews are its business
+            controls.push_back(subview);
     }
 }
 
-NSControl* find_control(NSView* view, int id) {
-    NSArray* subviews = [view subviews];
-    for (NSUInteger i = 0; i < [subviews count]; ++i) {
-        NSView* subview = [subviews objectAtIndex:i];
-        if (kind_of(subview) == Kind::None) {
-            if (NSControl* found = find_control(subview, id)) return found;
-        } else if ([subview isKindOfClass:[NSControl class]] && [subview tag] == id) {
-            return static_cast<NSControl*>(subview);
-        }
-    }
+NSControl* find_control(NSView* root, int id) {
+    std::vector<NSView*> controls;
+    collect_controls(root, controls);
+    for (NSView* view : controls)
+        if ([view isKindOfClass:[NSControl class]] && [view tag] == id)
+            return static_cast<NSControl*>(view);
     return nil;
 }
 
@@ -223,8 +210,10 @@ void pick(NSPopUpButton* popup, const std::string& name, const std::string& valu
 
 std::vector<Control> read_controls(NSView* root) {
     const AutoreleasePool pool;
+    std::vector<NSView*> views;
+    collect_controls(root, views);
     std::vector<Control> controls;
-    if (root) read_below(root, controls);
+    for (NSView* view : views) controls.push_back(control_of(view));
     return controls;
 }
 

@@ -1,5 +1,5 @@
-// Drives the plug-in's dialog as a user would, and takes pictures of it: with Cocoa, or with
-// nothing at all for a host without a display.
+// Drives the plug-in's dialog as a user would, and takes pictures of it. An interface, so that a
+// host can do without Cocoa.
 
 #pragma once
 
@@ -45,9 +45,6 @@ class DialogDriver {
     // Runs `body` within an autorelease pool, if there is anything to release.
     virtual void with_pool(const std::function<void()>& body) = 0;
 };
-
-// Panels without a view, and never a dialog.
-std::unique_ptr<DialogDriver> make_null_dialog_driver();
 
 // Cocoa's display, headless unless another was chosen. Without `make_panel` each panel is in a
 // window of its own.

@@ -4,13 +4,9 @@
 
 #pragma once
 
-#include <string>
+#include "sdk/HostTypes.h"
 
-#ifdef __OBJC__
-@class NSView;
-#else
-class NSView;
-#endif
+#include <string>
 
 namespace minihost {
 

@@ -4,12 +4,6 @@
 
 #include "minihost/suites/Panels.h"
 
-#ifdef __OBJC__
-@class NSView;
-#else
-class NSView;
-#endif
-
 namespace minihost {
 
 // Points; until the plug-in says which size it prefers.

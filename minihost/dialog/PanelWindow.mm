@@ -1,7 +1,7 @@
 #include "minihost/dialog/PanelWindow.h"
 
 #include "minihost/dialog/AutoreleasePool.h"
-#include "minihost/dialog/HostWindows.h"
+#include "minihost/dialog/HostWindow.h"
 
 namespace minihost {
 
@@ -12,22 +12,12 @@ class PanelWindow : public PanelView {
     PanelWindow() {
         const AutoreleasePool pool;
         [NSApplication sharedApplication];
-        const NSSize size = NSMakeSize(default_panel_width, default_panel_height);
-        _window =
-            [[NSWindow alloc] initWithContentRect:NSMakeRect(100, 100, size.width, size.height)
-                                        styleMask:NSTitledWindowMask
-                                          backing:NSBackingStoreBuffered
-                                            defer:YES];
-        [_window setReleasedWhenClosed:NO];
-        NSView* container =
-            [[NSView alloc] initWithFrame:NSMakeRect(0, 0, size.width, size.height)];
-        [_window setContentView:container];
-        [container release];
-        claim_window(_window);
+        const double width = default_panel_width, height = default_panel_height;
+        _window = [[HostWindow alloc] initWithContentRect:NSMakeRect(100, 100, width, height)
+                                                styleMask:NSTitledWindowMask];
     }
     ~PanelWindow() override {
         const AutoreleasePool pool;
-        disclaim_window(_window);
         remove_subviews(container());
         [_window close];
         [_window release];
@@ -59,7 +49,7 @@ class PanelWindow : public PanelView {
     bool is_visible() const override { return [_window isVisible]; }
 
   private:
-    NSWindow* _window;
+    HostWindow* _window;
 };
 
 } // namespace

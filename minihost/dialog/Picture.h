@@ -2,14 +2,10 @@
 
 #pragma once
 
+#include "sdk/HostTypes.h"
+
 #include <string>
 #include <vector>
-
-#ifdef __OBJC__
-@class NSView;
-#else
-class NSView;
-#endif
 
 namespace minihost {
 

@@ -4,11 +4,7 @@
 
 #include "minihost/suites/Panels.h"
 
-#ifdef __OBJC__
 @class MainView;
-#else
-class MainView;
-#endif
 
 namespace minihost {
 

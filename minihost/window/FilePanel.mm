@@ -1,7 +1,7 @@
 #include "minihost/window/FilePanel.h"
 
 #include "minihost/dialog/AutoreleasePool.h"
-#include "minihost/dialog/HostWindows.h"
+#include "minihost/dialog/HostWindow.h"
 #include "minihost/model/OutputFile.h"
 #include "minihost/window/ListView.h"
 #include "minihost/window/Prompts.h"
@@ -71,6 +71,9 @@ struct FileBrowserState {
 }
 - (BOOL)isRowSelected:(NSInteger)row {
     return row == [self cursor];
+}
+- (std::string)emptyText {
+    return "";
 }
 - (void)drawHeader:(NSRect)rect {
     style::draw_text(_state->folder.string(), NSInsetRect(rect, 8, 0),
@@ -193,13 +196,9 @@ FileBrowser* fill_panel(NSWindow* window, FileBrowserState& state) {
 std::optional<std::string> run_file_panel(const FilePanelOptions& options) {
     const AutoreleasePool pool;
     const OpenPrompt prompt;
-    NSWindow* window =
-        [[NSWindow alloc] initWithContentRect:NSMakeRect(0, 0, panel_width, panel_height)
-                                    styleMask:NSTitledWindowMask
-                                      backing:NSBackingStoreBuffered
-                                        defer:YES];
-    claim_window(window);
-    [window setReleasedWhenClosed:NO];
+    HostWindow* window =
+        [[HostWindow alloc] initWithContentRect:NSMakeRect(0, 0, panel_width, panel_height)
+                                      styleMask:NSTitledWindowMask];
     [window setTitle:style::printable_string(options.title)];
     [window center];
     FileBrowserState state{options, {}, {}, {}};
@@ -214,7 +213,6 @@ std::optional<std::string> run_file_panel(const FilePanelOptions& options) {
     [window orderOut:nil];
     if ([key isVisible]) [key makeKeyWindow];
     [key release];
-    disclaim_window(window);
     [window release];
     return state.chosen;
 }

@@ -87,6 +87,8 @@ std::string kind_text(LayerKind kind) {
     if (!extending) _anchor = row;
     [self selectFrom:_anchor to:row];
 }
+- (void)openRow:(NSInteger)__attribute__((unused))row {
+}
 - (std::string)emptyText {
     return "The composition has no layers";
 }

@@ -16,7 +16,14 @@
     CGFloat _scroll; // points by which the rows are moved up
     NSInteger _cursor;
 }
-// For subclasses to override.
+- (NSInteger)cursor; // -1 for none
+- (void)setCursor:(NSInteger)row;
+- (void)showRow:(NSInteger)row; // scrolls it into view
+- (void)rowsChanged;            // adjusts the scrolling and redraws
+@end
+
+// What every subclass implements.
+@interface ListView (Subclass)
 - (NSInteger)rowCount;
 - (BOOL)isRowSelected:(NSInteger)row;
 - (void)drawHeader:(NSRect)rect;
@@ -26,9 +33,4 @@
 - (void)moveToRow:(NSInteger)row extending:(BOOL)extending;
 - (void)openRow:(NSInteger)row;
 - (std::string)emptyText;
-
-- (NSInteger)cursor; // -1 for none
-- (void)setCursor:(NSInteger)row;
-- (void)showRow:(NSInteger)row; // scrolls it into view
-- (void)rowsChanged;            // adjusts the scrolling and redraws
 @end

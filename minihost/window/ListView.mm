@@ -248,31 +248,4 @@ constexpr double scroll_bar_width = 12, min_knob_height = 24, rows_per_wheel_lin
     style::fill(NSMakeRect(0, 0, NSWidth(bounds), header_height), style::ColorRole::Header);
     [self drawHeader:NSMakeRect(0, 0, NSWidth([self rectOfRow:0]), header_height)];
 }
-
-// For subclasses.
-- (NSInteger)rowCount {
-    return 0;
-}
-- (BOOL)isRowSelected:(NSInteger)__attribute__((unused))row {
-    return NO;
-}
-- (void)drawHeader:(NSRect)__attribute__((unused))rect {
-}
-- (void)drawRow:(NSInteger)__attribute__((unused))row
-         inRect:(NSRect)__attribute__((unused))rect
-          color:(NSColor*)__attribute__((unused))color {
-}
-- (void)pressRow:(NSInteger)__attribute__((unused))row
-       modifiers:(NSUInteger)__attribute__((unused))modifiers {
-}
-- (void)dragToRow:(NSInteger)__attribute__((unused))row {
-}
-- (void)moveToRow:(NSInteger)__attribute__((unused))row
-        extending:(BOOL)__attribute__((unused))extending {
-}
-- (void)openRow:(NSInteger)__attribute__((unused))row {
-}
-- (std::string)emptyText {
-    return "";
-}
 @end

@@ -2,7 +2,7 @@
 
 #include "minihost/actions/Actions.h"
 #include "minihost/dialog/AutoreleasePool.h"
-#include "minihost/dialog/HostWindows.h"
+#include "minihost/dialog/HostWindow.h"
 #include "minihost/dialog/Picture.h"
 #include "minihost/model/OutputFile.h"
 #include "minihost/window/CompositionView.h"
@@ -23,15 +23,6 @@ namespace {
 constexpr double seconds_between_idle_calls = 0.085;
 
 } // namespace
-
-// Fills the screen below the menu bar, behind whatever the plug-in opens.
-@interface BorderlessWindow : NSWindow
-@end
-@implementation BorderlessWindow
-- (BOOL)canBecomeKeyWindow {
-    return YES;
-}
-@end
 
 struct TimerTask {
     virtual void run() = 0;
@@ -58,7 +49,7 @@ namespace minihost {
 
 struct MainWindow::State : TimerTask {
     MainWindowOptions options;
-    BorderlessWindow* window = nil;
+    HostWindow* window = nil;
     MainView* main_view = nil;
 
     // While it runs.
@@ -130,13 +121,9 @@ MainWindow::MainWindow(const MainWindowOptions& options) : _state(std::make_uniq
     style::use_palette(options.palette);
     NSUseLightAppearance(options.palette == Palette::Light);
     [NSApplication sharedApplication];
-    _state->window =
-        [[BorderlessWindow alloc] initWithContentRect:[[NSScreen mainScreen] visibleFrame]
-                                            styleMask:NSBorderlessWindowMask
-                                              backing:NSBackingStoreBuffered
-                                                defer:YES];
-    claim_window(_state->window);
-    [_state->window setReleasedWhenClosed:NO];
+    _state->window = [[HostWindow alloc] initWithContentRect:[[NSScreen mainScreen] visibleFrame]
+                                                   styleMask:NSBorderlessWindowMask];
+    // Behind whatever the plug-in opens.
     [_state->window setLevel:NSNormalWindowLevel - 1];
     [_state->window zoom:nil];
     _state->main_view = [[MainView alloc] initWithFrame:NSZeroRect];
@@ -147,7 +134,6 @@ MainWindow::MainWindow(const MainWindowOptions& options) : _state(std::make_uniq
 MainWindow::~MainWindow() {
     const AutoreleasePool pool;
     [_state->main_view setEditor:nullptr];
-    disclaim_window(_state->window);
     [_state->window close];
     [_state->window release];
     NSUseLightAppearance(NO);

@@ -62,7 +62,7 @@ TEST(WindowLayout, FitsItsPartsTogetherAtAnySize) {
 class Window : public testing::Test {
   protected:
     Window()
-        : session(parse_scene(wall, "test"), {}, make_null_dialog_driver(), out,
+        : session(parse_scene(wall, "test"), {}, make_dialog_driver(), out,
                   [](const std::string&) {}),
           editor(session, folder / "test.json") {
         write_file(editor.path(), wall);
