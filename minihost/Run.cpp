@@ -4,7 +4,7 @@
 #include "minihost/actions/Progress.h"
 #include "minihost/model/OutputFile.h"
 #include "minihost/model/SceneReader.h"
-#include "minihost/window/Show.h"
+#include "minihost/window/MainWindow.h"
 
 #include <filesystem>
 #include <iostream>
@@ -40,8 +40,8 @@ std::vector<Step> steps_of(const Request& request) {
     return steps;
 }
 
-ShowOptions show_options(const Request& request) {
-    ShowOptions options;
+MainWindowOptions window_options(const Request& request) {
+    MainWindowOptions options;
     options.scene = request.scene;
     if (request.has_scale) options.scale = request.scale;
     options.width = request.window_width;
@@ -54,9 +54,9 @@ ShowOptions show_options(const Request& request) {
 
 class Runner {
   public:
-    Runner(const Request& request, Scene scene, std::unique_ptr<Screen> screen)
+    Runner(const Request& request, Scene scene, std::unique_ptr<DialogDriver> driver)
         : _request(request),
-          _session(std::move(scene), request.host, std::move(screen), std::cout,
+          _session(std::move(scene), request.host, std::move(driver), std::cout,
                    [this](const std::string& line) { report(line); }) {
         _session.picture_scale = request.scale;
         _session.host().on_call = [this](std::size_t calls) { _progress.show(calls, "calls"); };
@@ -123,16 +123,15 @@ class Runner {
 };
 
 int show(const Request& request, Scene scene) {
-    std::optional<Show> window; // stays until the plug-in is unloaded
+    std::optional<MainWindow> window; // stays until the plug-in is unloaded
     try {
-        window.emplace(show_options(request));
+        window.emplace(window_options(request));
     } catch (const std::exception& error) {
         std::cerr << "minihost: " << error.what() << std::endl;
         return failure_status;
     }
-    return Runner(request, std::move(scene), window->make_screen()).run([&](Session& session) {
-        window->run(session);
-    });
+    return Runner(request, std::move(scene), window->make_dialog_driver())
+        .run([&](Session& session) { window->run(session); });
 }
 
 } // namespace
@@ -150,7 +149,7 @@ int run(const Request& request) {
         progress.stop();
         if (request.verb == Verb::Show) return show(request, std::move(scene));
         const std::vector<Step> steps = steps_of(request);
-        return Runner(request, std::move(scene), make_screen()).run(steps);
+        return Runner(request, std::move(scene), make_dialog_driver()).run(steps);
     } catch (const OutputError& error) {
         std::cerr << "minihost: " << error.what() << std::endl;
         return failure_status;

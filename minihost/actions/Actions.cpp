@@ -90,18 +90,19 @@ void set(Session& session, const Words& words) {
     const std::size_t equals = words[0].find('=');
     const std::string name = words[0].substr(0, equals), value = words[0].substr(equals + 1);
     const auto [dialog, id] = target(session, name);
-    session.enter(
-        [&, id = id, panel = dialog.panel] { session.screen().set(panel, id, name, value); });
+    session.enter([&, id = id, panel = dialog.panel] {
+        session.dialog_driver().set(panel, id, name, value);
+    });
 }
 
 void click(Session& session, const Words& words) {
     const auto [dialog, id] = target(session, words[0]);
     session.enter(
-        [&, id = id, panel = dialog.panel] { session.screen().click(panel, id, words[0]); });
+        [&, id = id, panel = dialog.panel] { session.dialog_driver().click(panel, id, words[0]); });
 }
 
 void answer(Session& session, const Words& words) {
-    session.screen().answer_next_alert(number(words[0], 1, 9));
+    session.dialog_driver().answer_next_alert(number(words[0], 1, 9));
 }
 
 // What there is to answer was answered before this.

@@ -19,7 +19,7 @@ constexpr int most_lines_shown = 500;
 Life::Life(const std::string& plugin, const std::string& scene, HostOptions options, Place& place)
     : _place(place),
       _plugin(plugin),
-      _session(parse_scene(scene, "the scene"), std::move(options), make_screen(), _printed,
+      _session(parse_scene(scene, "the scene"), std::move(options), make_dialog_driver(), _printed,
                [this](const std::string& line) { say(line); }) {}
 
 void Life::say(const std::string& line) {

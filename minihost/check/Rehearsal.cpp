@@ -28,7 +28,7 @@ std::string explore(const Subject& subject, Place& place) {
             const Dialog dialog = session.dialog();
             std::vector<Control> controls;
             if (dialog.exists)
-                session.enter([&] { controls = session.screen().controls(dialog.panel); });
+                session.enter([&] { controls = session.dialog_driver().controls(dialog.panel); });
             return controls;
         };
         for (const Scenario& it : scenarios_of(controls_after({}), session.control_names(),

@@ -3,8 +3,8 @@
 #include "minihost/actions/TerminalLine.h"
 #include "minihost/check/Groups.h"
 #include "minihost/check/Report.h"
+#include "minihost/dialog/DialogDriver.h"
 #include "minihost/model/OutputFile.h"
-#include "minihost/view/Screen.h"
 
 #include <algorithm>
 #include <cstdio>
