@@ -2,6 +2,7 @@
 
 #include "bench/Recording.h"
 #include "bench/Views.h"
+#include "minihost/suites/BasicSuite.h"
 
 #include <ctime>
 #include <dlfcn.h>
@@ -67,8 +68,9 @@ Rig::Rig(minihost::Scene scene, Plugin plugin)
           [this] { return _screen->make_panel(); }) {
     if (plugin == Plugin::none) return;
     visit([&] {
-        check(_host.enter(plugin == Plugin::recorded ? enter_by_way_of_recording
-                                                     : entry_of_plugin()));
+        check(_host.call_entry(plugin == Plugin::recorded ? enter_by_way_of_recording
+                                                          : entry_of_plugin(),
+                               minihost::basic_suite));
     });
 }
 
@@ -98,7 +100,7 @@ void Rig::open() {
 }
 
 void Rig::close_panel() {
-    visit([&] { _host.panels.close(_host); });
+    visit([&] { _host.close_panels(); });
 }
 
 const minihost::PanelView& Rig::panel() const {

@@ -120,7 +120,12 @@ void check(Request& request, const std::vector<std::string>& failures,
     for (const std::string& text : request.sets)
         if (text.find('=') == std::string::npos || text[0] == '=')
             throw std::invalid_argument("--set: \"" + text + "\" is not NAME=VALUE");
-    for (const std::string& text : failures) request.host.failures.push_back(parse_failure(text));
+    for (const std::string& text : failures) {
+        request.host.failures.push_back(parse_failure(text));
+        if (!is_call_of_host(request.host.failures.back().call))
+            throw std::invalid_argument("\"" + text + "\": the host has no such call (one is \"" +
+                                        "AEGP Stream Suite.SetStreamValue\")");
+    }
     for (const std::string& text : misdeeds) request.host.misdeeds.push_back(parse_misdeed(text));
     for (const std::string& word : without) {
         if (!is_missing_part(word))

@@ -82,7 +82,7 @@ void open(Session& session, const Words&) {
 
 void close_panel(Session& session, const Words&) {
     bool closed = false;
-    session.enter([&] { closed = session.host().panels.close(session.host()); });
+    session.enter([&] { closed = session.host().close_panels(); });
     if (!closed) throw ActionError("no panel is open");
 }
 

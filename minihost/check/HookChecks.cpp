@@ -21,7 +21,7 @@ std::vector<std::string> registered(Host& host) {
     lines.insert(lines.end(), host.hooks().death.size(), "a death hook");
     for (const MenuItem& it : host.menu())
         lines.push_back("a command \"" + it.text + "\" in menu " + std::to_string(it.menu));
-    for (const std::string& name : host.panels.match_names())
+    for (const auto& [name, kind] : host.panels.kinds())
         lines.push_back("panels \"" + name + "\"");
     return lines;
 }
@@ -42,7 +42,7 @@ void check_menu(Host& host, Findings& findings) {
     if (!host.menu().empty() && host.hooks().update_menu.empty())
         findings.fail("no menu hook is registered: nothing enables the command");
     if (host.hooks().death.empty()) findings.warn("no death hook is registered");
-    for (const std::string& name : host.panels.match_names())
+    for (const auto& [name, kind] : host.panels.kinds())
         if (name.empty()) findings.fail("a kind of panel has no name");
 }
 

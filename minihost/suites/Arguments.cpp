@@ -67,7 +67,7 @@ Arguments& Arguments::item(AEGP_ItemH handle) {
 }
 
 Arguments& Arguments::composition(AEGP_CompH handle) {
-    if (look_up([&] { return _host.handles.composition(handle), true; }))
+    if (look_up([&] { return _host.handles.require_composition(handle), true; }))
         _json.member("comp", _host.document.scene().composition.name);
     else
         _json.key("comp").null();

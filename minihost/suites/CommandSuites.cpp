@@ -1,7 +1,7 @@
 // Registering hooks, menus and commands, messages and undo groups.
 
 #include "minihost/suites/Serve.h"
-#include "minihost/suites/SuiteTable.h"
+#include "minihost/suites/SuiteFunctions.h"
 
 namespace minihost {
 

@@ -19,8 +19,7 @@ struct Failure {
     std::int32_t code = 4;
 };
 
-// Throws std::invalid_argument, with what is wrong, when the text is none, or when the host has no
-// such call.
+// Throws std::invalid_argument. Whether there is such a call is not checked.
 Failure parse_failure(const std::string& text);
 
 class FailurePlan {

@@ -77,7 +77,7 @@ AEGP_CollectionH Handles::open_collection(Selection items) {
 }
 
 AEGP_PanelH Handles::open_panel() {
-    _panels[_next] = true;
+    _panels.insert(_next);
     return encode<AEGP_PanelH>(Kind::Panel, _next++);
 }
 
@@ -99,7 +99,7 @@ ItemRef Handles::item(AEGP_ItemH handle) const {
     return {ItemRef::Kind::Source, id};
 }
 
-void Handles::composition(AEGP_CompH handle) const {
+void Handles::require_composition(AEGP_CompH handle) const {
     if (decode(Kind::Composition, handle) != _base + 1) stale(Kind::Composition);
 }
 
@@ -117,10 +117,8 @@ Selection& Handles::collection(AEGP_CollectionH handle) {
     return found->second;
 }
 
-std::uint64_t Handles::panel(AEGP_PanelH handle) const {
-    const std::uint64_t number = decode(Kind::Panel, handle);
-    if (!_panels.contains(number)) stale(Kind::Panel);
-    return number;
+void Handles::require_panel(AEGP_PanelH handle) const {
+    if (!_panels.contains(decode(Kind::Panel, handle))) stale(Kind::Panel);
 }
 
 void Handles::close(AEGP_StreamRefH handle) {

@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <map>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <unordered_map>
@@ -56,10 +57,10 @@ class Handles {
     // is null, of another kind, or stale.
     LayerId layer(AEGP_LayerH handle) const;
     ItemRef item(AEGP_ItemH handle) const;
-    void composition(AEGP_CompH handle) const;
+    void require_composition(AEGP_CompH handle) const;
     StreamRef stream(AEGP_StreamRefH handle) const;
     Selection& collection(AEGP_CollectionH handle);
-    std::uint64_t panel(AEGP_PanelH handle) const;
+    void require_panel(AEGP_PanelH handle) const;
 
     void close(AEGP_StreamRefH handle);
     void close(AEGP_CollectionH handle);
@@ -82,7 +83,7 @@ class Handles {
     std::uint64_t _base = 0; // below the numbers of this scene's layers and items
     std::map<std::uint64_t, StreamRef> _streams;
     std::map<std::uint64_t, Selection> _collections;
-    std::map<std::uint64_t, bool> _panels;
+    std::set<std::uint64_t> _panels;
 };
 
 } // namespace minihost

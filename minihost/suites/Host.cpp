@@ -1,7 +1,5 @@
 #include "minihost/suites/Host.h"
 
-#include "minihost/suites/SuiteTable.h"
-
 #include <utility>
 
 namespace minihost {
@@ -42,9 +40,9 @@ Host::Host(Scene scene, HostOptions options, Reporter report, PanelMaker make_pa
       handles(document.scene()),
       failures(options.failures),
       misbehaviour(options.misdeeds),
-      panels(std::move(make_panel)),
       _options(std::move(options)),
-      _report(std::move(report)) {}
+      _report(std::move(report)),
+      _make_panel(std::move(make_panel)) {}
 
 Host* Host::current() {
     return current_host;
@@ -67,11 +65,11 @@ A_Err Host::call_hook(const char* name, const Body& body) {
     return error;
 }
 
-A_Err Host::enter(AEGP_PluginEntryProc entry) {
+A_Err Host::call_entry(AEGP_PluginEntryProc entry, const SPBasicSuite& basic_suite) {
     _entering = true;
     const A_Err error = call_hook("entry function", [&] {
         // The interface wants it without const; the table is never written to.
-        return entry(const_cast<SPBasicSuite*>(basic_suite()), major_version, minor_version,
+        return entry(const_cast<SPBasicSuite*>(&basic_suite), major_version, minor_version,
                      plugin_id, &_global_refcon);
     });
     _entering = false;
@@ -125,18 +123,50 @@ A_Err Host::idle() {
     return first;
 }
 
-A_Err Host::make_panel(AEGP_CreatePanelHook hook, AEGP_CreatePanelRefcon refcon, PanelView& view,
-                       AEGP_PanelH panel, AEGP_PanelFunctions1& functions, AEGP_PanelRefcon& out) {
-    return call_hook("panel hook", [&] {
-        return hook(_global_refcon, refcon, view.container(), panel, &functions, &out);
+A_Err Host::create_panel(PanelKind& kind) {
+    kind.view = _make_panel();
+    kind.handle = handles.open_panel();
+    AEGP_PanelFunctions1 functions{};
+    AEGP_PanelRefcon refcon = nullptr;
+    const A_Err error = call_hook("panel hook", [&] {
+        return kind.hook(_global_refcon, kind.refcon, kind.view->container(), kind.handle,
+                         &functions, &refcon);
     });
+    if (error != 0) {
+        handles.close(kind.handle);
+        kind.view.reset();
+        return error;
+    }
+    if (!functions.GetSnapSizes) return 0;
+    // The panel takes the first of up to 5 sizes. A failure here leaves its size alone.
+    A_LPoint sizes[5] = {};
+    A_long count = 0;
+    const A_Err no_sizes = call_hook("panel's size function",
+                                     [&] { return functions.GetSnapSizes(refcon, sizes, &count); });
+    if (no_sizes == 0 && count > 0 && sizes[0].x > 0 && sizes[0].y > 0)
+        kind.view->resize(sizes[0].x, sizes[0].y);
+    return 0;
 }
 
-A_Err Host::ask_snap_sizes(const AEGP_PanelFunctions1& functions, AEGP_PanelRefcon refcon,
-                           A_LPoint* sizes, A_long& count) {
-    if (!functions.GetSnapSizes) return 0;
-    return call_hook("panel's size function",
-                     [&] { return functions.GetSnapSizes(refcon, sizes, &count); });
+A_Err Host::toggle_panel(const std::string& match_name) {
+    const auto found = panels.kinds().find(match_name);
+    if (found == panels.kinds().end()) return bad_argument_error;
+    PanelKind& kind = found->second;
+    if (!kind.view)
+        if (const A_Err error = create_panel(kind)) return error;
+    kind.view->show(!kind.view->is_visible());
+    return 0;
+}
+
+bool Host::close_panels() {
+    bool any = false;
+    for (auto& [name, kind] : panels.kinds()) {
+        if (!kind.view) continue;
+        any = true;
+        handles.close(kind.handle);
+        visit([&kind = kind] { kind.view.reset(); });
+    }
+    return any;
 }
 
 void Host::visit(const std::function<void()>& body) {
@@ -172,7 +202,7 @@ void Host::open(Scene scene) {
 std::vector<std::string> Host::bury() {
     for (const DeathHook& it : _hooks.death)
         call_hook("death hook", [&] { return it.hook(_global_refcon, it.refcon); });
-    panels.close(*this);
+    close_panels();
     std::vector<std::string> held;
     for (const Fault& it : holdings()) {
         report_fault(it.kind, "the plug-in still holds " + it.text);
@@ -183,7 +213,7 @@ std::vector<std::string> Host::bury() {
     _hooks = {};
     _menu.clear();
     _acquired.clear();
-    panels.forget();
+    panels.kinds().clear();
     handles.close_all();
     return held;
 }
@@ -214,17 +244,8 @@ MenuItem* Host::menu_item(AEGP_Command command) {
     return nullptr;
 }
 
-const void* Host::acquire(const char* name, A_long version) {
-    const Suite* suite = find_suite(name, version);
-    if (!suite) return nullptr;
-    for (const std::string& word : _options.without)
-        if (suite->is_left_out_by(word)) return nullptr;
-    ++_acquired[{name, version}];
-    return misbehaviour.is_on() ? misbehaving_functions(*suite) : suite->functions;
-}
-
-bool Host::release(const char* name, A_long version) {
-    const auto found = _acquired.find({name, version});
+bool Host::count_released(const char* suite, A_long version) {
+    const auto found = _acquired.find({suite, version});
     if (found == _acquired.end() || found->second == 0) return false;
     --found->second;
     return true;

@@ -89,7 +89,6 @@ class Host {
     std::function<void(std::size_t)> on_call;
 
     const HostOptions& options() const { return _options; }
-    const SPBasicSuite* basic_suite() const;
     const std::vector<MenuItem>& menu() const { return _menu; }
     // The texts that the plug-in has reported so far.
     const std::vector<std::string>& alerts() const { return _alerts; }
@@ -104,11 +103,16 @@ class Host {
 
     // What the host does with a plug-in that is loaded. Each reports a hook that fails; the first
     // failing hook's code is the result.
-    A_Err enter(AEGP_PluginEntryProc entry);
+    A_Err call_entry(AEGP_PluginEntryProc entry, const SPBasicSuite& basic_suite);
     A_Err update_menu();
     // As if the user had chosen a command: the plug-in's hooks first, then the host itself.
     A_Err choose(AEGP_Command command);
     A_Err idle();
+    // Shows or hides a panel by its match name; creates it first if necessary, through its hook,
+    // whose error is the result.
+    A_Err toggle_panel(const std::string& match_name);
+    // Disposes of all panels without a call into the plug-in's hooks. False when there was none.
+    bool close_panels();
     // Another scene instead, with no step to undo. The plug-in stays; what it had of the old scene
     // is stale.
     void open(Scene scene);
@@ -131,26 +135,23 @@ class Host {
     bool is_entering() const { return _entering; }
     Hooks& hooks() { return _hooks; }
     AEGP_Command new_command() { return _next_command++; }
-    // A panel's hook fills its view.
-    A_Err make_panel(AEGP_CreatePanelHook hook, AEGP_CreatePanelRefcon refcon, PanelView& view,
-                     AEGP_PanelH panel, AEGP_PanelFunctions1& functions, AEGP_PanelRefcon& out);
-    // Up to 5 sizes; none when the panel has no such function.
-    A_Err ask_snap_sizes(const AEGP_PanelFunctions1& functions, AEGP_PanelRefcon refcon,
-                         A_LPoint* sizes, A_long& count);
     void insert_menu_item(MenuItem item) { _menu.push_back(std::move(item)); }
     MenuItem* menu_item(AEGP_Command command);
-    const void* acquire(const char* name, A_long version);
-    bool release(const char* name, A_long version);
+    void count_acquired(const char* suite, A_long version) { ++_acquired[{suite, version}]; }
+    // False when it was not acquired.
+    bool count_released(const char* suite, A_long version);
 
   private:
     class Visit;
     void report_fault(FaultKind kind, const std::string& line);
     template <typename Body>
     A_Err call_hook(const char* name, const Body& body);
+    A_Err create_panel(PanelKind& kind);
     std::vector<Fault> holdings() const;
 
     HostOptions _options;
     Reporter _report;
+    PanelMaker _make_panel;
     Hooks _hooks;
     std::vector<MenuItem> _menu;
     std::vector<std::string> _alerts;

@@ -1,7 +1,7 @@
 // Collections, items, and the composition with its selection.
 
 #include "minihost/suites/Serve.h"
-#include "minihost/suites/SuiteTable.h"
+#include "minihost/suites/SuiteFunctions.h"
 
 namespace minihost {
 
@@ -139,7 +139,7 @@ A_Err GetNewCollectionFromCompSelection(AEGP_PluginID, AEGP_CompH comp,
         comp_call("GetNewCollectionFromCompSelection"),
         [&](Arguments& it) { it.composition(comp); },
         [&](Host& host) -> A_Err {
-            host.handles.composition(comp);
+            host.handles.require_composition(comp);
             AEGP_CollectionH& result = need(collection);
             result = host.handles.open_collection(host.document.scene().selection());
             return 0;
@@ -151,7 +151,7 @@ A_Err SetSelection(AEGP_CompH comp, AEGP_CollectionH collection) {
         comp_call("SetSelection"),
         [&](Arguments& it) { it.composition(comp).collection(collection); },
         [&](Host& host) -> A_Err {
-            host.handles.composition(comp);
+            host.handles.require_composition(comp);
             const Selection& items = host.handles.collection(collection);
             for (const LayerId layer : items)
                 if (layer && !host.document.scene().find(layer))

@@ -1,7 +1,7 @@
 // Layers: which there are, what they are, in which order.
 
 #include "minihost/suites/Serve.h"
-#include "minihost/suites/SuiteTable.h"
+#include "minihost/suites/SuiteFunctions.h"
 #include "minihost/suites/Times.h"
 
 #include <algorithm>
@@ -40,7 +40,7 @@ A_Err GetCompNumLayers(AEGP_CompH comp, A_long* count) {
     return serve(
         layer_call("GetCompNumLayers"), [&](Arguments& it) { it.composition(comp); },
         [&](Host& host) -> A_Err {
-            host.handles.composition(comp);
+            host.handles.require_composition(comp);
             need(count) = static_cast<A_long>(host.document.scene().layer_count());
             return 0;
         });
@@ -51,7 +51,7 @@ A_Err GetCompLayerByIndex(AEGP_CompH comp, A_long index, AEGP_LayerH* layer) {
         layer_call("GetCompLayerByIndex"),
         [&](Arguments& it) { it.composition(comp).number("index", index); },
         [&](Host& host) -> A_Err {
-            host.handles.composition(comp);
+            host.handles.require_composition(comp);
             AEGP_LayerH& result = need(layer);
             const Scene& scene = host.document.scene();
             if (index < 0 || static_cast<std::size_t>(index) >= scene.layer_count())

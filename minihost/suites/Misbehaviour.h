@@ -15,7 +15,6 @@
 namespace minihost {
 
 class Document;
-struct Suite;
 
 enum class AnswerKind { Handle, Count, Size, Name, Value, Scene };
 
@@ -52,8 +51,5 @@ class Misbehaviour {
     std::map<const Misdeed*, std::set<std::int64_t>> _planned;
     std::map<AnswerKind, std::int64_t> _answers;
 };
-
-// The functions of a suite whose answers the current host's misbehaviour spoils.
-const void* misbehaving_functions(const Suite& suite);
 
 } // namespace minihost

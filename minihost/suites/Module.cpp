@@ -1,5 +1,7 @@
 #include "minihost/suites/Module.h"
 
+#include "minihost/suites/BasicSuite.h"
+
 #include <dlfcn.h>
 #include <utility>
 
@@ -40,7 +42,8 @@ Module::Module(Host& host, const std::string& path) : _host(host) {
         ::dlclose(_library);
         throw LoadError(LoadStage::Find, path, cause);
     }
-    const A_Err error = _host.enter(reinterpret_cast<AEGP_PluginEntryProc>(entry));
+    const A_Err error =
+        _host.call_entry(reinterpret_cast<AEGP_PluginEntryProc>(entry), basic_suite);
     if (error == 0) return;
     // What it has registered so far stays registered: the death hook with the rest.
     unload();

@@ -1,7 +1,7 @@
 // Panels, and the interface colours.
 
 #include "minihost/suites/Serve.h"
-#include "minihost/suites/SuiteTable.h"
+#include "minihost/suites/SuiteFunctions.h"
 
 namespace minihost {
 
@@ -31,18 +31,15 @@ A_Err RegisterCreatePanelHook(AEGP_PluginID, const A_char* match_name, AEGP_Crea
 A_Err ToggleVisibility(const A_char* match_name) {
     return serve(
         panel_call("ToggleVisibility"), [&](Arguments& it) { it.text("match_name", match_name); },
-        [&](Host& host) -> A_Err {
-            if (!host.panels.is_registered(&need(match_name))) return bad_argument_error;
-            return host.panels.toggle(host, match_name);
-        });
+        [&](Host& host) { return host.toggle_panel(&need(match_name)); });
 }
 
 A_Err SetTitle(AEGP_PanelH panel, const A_char* title) {
     return serve(
         panel_call("SetTitle"), [&](Arguments& it) { it.panel(panel).text("title", title); },
         [&](Host& host) -> A_Err {
-            const std::uint64_t number = host.handles.panel(panel);
-            return host.panels.set_title(number, &need(title)) ? 0 : bad_argument_error;
+            host.handles.require_panel(panel);
+            return host.panels.set_title(panel, &need(title)) ? 0 : bad_argument_error;
         });
 }
 

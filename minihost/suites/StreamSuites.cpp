@@ -1,7 +1,7 @@
 // The streams of a layer: their values and keys.
 
 #include "minihost/suites/Serve.h"
-#include "minihost/suites/SuiteTable.h"
+#include "minihost/suites/SuiteFunctions.h"
 #include "minihost/suites/Times.h"
 
 #include <cmath>

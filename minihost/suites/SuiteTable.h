@@ -35,19 +35,4 @@ bool gives_back(std::string_view suite_and_call);
 // Whether it is a word of --without: that of an optional suite, or any suite's name and version.
 bool is_missing_part(std::string_view word);
 
-// The function tables, each made where its functions are.
-extern const void* const register_suite;
-extern const void* const command_suite;
-extern const void* const utility_suite;
-extern const void* const collection_suite;
-extern const void* const item_suite;
-extern const void* const comp_suite;
-extern const void* const layer_suite_5;
-extern const void* const layer_suite_8;
-extern const void* const layer_suite_10;
-extern const void* const stream_suite;
-extern const void* const keyframe_suite;
-extern const void* const panel_suite;
-extern const void* const app_suite;
-
 } // namespace minihost

@@ -64,6 +64,7 @@ TEST_F(Program, BadArgumentsAndBadScenesEndWithTwoAndTouchNothing) {
         {"apply scene.json --set angle", "NAME=VALUE"},
         {"apply scene.json --without panels --without legs", "legs"},
         {"apply scene.json --fail Walk", "Walk"},
+        {"apply scene.json --fail 'AEGP Item Suite.Get'", "no such call"},
         {"apply scene.json --misbehave lies", "lies"},
         {"apply scene.json --palette blue", "blue"},
         {"apply scene.json --scale 0", "--scale"},

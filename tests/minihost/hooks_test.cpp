@@ -94,7 +94,7 @@ class HookedHost : public Suites {
         calls.clear();
         result_of_hooks = 0;
         hooks_throw = false;
-        EXPECT_EQ(host.enter(entry), 0);
+        EXPECT_EQ(host.call_entry(entry, basic_suite), 0);
     }
 };
 
@@ -107,8 +107,8 @@ TEST_F(HookedHost, MakesAPanelOnceAndThenTogglesIt) {
     EXPECT_EQ(host.panels.view()->title(), "Title");
     host.choose(5001);
     EXPECT_FALSE(host.panels.view()->is_visible());
-    EXPECT_TRUE(host.panels.close(host));
-    EXPECT_FALSE(host.panels.close(host));
+    EXPECT_TRUE(host.close_panels());
+    EXPECT_FALSE(host.close_panels());
     calls.clear();
     host.choose(5001);
     EXPECT_THAT(calls, ElementsAre("panel", "sizes", "command")) << "made anew";

@@ -255,7 +255,7 @@ TEST_F(Suites, AnswerMisuseWithThreeAndTellOfIt) {
                 suite<AEGP_UtilitySuite3>(kAEGPUtilitySuite, 3).AEGP_ReportInfo(1, nullptr),
                 suite<AEGP_RegisterSuite6>(kAEGPRegisterSuite, 6)
                     .AEGP_RegisterIdleHook(1, nullptr, nullptr),
-                host.basic_suite()->ReleaseSuite("No Suite", 1)}),
+                basic_suite.ReleaseSuite("No Suite", 1)}),
             Each(misuse_error));
         EXPECT_EQ(messages.size(), 15u);
         EXPECT_EQ(host.misuses(), 15);
@@ -278,7 +278,7 @@ TEST_F(Suites, AreLoggedInTheOrderInWhichCallsBegin) {
     host.log.set_sink([&](const std::string& line) { lines.push_back(line); });
     inside([&] {
         const void* table = nullptr;
-        host.basic_suite()->AcquireSuite("No \"Suite\"", 2, &table);
+        basic_suite.AcquireSuite("No \"Suite\"", 2, &table);
         AEGP_StreamRefH rotation = nullptr;
         AEGP_StreamValue value{};
         value.val.one_d = 0.25;

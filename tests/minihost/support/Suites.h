@@ -3,6 +3,7 @@
 #pragma once
 
 #include "minihost/model/SceneReader.h"
+#include "minihost/suites/BasicSuite.h"
 #include "minihost/suites/Host.h"
 
 #include <functional>
@@ -36,7 +37,7 @@ class Suites : public testing::Test {
     template <typename Table>
     const Table& suite(const char* name, A_long version) {
         const void* table = nullptr;
-        EXPECT_EQ(host.basic_suite()->AcquireSuite(name, version, &table), 0) << name;
+        EXPECT_EQ(basic_suite.AcquireSuite(name, version, &table), 0) << name;
         return *static_cast<const Table*>(table);
     }
     const AEGP_LayerSuite5& layers() { return suite<AEGP_LayerSuite5>(kAEGPLayerSuite, 5); }

@@ -1,8 +1,7 @@
-// The suites of a host that misbehaves: each function asks the proper one first, then spoils what
-// that has answered.
+#include "minihost/suites/CorruptedSuites.h"
 
 #include "minihost/suites/Host.h"
-#include "minihost/suites/SuiteTable.h"
+#include "minihost/suites/SuiteFunctions.h"
 
 #include <cstring>
 #include <limits>
@@ -174,8 +173,7 @@ const void* spoiled(const void* functions) {
 
 } // namespace
 
-const void* misbehaving_functions(const Suite& suite) {
-    const void* functions = suite.functions;
+const void* corrupted_functions(const void* functions) {
     if (functions == collection_suite) return spoiled<AEGP_CollectionSuite1>(functions);
     if (functions == item_suite) return spoiled<AEGP_ItemSuite3>(functions);
     if (functions == comp_suite) return spoiled<AEGP_CompSuite4>(functions);
