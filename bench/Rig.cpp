@@ -76,14 +76,14 @@ Rig::Rig(minihost::Scene scene, Plugin plugin)
 
 Rig::~Rig() {
     try {
-        visit([&] { _host.bury(); });
+        visit([&] { _host.shut_down(); });
     } catch (const std::exception&) {
         // It was told of when it happened, or the measuring is over.
     }
 }
 
 void Rig::visit(const std::function<void()>& body) {
-    _screen->with_pool([&] { _host.visit(body); });
+    _screen->with_pool([&] { _host.enter(body); });
 }
 
 void Rig::check(A_Err error) {

@@ -26,9 +26,9 @@ std::string action_help() {
 }
 
 // What a host may do wrong, for the help.
-std::string misdeed_help() {
+std::string misbehaviour_help() {
     std::string text = "With --misbehave the host\n";
-    for (const Misdeed& it : misdeeds()) {
+    for (const Misbehaviour& it : misbehaviours()) {
         std::string head = std::string("  ") + it.word;
         head.resize(26, ' ');
         text += head + it.sentence + "\n";
@@ -36,7 +36,7 @@ std::string misdeed_help() {
     return text;
 }
 
-std::string missing_part_names() {
+std::string without_words() {
     std::string names;
     for (const Suite& suite : suites())
         if (suite.without) names += (names.empty() ? "" : ", ") + std::string(suite.without);
@@ -45,7 +45,7 @@ std::string missing_part_names() {
 
 // The options that every verb has.
 void add_options(CLI::App& verb, Request& request, std::vector<std::string>& failures,
-                 std::vector<std::string>& without, std::vector<std::string>& misdeeds,
+                 std::vector<std::string>& without, std::vector<std::string>& misbehaviours,
                  std::string& palette) {
     verb.add_option("SCENE", request.scene, "the scene file")->required();
     verb.add_option("--plugin", request.plugin,
@@ -61,14 +61,14 @@ void add_options(CLI::App& verb, Request& request, std::vector<std::string>& fai
     verb.add_option("--calls", request.calls,
                     "every call that the plug-in made of the host, one JSON object a line")
         ->type_name("FILE");
-    verb.add_option("--without", without, "a host that lacks it: " + missing_part_names())
+    verb.add_option("--without", without, "a host that lacks it: " + without_words())
         ->type_name("WHAT")
         ->allow_extra_args(false);
     verb.add_option("--fail", failures,
                     "the K-th call (default 1) of that name returns CODE (default 4)")
         ->type_name("SUITE.CALL[:K[:CODE]]")
         ->allow_extra_args(false);
-    verb.add_option("--misbehave", misdeeds,
+    verb.add_option("--misbehave", misbehaviours,
                     "a host whose K-th answer of a kind, or every one, is nonsense, or whose scene "
                     "changes before the K-th call; see below")
         ->type_name("WHAT[:K]")
@@ -115,22 +115,23 @@ void check_window(Request& request) {
 
 // What the library cannot check by itself. Throws std::invalid_argument.
 void check(Request& request, const std::vector<std::string>& failures,
-           const std::vector<std::string>& without, const std::vector<std::string>& misdeeds,
+           const std::vector<std::string>& without, const std::vector<std::string>& misbehaviours,
            const std::string& palette) {
     for (const std::string& text : request.sets)
         if (text.find('=') == std::string::npos || text[0] == '=')
             throw std::invalid_argument("--set: \"" + text + "\" is not NAME=VALUE");
     for (const std::string& text : failures) {
         request.host.failures.push_back(parse_failure(text));
-        if (!is_call_of_host(request.host.failures.back().call))
+        if (!is_host_call(request.host.failures.back().call))
             throw std::invalid_argument("\"" + text + "\": the host has no such call (one is \"" +
                                         "AEGP Stream Suite.SetStreamValue\")");
     }
-    for (const std::string& text : misdeeds) request.host.misdeeds.push_back(parse_misdeed(text));
+    for (const std::string& text : misbehaviours)
+        request.host.misbehaviours.push_back(parse_misbehaviour(text));
     for (const std::string& word : without) {
-        if (!is_missing_part(word))
+        if (!is_without_word(word))
             throw std::invalid_argument("--without: \"" + word + "\" is none of " +
-                                        missing_part_names());
+                                        without_words());
         request.host.without.insert(word);
     }
     const auto colors = palette_of_name(palette);
@@ -152,7 +153,7 @@ void check(Request& request, const std::vector<std::string>& failures,
 
 ParsedCommandLine parse_command_line(int count, const char* const* arguments) {
     Request request;
-    std::vector<std::string> failures, without, misdeeds;
+    std::vector<std::string> failures, without, misbehaviours;
     std::string palette = "dark";
     CLI::App app(
         "A small host for compositing plug-ins: it loads one, serves it a scene, and plays "
@@ -164,20 +165,20 @@ ParsedCommandLine parse_command_line(int count, const char* const* arguments) {
     CLI::App* apply = app.add_subcommand(
         "apply", "Opens the dialog, sets controls, presses Apply, makes one idle call");
     CLI::App* run = app.add_subcommand("run", "Plays a file of actions");
-    add_options(*apply, request, failures, without, misdeeds, palette);
+    add_options(*apply, request, failures, without, misbehaviours, palette);
     apply->add_option("--set", request.sets, "set a control before applying; may come often")
         ->type_name("NAME=VALUE")
         ->allow_extra_args(false);
-    add_options(*run, request, failures, without, misdeeds, palette);
+    add_options(*run, request, failures, without, misbehaviours, palette);
     run->add_option("ACTIONS", request.actions, "the file of actions; \"-\": standard input")
         ->required();
-    apply->footer(misdeed_help());
-    run->footer(action_help() + "\n" + misdeed_help());
+    apply->footer(misbehaviour_help());
+    run->footer(action_help() + "\n" + misbehaviour_help());
     CLI::App* check_verb =
         app.add_subcommand("check", "Puts the plug-in through its paces and tells what fails");
     add_check_options(*check_verb, request);
     CLI::App* show = app.add_subcommand("show", "Opens a window in which the plug-in is used");
-    add_options(*show, request, failures, without, misdeeds, palette);
+    add_options(*show, request, failures, without, misbehaviours, palette);
     show->get_option("--scale")->description("pixels per point of the screen (default: its own)");
     show->add_option("--window", request.window_size,
                      "its size in points (default 1280x800, or what the screen has room for)")
@@ -185,7 +186,7 @@ ParsedCommandLine parse_command_line(int count, const char* const* arguments) {
     show->add_option("--frames", request.frames, "ends after N drawn frames")->type_name("N");
     show->add_option("--screenshot", request.screenshot, "picture of the last frame; .png")
         ->type_name("FILE");
-    show->footer(misdeed_help());
+    show->footer(misbehaviour_help());
     try {
         app.parse(count, const_cast<char**>(arguments));
         if (run->parsed()) request.verb = Verb::Run;
@@ -193,7 +194,7 @@ ParsedCommandLine parse_command_line(int count, const char* const* arguments) {
         if (check_verb->parsed()) request.verb = Verb::Check;
         request.has_scale = show->count("--scale") > 0;
         check_window(request);
-        check(request, failures, without, misdeeds, palette);
+        check(request, failures, without, misbehaviours, palette);
     } catch (const CLI::ParseError& error) {
         return {std::nullopt, app.exit(error) == 0 ? 0 : 2};
     } catch (const std::invalid_argument& error) {

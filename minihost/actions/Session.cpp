@@ -37,7 +37,7 @@ void Session::settle() {
 }
 
 void Session::enter(const std::function<void()>& body) {
-    _screen->with_pool([&] { _host.visit(body); });
+    _screen->with_pool([&] { _host.enter(body); });
     for (const std::string& text : _screen->new_alerts()) _host.alert(text);
 }
 

@@ -52,7 +52,7 @@ class Sweep {
         for (const std::string& line : _life.calls()) ++_made_before[call_in(line)];
         const std::vector<std::string> calls = calls_of_part();
         std::map<std::string, std::int64_t> number;
-        std::vector<Failure> failures;
+        std::vector<PlannedFailure> failures;
         for (const std::string& call : calls) failures.push_back({call, ++number[call], 0});
         std::size_t turn = 0;
         for (const std::size_t pick : picks(calls, _subject.level))
@@ -87,18 +87,18 @@ class Sweep {
         return Json::parse(plain.result);
     }
 
-    void fail(const Failure& failure) {
-        std::set<FaultKind> known = _plain.kinds();
-        known.insert(FaultKind::HookError); // that is what an error is for
-        if (gives_back(failure.call))
-            known.insert({FaultKind::HeldSuite, FaultKind::HeldStream, FaultKind::HeldCollection,
-                          FaultKind::OpenUndoGroup});
+    void fail(const PlannedFailure& failure) {
+        std::set<ViolationKind> known = _plain.kinds();
+        known.insert(ViolationKind::HookError); // that is what an error is for
+        if (is_release_call(failure.call))
+            known.insert({ViolationKind::HeldSuite, ViolationKind::HeldStream,
+                          ViolationKind::HeldCollection, ViolationKind::OpenUndoGroup});
         const std::string example = example_of(failure);
         _crew.run(
             [this, failure](Place& place) {
                 Host& host = _life.session().host();
                 host.log.set_sink({});
-                host.failures = FailurePlan({failure});
+                host.failure_plan = FailurePlan({failure});
                 for (std::size_t i = _part; i < Life::parts(_plain.scenario); ++i) {
                     place.enter(i == 0 ? "load"
                                 : i > _plain.scenario.steps.size()
@@ -106,7 +106,7 @@ class Sweep {
                                     : _plain.scenario.steps[i - 1].line);
                     _life.live_part(_plain.scenario, i);
                 }
-                return faults_text(_life.faults());
+                return violations_text(_life.violations());
             },
             [this, known, example](const Ending& ending) {
                 _place.enter(example);
@@ -116,7 +116,7 @@ class Sweep {
             });
     }
 
-    std::string example_of(const Failure& failure) {
+    std::string example_of(const PlannedFailure& failure) {
         const std::string text = failure.call + ":" +
                                  std::to_string(failure.number + _made_before[failure.call]) + ":" +
                                  std::to_string(failure.code);

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "minihost/check/Check.h"
-#include "minihost/suites/Misbehaviour.h"
+#include "minihost/suites/MisbehaviourPlan.h"
 
 namespace minihost {
 
@@ -18,10 +18,10 @@ void check_idle_ends(const CheckContext&, Findings&);
 void check_hooks_return(const CheckContext&, Findings&);
 
 // Of one kind of fault, in lives that nothing disturbs: hooks, held, misuse.
-void tell_plain_faults(const CheckContext&, Findings&, FaultKind kind);
-template <FaultKind kind>
+void report_plain_violations(const CheckContext&, Findings&, ViolationKind kind);
+template <ViolationKind kind>
 void check_plain(const CheckContext& context, Findings& findings) {
-    tell_plain_faults(context, findings, kind);
+    report_plain_violations(context, findings, kind);
 }
 void check_memory(const CheckContext&, Findings&);
 
@@ -37,8 +37,8 @@ void check_failing(const CheckContext& context, Findings& findings) {
 }
 
 // hostile
-void tell_hostile(const CheckContext&, Findings&, AnswerKind kind);
-template <AnswerKind kind>
+void tell_hostile(const CheckContext&, Findings&, MisbehaviourKind kind);
+template <MisbehaviourKind kind>
 void check_hostile(const CheckContext& context, Findings& findings) {
     tell_hostile(context, findings, kind);
 }

@@ -21,8 +21,7 @@ std::vector<std::string> registered(Host& host) {
     lines.insert(lines.end(), host.hooks().death.size(), "a death hook");
     for (const MenuItem& it : host.menu())
         lines.push_back("a command \"" + it.text + "\" in menu " + std::to_string(it.menu));
-    for (const auto& [name, kind] : host.panels.kinds())
-        lines.push_back("panels \"" + name + "\"");
+    for (const auto& [name, kind] : host.panels.kinds()) lines.push_back("panels \"" + name + "\"");
     return lines;
 }
 

@@ -36,7 +36,7 @@ void limit_memory() {
 
 class HostileCheck {
   public:
-    HostileCheck(const CheckContext& context, Findings& findings, AnswerKind kind)
+    HostileCheck(const CheckContext& context, Findings& findings, MisbehaviourKind kind)
         : _context(context),
           _subject(context.subject),
           _findings(findings),
@@ -48,12 +48,12 @@ class HostileCheck {
             if (!plain.ended_well() || !plain.scenario.is_mode) continue;
             const std::int64_t answers = count_answers(plain);
             if (answers == 0) continue;
-            for (const Misdeed& misdeed : misdeeds()) {
-                if (misdeed.kind != _kind) continue;
-                misbehave(plain, {&misdeed, 0});
+            for (const Misbehaviour& misbehaviour : misbehaviours()) {
+                if (misbehaviour.kind != _kind) continue;
+                misbehave(plain, {&misbehaviour, 0});
                 for (const std::int64_t number :
                      picks(answers, &plain == &_context.rehearsal.lives[0]))
-                    misbehave(plain, {&misdeed, number});
+                    misbehave(plain, {&misbehaviour, number});
             }
         }
         _crew.finish();
@@ -75,28 +75,28 @@ class HostileCheck {
 
     std::int64_t count_answers(const RehearsedLife& plain) {
         HostOptions options;
-        for (const Misdeed& it : misdeeds())
-            options.misdeeds.push_back({&it, std::numeric_limits<std::int64_t>::max()});
+        for (const Misbehaviour& it : misbehaviours())
+            options.misbehaviours.push_back({&it, std::numeric_limits<std::int64_t>::max()});
         const Ending counted = run_in_child(
             [&](Place& place) {
                 Life life(_subject.plugin, _subject.small_scene, options, place);
                 life.live(plain.scenario);
-                return std::to_string(life.session().host().misbehaviour.answers(_kind));
+                return std::to_string(life.session().host().misbehaviour_plan.count(_kind));
             },
             _subject.limits(), Child::Exit::Quick);
         // Otherwise the rehearsal tells.
         return counted.kind == Ending::Kind::Done ? std::stoll(counted.result) : 0;
     }
 
-    void misbehave(const RehearsedLife& plain, PlannedMisdeed planned) {
+    void misbehave(const RehearsedLife& plain, PlannedMisbehaviour planned) {
         _crew.run(
             [this, &plain, planned](Place& place) {
                 limit_memory();
                 HostOptions options;
-                options.misdeeds = {planned};
+                options.misbehaviours = {planned};
                 Life life(_subject.plugin, _subject.small_scene, options, place);
                 life.live(plain.scenario);
-                return faults_text(life.faults());
+                return violations_text(life.violations());
             },
             [this, &plain, planned](const Ending& ending) {
                 const std::string example = example_of(plain, planned);
@@ -108,20 +108,20 @@ class HostileCheck {
     }
 
     void tell(const Ending& ending, const RehearsedLife& plain, const std::string& example) {
-        std::set<FaultKind> known = plain.kinds();
-        known.insert(FaultKind::HookError); // that is how a plug-in gives up
-        if (_kind == AnswerKind::Scene) known.insert(FaultKind::StaleHandle);
+        std::set<ViolationKind> known = plain.kinds();
+        known.insert(ViolationKind::HookError); // that is how a plug-in gives up
+        if (_kind == MisbehaviourKind::Scene) known.insert(ViolationKind::StaleHandle);
         // The host refuses what it gave; still it is better not to ask it.
-        if (_kind == AnswerKind::Handle && ending.kind == Ending::Kind::Done)
-            for (const Fault& fault : faults_in(ending.result))
-                if (fault.kind == FaultKind::WrongHandle && !known.contains(fault.kind))
-                    _findings.add(Outcome::Warn, fault.text, example);
-        if (_kind == AnswerKind::Handle) known.insert(FaultKind::WrongHandle);
+        if (_kind == MisbehaviourKind::Handle && ending.kind == Ending::Kind::Done)
+            for (const Violation& violation : violations_in(ending.result))
+                if (violation.kind == ViolationKind::WrongHandle && !known.contains(violation.kind))
+                    _findings.add(Outcome::Warn, violation.text, example);
+        if (_kind == MisbehaviourKind::Handle) known.insert(ViolationKind::WrongHandle);
         tell_disturbed(ending, known, example, _findings);
     }
 
-    std::string example_of(const RehearsedLife& plain, PlannedMisdeed planned) const {
-        std::string text = planned.misdeed->word;
+    std::string example_of(const RehearsedLife& plain, PlannedMisbehaviour planned) const {
+        std::string text = planned.misbehaviour->word;
         if (planned.number > 0) text += ":" + std::to_string(planned.number);
         return where_counted(_subject, plain.scenario, "--misbehave " + shell_word(text));
     }
@@ -129,14 +129,14 @@ class HostileCheck {
     const CheckContext& _context;
     const Subject& _subject;
     Findings& _findings;
-    AnswerKind _kind;
+    MisbehaviourKind _kind;
     std::int64_t _turn = 0;
     Crew _crew;
 };
 
 } // namespace
 
-void tell_hostile(const CheckContext& context, Findings& findings, AnswerKind kind) {
+void tell_hostile(const CheckContext& context, Findings& findings, MisbehaviourKind kind) {
     HostileCheck(context, findings, kind).run();
 }
 

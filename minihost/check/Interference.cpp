@@ -5,7 +5,7 @@
 
 namespace minihost {
 
-void tell_disturbed(const Ending& ending, const std::set<FaultKind>& known,
+void tell_disturbed(const Ending& ending, const std::set<ViolationKind>& known,
                     const std::string& example, Findings& findings) {
     switch (ending.kind) {
     case Ending::Kind::Crashed:
@@ -15,9 +15,9 @@ void tell_disturbed(const Ending& ending, const std::set<FaultKind>& known,
     case Ending::Kind::Done:
         break;
     }
-    for (const Fault& fault : faults_in(ending.result))
-        if (!known.contains(fault.kind)) findings.add(Outcome::Fail, fault.text, example);
-    if (ending.leaked && !known.contains(FaultKind::Leak))
+    for (const Violation& violation : violations_in(ending.result))
+        if (!known.contains(violation.kind)) findings.add(Outcome::Fail, violation.text, example);
+    if (ending.leaked && !known.contains(ViolationKind::Leak))
         findings.add(Outcome::Fail, "memory is not freed at the end", example);
 }
 

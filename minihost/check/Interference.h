@@ -10,9 +10,9 @@
 
 namespace minihost {
 
-// Tells what came of a disturbed life, whose work gave faults_text(): a crash, a time-out, a leak,
-// faults of kinds that are not `known`. `example` says where, and how to repeat it.
-void tell_disturbed(const Ending& ending, const std::set<FaultKind>& known,
+// Tells what came of a disturbed life, whose work gave violations_text(): a crash, a time-out, a
+// leak, faults of kinds that are not `known`. `example` says where, and how to repeat it.
+void tell_disturbed(const Ending& ending, const std::set<ViolationKind>& known,
                     const std::string& example, Findings& findings);
 
 } // namespace minihost

@@ -50,10 +50,12 @@ bool Life::play(const std::string& line) {
     } catch (const ControlError&) {
         is_done = false;
     } catch (...) {
-        host.note(FaultKind::HookException, "what was thrown left the plug-in at \"" + line + "\"");
+        host.record_violation(ViolationKind::HookException,
+                              "what was thrown left the plug-in at \"" + line + "\"");
     }
     if (host.document.open_groups() > 0)
-        host.note(FaultKind::OpenUndoGroup, "an undo group is left open after \"" + line + "\"");
+        host.record_violation(ViolationKind::OpenUndoGroup,
+                              "an undo group is left open after \"" + line + "\"");
     return is_done;
 }
 
@@ -90,17 +92,18 @@ std::string call_in(const std::string& line) {
     return call["suite"].get<std::string>() + "." + call["call"].get<std::string>();
 }
 
-std::string faults_text(const std::vector<Fault>& faults) {
+std::string violations_text(const std::vector<Violation>& violations) {
     Json list = Json::array();
-    for (const Fault& it : faults) list.push_back({static_cast<int>(it.kind), it.text});
+    for (const Violation& it : violations) list.push_back({static_cast<int>(it.kind), it.text});
     return list.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
-std::vector<Fault> faults_in(const std::string& text) {
-    std::vector<Fault> faults;
+std::vector<Violation> violations_in(const std::string& text) {
+    std::vector<Violation> violations;
     for (const Json& it : Json::parse(text))
-        faults.push_back({static_cast<FaultKind>(it[0].get<int>()), it[1].get<std::string>()});
-    return faults;
+        violations.push_back(
+            {static_cast<ViolationKind>(it[0].get<int>()), it[1].get<std::string>()});
+    return violations;
 }
 
 } // namespace minihost

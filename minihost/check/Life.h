@@ -37,7 +37,7 @@ class Life {
     const std::vector<std::string>& calls() const { return _calls; }
 
     Session& session() { return _session; }
-    const std::vector<Fault>& faults() { return _session.host().faults(); }
+    const std::vector<Violation>& violations() { return _session.host().violations(); }
 
   private:
     void say(const std::string& line);
@@ -55,7 +55,7 @@ class Life {
 std::string call_in(const std::string& line);
 
 // Faults as text, and back.
-std::string faults_text(const std::vector<Fault>& faults);
-std::vector<Fault> faults_in(const std::string& text);
+std::string violations_text(const std::vector<Violation>& violations);
+std::vector<Violation> violations_in(const std::string& text);
 
 } // namespace minihost

@@ -108,9 +108,9 @@ void check_loading_repeatedly(const CheckContext& context, Findings& findings) {
 void check_memory(const CheckContext& context, Findings& findings) {
     const RehearsedLife& plain = context.rehearsal.lives.front();
     if (!plain.ended_well()) return findings.skip("the plain life does not end well");
-    for (const Fault& fault : plain.faults)
-        if (fault.kind == FaultKind::Leak) {
-            findings.fail(fault.text);
+    for (const Violation& violation : plain.violations)
+        if (violation.kind == ViolationKind::Leak) {
+            findings.fail(violation.text);
             for (const std::string& line : plain.ending.said) findings.note(line);
         }
     if (!allocated_bytes()) {

@@ -23,7 +23,7 @@ std::vector<std::string> optional_parts() {
 
 // Lives through the scenarios on a host without these parts. `allowed` kinds are no faults then.
 void live_without(const CheckContext& context, Crew& crew, const std::set<std::string>& without,
-                  const std::set<FaultKind>& allowed, Findings& findings) {
+                  const std::set<ViolationKind>& allowed, Findings& findings) {
     std::string options;
     for (const std::string& word : without)
         options += (options.empty() ? "--without " : " --without ") + shell_word(word);
@@ -33,7 +33,7 @@ void live_without(const CheckContext& context, Crew& crew, const std::set<std::s
             &plain != &context.rehearsal.lives.front() && &plain != &context.rehearsal.lives.back())
             continue;
         if (!plain.ended_well() || !plain.scenario.is_mode) continue;
-        std::set<FaultKind> known = plain.kinds();
+        std::set<ViolationKind> known = plain.kinds();
         known.insert(allowed.begin(), allowed.end());
         const std::string example = where(context.subject, plain.scenario, options);
         crew.run(
@@ -42,7 +42,7 @@ void live_without(const CheckContext& context, Crew& crew, const std::set<std::s
                 host.without = without;
                 Life life(context.subject.plugin, context.subject.small_scene, host, place);
                 life.live(plain.scenario);
-                return faults_text(life.faults());
+                return violations_text(life.violations());
             },
             [&, known, example](const Ending& ending) {
                 context.place.enter(example);
@@ -71,11 +71,11 @@ void check_missing_optional(const CheckContext& context, Findings& findings) {
 void check_missing_any(const CheckContext& context, Findings& findings) {
     Crew crew(context.subject.limits(), Child::Exit::Proper);
     for (const Suite& suite : suites()) {
-        std::set<FaultKind> allowed{FaultKind::HookError};
+        std::set<ViolationKind> allowed{ViolationKind::HookError};
         // Without its suite nothing can be given back.
         for (const char* call : suite.calls)
-            if (gives_back(suite.name + (std::string(".") + call)))
-                allowed.insert({FaultKind::HeldStream, FaultKind::HeldCollection});
+            if (is_release_call(suite.name + (std::string(".") + call)))
+                allowed.insert({ViolationKind::HeldStream, ViolationKind::HeldCollection});
         live_without(context, crew, {suite.name + (" " + std::to_string(suite.version))}, allowed,
                      findings);
     }

@@ -18,13 +18,14 @@ void tell_death(const CheckContext& context, Findings& findings, const Rehearsed
 
 } // namespace
 
-void tell_plain_faults(const CheckContext& context, Findings& findings, FaultKind kind) {
+void report_plain_violations(const CheckContext& context, Findings& findings, ViolationKind kind) {
     for (const RehearsedLife& life : context.rehearsal.lives) {
         if (!life.ended_well()) continue;
         findings.count_run();
-        for (const Fault& fault : life.faults)
-            if (fault.kind == kind)
-                findings.add(Outcome::Fail, fault.text, where(context.subject, life.scenario, ""));
+        for (const Violation& violation : life.violations)
+            if (violation.kind == kind)
+                findings.add(Outcome::Fail, violation.text,
+                             where(context.subject, life.scenario, ""));
     }
 }
 

@@ -41,8 +41,8 @@ std::vector<Deed> Journal::deeds() const {
     return deeds;
 }
 
-std::set<FaultKind> RandomRuns::known(const CheckContext& context) {
-    std::set<FaultKind> known;
+std::set<ViolationKind> RandomRuns::known(const CheckContext& context) {
+    std::set<ViolationKind> known;
     for (const RehearsedLife& life : context.rehearsal.lives) known.merge(life.kinds());
     return known;
 }
@@ -77,17 +77,17 @@ void RandomRuns::run(Next next, Done done) {
 std::string RandomRuns::live(const Next& next, Journal& journal, Place& place) const {
     Life life(_context.subject.plugin, _context.subject.small_scene, {}, place);
     std::size_t seen = 0;
-    const auto new_fault = [&] {
-        for (; seen < life.faults().size(); ++seen)
-            if (!_known.contains(life.faults()[seen].kind)) return true;
+    const auto new_violation = [&] {
+        for (; seen < life.violations().size(); ++seen)
+            if (!_known.contains(life.violations()[seen].kind)) return true;
         return false;
     };
     life.load();
-    while (!new_fault()) {
+    while (!new_violation()) {
         const auto deed = next(life.session());
         if (!deed) {
             life.unload();
-            new_fault();
+            new_violation();
             break;
         }
         journal.begin_deed();
@@ -96,8 +96,8 @@ std::string RandomRuns::live(const Next& next, Journal& journal, Place& place) c
             if (!life.play(line)) journal.refuse();
         }
     }
-    if (seen == life.faults().size()) return faults_text({});
-    return faults_text({life.faults()[seen]});
+    if (seen == life.violations().size()) return violations_text({});
+    return violations_text({life.violations()[seen]});
 }
 
 RandomResult RandomRuns::result(const Ending& ending, const Journal& journal) const {
@@ -105,11 +105,12 @@ RandomResult RandomRuns::result(const Ending& ending, const Journal& journal) co
     if (ending.kind != Ending::Kind::Done) {
         result.wrong = Wrong{ending.kind, {}};
         result.text = death_of(ending);
-    } else if (const std::vector<Fault> faults = faults_in(ending.result); !faults.empty()) {
-        result.wrong = Wrong{ending.kind, faults[0].kind};
-        result.text = faults[0].text;
-    } else if (ending.leaked && !_known.contains(FaultKind::Leak)) {
-        result.wrong = Wrong{ending.kind, FaultKind::Leak};
+    } else if (const std::vector<Violation> violations = violations_in(ending.result);
+               !violations.empty()) {
+        result.wrong = Wrong{ending.kind, violations[0].kind};
+        result.text = violations[0].text;
+    } else if (ending.leaked && !_known.contains(ViolationKind::Leak)) {
+        result.wrong = Wrong{ending.kind, ViolationKind::Leak};
         result.text = "memory is not freed at the end";
     }
     if (result.wrong) result.deeds = journal.deeds();

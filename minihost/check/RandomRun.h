@@ -31,7 +31,7 @@ class Journal {
 // How a run went wrong: two that did so alike are equal in it.
 struct Wrong {
     Ending::Kind ending = Ending::Kind::Done;
-    std::optional<FaultKind> fault; // of a run that came to its end
+    std::optional<ViolationKind> fault; // of a run that came to its end
     bool operator==(const Wrong&) const = default;
 };
 
@@ -53,7 +53,7 @@ class RandomRuns {
     void finish() { _crew.finish(); }
 
   private:
-    static std::set<FaultKind> known(const CheckContext& context);
+    static std::set<ViolationKind> known(const CheckContext& context);
     using Next = std::function<std::optional<Deed>(Session&)>;
     void run(Next next, Done done);
     std::string live(const Next& next, Journal& journal, Place& place) const;
@@ -61,7 +61,7 @@ class RandomRuns {
 
     const CheckContext& _context;
     Crew _crew;
-    std::set<FaultKind> _known;
+    std::set<ViolationKind> _known;
 };
 
 } // namespace minihost

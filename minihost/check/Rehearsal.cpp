@@ -57,9 +57,9 @@ std::vector<Scenario> scenarios_in(const Json& list) {
 
 } // namespace
 
-std::set<FaultKind> RehearsedLife::kinds() const {
-    std::set<FaultKind> kinds;
-    for (const Fault& it : faults) kinds.insert(it.kind);
+std::set<ViolationKind> RehearsedLife::kinds() const {
+    std::set<ViolationKind> kinds;
+    for (const Violation& it : violations) kinds.insert(it.kind);
     return kinds;
 }
 
@@ -90,13 +90,14 @@ Rehearsal rehearse(const Subject& subject, const std::function<void(std::size_t)
             [&](Place& place) {
                 Life lived(subject.plugin, subject.scene, {}, place);
                 lived.live(life.scenario);
-                return faults_text(lived.faults());
+                return violations_text(lived.violations());
             },
             [&](const Ending& ending) {
                 life.ending = ending;
-                if (life.ended_well()) life.faults = faults_in(ending.result);
+                if (life.ended_well()) life.violations = violations_in(ending.result);
                 if (ending.leaked)
-                    life.faults.push_back({FaultKind::Leak, "memory is not freed at the end"});
+                    life.violations.push_back(
+                        {ViolationKind::Leak, "memory is not freed at the end"});
                 progress(++done);
             });
     }

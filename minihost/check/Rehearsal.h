@@ -5,7 +5,7 @@
 
 #include "minihost/check/Child.h"
 #include "minihost/check/Scenario.h"
-#include "minihost/suites/Faults.h"
+#include "minihost/suites/Violation.h"
 
 #include <functional>
 #include <set>
@@ -19,10 +19,10 @@ struct Subject;
 struct RehearsedLife {
     Scenario scenario;
     Ending ending;
-    std::vector<Fault> faults; // none are known of a life that did not end well
+    std::vector<Violation> violations; // none are known of a life that did not end well
 
     bool ended_well() const { return ending.kind == Ending::Kind::Done; }
-    std::set<FaultKind> kinds() const;
+    std::set<ViolationKind> kinds() const;
 };
 
 struct Rehearsal {

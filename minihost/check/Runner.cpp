@@ -49,7 +49,7 @@ Findings run_check(const Check& check, const CheckContext& context, TerminalLine
     // What leaks without any check is told by one of them.
     const bool leaks = std::any_of(
         context.rehearsal.lives.begin(), context.rehearsal.lives.end(),
-        [](const RehearsedLife& life) { return life.kinds().contains(FaultKind::Leak); });
+        [](const RehearsedLife& life) { return life.kinds().contains(ViolationKind::Leak); });
     Child child(body, limits_of_check(context.subject),
                 leaks ? Child::Exit::Quick : Child::Exit::Proper);
     while (!child.wait(std::chrono::milliseconds(200)))

@@ -1,7 +1,7 @@
 #include "minihost/suites/BasicSuite.h"
 
 #include "minihost/suites/CorruptedSuites.h"
-#include "minihost/suites/Serve.h"
+#include "minihost/suites/ServeCall.h"
 #include "minihost/suites/SuiteTable.h"
 
 namespace minihost {
@@ -16,16 +16,17 @@ const void* functions_of(const Host& host, const char* name, A_long version) {
     if (!suite) return nullptr;
     for (const std::string& word : host.options().without)
         if (suite->is_left_out_by(word)) return nullptr;
-    return host.misbehaviour.is_on() ? corrupted_functions(suite->functions) : suite->functions;
+    return host.misbehaviour_plan.is_on() ? corrupted_functions(suite->functions)
+                                          : suite->functions;
 }
 
 A_Err AcquireSuite(const char* name, A_long version, const void** suite) {
-    return serve(
+    return serve_call(
         {"SPBasic", basic_version, "AcquireSuite"},
-        [&](Arguments& it) { it.text("name", name).number("version", version); },
+        [&](CallArguments& it) { it.text("name", name).number("version", version); },
         [&](Host& host) -> A_Err {
-            const void*& result = need(suite);
-            const void* functions = functions_of(host, &need(name), version);
+            const void*& result = require(suite);
+            const void* functions = functions_of(host, &require(name), version);
             if (!functions) return A_Err_MISSING_SUITE;
             host.count_acquired(name, version);
             result = functions;
@@ -34,14 +35,14 @@ A_Err AcquireSuite(const char* name, A_long version, const void** suite) {
 }
 
 A_Err ReleaseSuite(const char* name, A_long version) {
-    return serve(
+    return serve_call(
         {"SPBasic", basic_version, "ReleaseSuite"},
-        [&](Arguments& it) { it.text("name", name).number("version", version); },
+        [&](CallArguments& it) { it.text("name", name).number("version", version); },
         [&](Host& host) -> A_Err {
-            if (!host.count_released(&need(name), version))
+            if (!host.count_released(&require(name), version))
                 throw Misuse(std::string(name) + " " + std::to_string(version) +
                                  " released more often than acquired",
-                             FaultKind::Unbalanced);
+                             ViolationKind::Unbalanced);
             return 0;
         });
 }

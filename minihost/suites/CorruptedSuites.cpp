@@ -13,40 +13,33 @@ namespace {
 
 using Word = std::string_view;
 
-// What an answer is made into, by its type. Whatever else a function is passed stays as it is.
+// What becomes of a result, by its type. Other arguments stay as they are.
 template <typename Other>
-void spoil(Host&, Word, const Other&) {}
+void corrupt(Host&, Word, const Other&) {}
 
-template <typename Handle>
-void make_null(Handle* handle) {
-    *handle = nullptr;
+void corrupt(Host&, Word, AEGP_ItemH* item) {
+    *item = nullptr;
 }
-// The plug-in cannot give back what it does not get.
-template <typename Handle>
-void close_and_make_null(Host& host, Handle* handle) {
-    host.handles.close(*handle);
-    *handle = nullptr;
+void corrupt(Host&, Word, AEGP_CompH* comp) {
+    *comp = nullptr;
 }
-void spoil(Host&, Word, AEGP_ItemH* item) {
-    make_null(item);
+void corrupt(Host&, Word, AEGP_LayerH* layer) {
+    *layer = nullptr;
 }
-void spoil(Host&, Word, AEGP_CompH* comp) {
-    make_null(comp);
-}
-void spoil(Host&, Word, AEGP_LayerH* layer) {
-    make_null(layer);
-}
-void spoil(Host&, Word, AEGP_CollectionItem* item) {
+void corrupt(Host&, Word, AEGP_CollectionItem* item) {
     item->layerH = nullptr;
 }
-void spoil(Host& host, Word, AEGP_StreamRefH* stream) {
-    close_and_make_null(host, stream);
+// Closed first, as the plug-in cannot release what it does not get.
+void corrupt(Host& host, Word, AEGP_StreamRefH* stream) {
+    host.handles.close(*stream);
+    *stream = nullptr;
 }
-void spoil(Host& host, Word, AEGP_CollectionH* collection) {
-    close_and_make_null(host, collection);
+void corrupt(Host& host, Word, AEGP_CollectionH* collection) {
+    host.handles.close(*collection);
+    *collection = nullptr;
 }
 
-void spoil(Host&, Word word, A_long* number) {
+void corrupt(Host&, Word word, A_long* number) {
     if (word.starts_with("zero"))
         *number = 0;
     else if (word.starts_with("huge"))
@@ -54,20 +47,20 @@ void spoil(Host&, Word word, A_long* number) {
     else
         *number = word == "negative-sizes" ? std::numeric_limits<A_long>::min() : -1;
 }
-void spoil(Host&, Word word, A_u_long* count) {
+void corrupt(Host&, Word word, A_u_long* count) {
     *count = word == "huge-counts" ? std::numeric_limits<A_long>::max() : static_cast<A_u_long>(-1);
 }
 
-void spoil(Host&, Word word, A_char* name) {
+void corrupt(Host&, Word word, A_char* name) {
     if (!name) return;
-    constexpr std::size_t longest = AEGP_MAX_LAYER_NAME_SIZE - 1;
+    constexpr std::size_t max_length = AEGP_MAX_LAYER_NAME_SIZE - 1;
     if (word == "empty-names") {
         *name = 0;
     } else if (word == "long-names") {
-        std::memset(name, 'm', longest);
-        name[longest] = 0;
+        std::memset(name, 'm', max_length);
+        name[max_length] = 0;
     } else {
-        // Bytes that no text has, a character without its end, a surrogate, what printf looks for.
+        // Invalid bytes, a surrogate, a truncated character, printf conversions.
         std::strcpy(name, "\xff\xfe%s%n\xed\xa0\x80\xf0\x9f");
     }
 }
@@ -77,36 +70,36 @@ double number(Word word) {
     return word == "nan-values" ? Limits::quiet_NaN() : Limits::infinity();
 }
 
-// A function of a suite with its answer spoiled.
-template <AnswerKind kind, auto function>
-struct Spoiled;
-template <AnswerKind kind, typename Functions, typename... Types,
+// A function of a suite that corrupts its results.
+template <MisbehaviourKind kind, auto function>
+struct Corrupting;
+template <MisbehaviourKind kind, typename Functions, typename... Types,
           A_Err (*Functions::*function)(Types...)>
-struct Spoiled<kind, function> {
-    static inline const Functions* proper;
+struct Corrupting<kind, function> {
+    static inline const Functions* original;
     static A_Err call(Types... arguments) {
-        const A_Err error = (proper->*function)(arguments...);
+        const A_Err error = (original->*function)(arguments...);
         Host* host = Host::current();
         if (error != 0 || !host) return error;
-        if (const Misdeed* misdeed = host->misbehaviour.next(kind))
-            (spoil(*host, misdeed->word, arguments), ...);
+        if (const Misbehaviour* misbehaviour = host->misbehaviour_plan.next(kind))
+            (corrupt(*host, misbehaviour->word, arguments), ...);
         return error;
     }
 };
 
-// Only the numbers that the stream has.
+// Only the numbers that the stream has are written.
 template <>
-struct Spoiled<AnswerKind::Value, &AEGP_StreamSuite4::AEGP_GetLayerStreamValue> {
-    static inline const AEGP_StreamSuite4* proper;
+struct Corrupting<MisbehaviourKind::Value, &AEGP_StreamSuite4::AEGP_GetLayerStreamValue> {
+    static inline const AEGP_StreamSuite4* original;
     static A_Err call(AEGP_LayerH layer, AEGP_LayerStream stream, AEGP_LTimeMode mode,
                       const A_Time* time, A_Boolean pre_expression, AEGP_StreamVal* value) {
         const A_Err error =
-            proper->AEGP_GetLayerStreamValue(layer, stream, mode, time, pre_expression, value);
+            original->AEGP_GetLayerStreamValue(layer, stream, mode, time, pre_expression, value);
         Host* host = Host::current();
         if (error != 0 || !host) return error;
-        const Misdeed* misdeed = host->misbehaviour.next(AnswerKind::Value);
-        if (!misdeed) return error;
-        const double bad = number(misdeed->word);
+        const Misbehaviour* misbehaviour = host->misbehaviour_plan.next(MisbehaviourKind::Value);
+        if (!misbehaviour) return error;
+        const double bad = number(misbehaviour->word);
         if (stream == AEGP_LayerStream_ROTATE_X || stream == AEGP_LayerStream_ROTATE_Y ||
             stream == AEGP_LayerStream_ROTATE_Z)
             value->one_d = bad;
@@ -116,56 +109,56 @@ struct Spoiled<AnswerKind::Value, &AEGP_StreamSuite4::AEGP_GetLayerStreamValue> 
     }
 };
 
-template <AnswerKind kind, auto function, typename Functions>
-void replace(Functions& copy, const Functions& proper) {
-    Spoiled<kind, function>::proper = &proper;
-    copy.*function = Spoiled<kind, function>::call;
+template <MisbehaviourKind kind, auto function, typename Functions>
+void replace(Functions& copy, const Functions& original) {
+    Corrupting<kind, function>::original = &original;
+    copy.*function = Corrupting<kind, function>::call;
 }
 
-void spoil_suite(AEGP_CollectionSuite1& copy, const AEGP_CollectionSuite1& proper) {
+void corrupt_suite(AEGP_CollectionSuite1& copy, const AEGP_CollectionSuite1& original) {
     using Functions = AEGP_CollectionSuite1;
-    using enum AnswerKind;
-    replace<Handle, &Functions::AEGP_NewCollection>(copy, proper);
-    replace<Count, &Functions::AEGP_GetCollectionNumItems>(copy, proper);
-    replace<Handle, &Functions::AEGP_GetCollectionItemByIndex>(copy, proper);
+    using enum MisbehaviourKind;
+    replace<Handle, &Functions::AEGP_NewCollection>(copy, original);
+    replace<Count, &Functions::AEGP_GetCollectionNumItems>(copy, original);
+    replace<Handle, &Functions::AEGP_GetCollectionItemByIndex>(copy, original);
 }
-void spoil_suite(AEGP_ItemSuite3& copy, const AEGP_ItemSuite3& proper) {
-    using enum AnswerKind;
-    replace<Handle, &AEGP_ItemSuite3::AEGP_GetActiveItem>(copy, proper);
-    replace<Size, &AEGP_ItemSuite3::AEGP_GetItemDimensions>(copy, proper);
+void corrupt_suite(AEGP_ItemSuite3& copy, const AEGP_ItemSuite3& original) {
+    using enum MisbehaviourKind;
+    replace<Handle, &AEGP_ItemSuite3::AEGP_GetActiveItem>(copy, original);
+    replace<Size, &AEGP_ItemSuite3::AEGP_GetItemDimensions>(copy, original);
 }
-void spoil_suite(AEGP_CompSuite4& copy, const AEGP_CompSuite4& proper) {
-    using enum AnswerKind;
-    replace<Handle, &AEGP_CompSuite4::AEGP_GetCompFromItem>(copy, proper);
-    replace<Handle, &AEGP_CompSuite4::AEGP_GetNewCollectionFromCompSelection>(copy, proper);
+void corrupt_suite(AEGP_CompSuite4& copy, const AEGP_CompSuite4& original) {
+    using enum MisbehaviourKind;
+    replace<Handle, &AEGP_CompSuite4::AEGP_GetCompFromItem>(copy, original);
+    replace<Handle, &AEGP_CompSuite4::AEGP_GetNewCollectionFromCompSelection>(copy, original);
 }
-void spoil_suite(AEGP_LayerSuite5& copy, const AEGP_LayerSuite5& proper) {
+void corrupt_suite(AEGP_LayerSuite5& copy, const AEGP_LayerSuite5& original) {
     using Functions = AEGP_LayerSuite5;
-    using enum AnswerKind;
-    replace<Count, &Functions::AEGP_GetCompNumLayers>(copy, proper);
-    replace<Handle, &Functions::AEGP_GetCompLayerByIndex>(copy, proper);
-    replace<Count, &Functions::AEGP_GetLayerIndex>(copy, proper);
-    replace<Handle, &Functions::AEGP_GetLayerSourceItem>(copy, proper);
-    replace<Name, &Functions::AEGP_GetLayerName>(copy, proper);
+    using enum MisbehaviourKind;
+    replace<Count, &Functions::AEGP_GetCompNumLayers>(copy, original);
+    replace<Handle, &Functions::AEGP_GetCompLayerByIndex>(copy, original);
+    replace<Count, &Functions::AEGP_GetLayerIndex>(copy, original);
+    replace<Handle, &Functions::AEGP_GetLayerSourceItem>(copy, original);
+    replace<Name, &Functions::AEGP_GetLayerName>(copy, original);
 }
-void spoil_suite(AEGP_LayerSuite10& copy, const AEGP_LayerSuite10& proper) {
-    replace<AnswerKind::Handle, &AEGP_LayerSuite10::AEGP_DuplicateLayer>(copy, proper);
+void corrupt_suite(AEGP_LayerSuite10& copy, const AEGP_LayerSuite10& original) {
+    replace<MisbehaviourKind::Handle, &AEGP_LayerSuite10::AEGP_DuplicateLayer>(copy, original);
 }
-void spoil_suite(AEGP_StreamSuite4& copy, const AEGP_StreamSuite4& proper) {
-    using enum AnswerKind;
-    replace<Handle, &AEGP_StreamSuite4::AEGP_GetNewLayerStream>(copy, proper);
-    replace<Value, &AEGP_StreamSuite4::AEGP_GetLayerStreamValue>(copy, proper);
+void corrupt_suite(AEGP_StreamSuite4& copy, const AEGP_StreamSuite4& original) {
+    using enum MisbehaviourKind;
+    replace<Handle, &AEGP_StreamSuite4::AEGP_GetNewLayerStream>(copy, original);
+    replace<Value, &AEGP_StreamSuite4::AEGP_GetLayerStreamValue>(copy, original);
 }
-void spoil_suite(AEGP_KeyframeSuite1& copy, const AEGP_KeyframeSuite1& proper) {
-    replace<AnswerKind::Count, &AEGP_KeyframeSuite1::AEGP_InsertKeyframe>(copy, proper);
+void corrupt_suite(AEGP_KeyframeSuite1& copy, const AEGP_KeyframeSuite1& original) {
+    replace<MisbehaviourKind::Count, &AEGP_KeyframeSuite1::AEGP_InsertKeyframe>(copy, original);
 }
 
 template <typename Functions>
-const void* spoiled(const void* functions) {
-    static const Functions& proper = *static_cast<const Functions*>(functions);
+const void* corrupted(const void* functions) {
+    static const Functions& original = *static_cast<const Functions*>(functions);
     static const Functions made = [] {
-        Functions copy = proper;
-        spoil_suite(copy, proper);
+        Functions copy = original;
+        corrupt_suite(copy, original);
         return copy;
     }();
     return &made;
@@ -174,13 +167,13 @@ const void* spoiled(const void* functions) {
 } // namespace
 
 const void* corrupted_functions(const void* functions) {
-    if (functions == collection_suite) return spoiled<AEGP_CollectionSuite1>(functions);
-    if (functions == item_suite) return spoiled<AEGP_ItemSuite3>(functions);
-    if (functions == comp_suite) return spoiled<AEGP_CompSuite4>(functions);
-    if (functions == layer_suite_5) return spoiled<AEGP_LayerSuite5>(functions);
-    if (functions == layer_suite_10) return spoiled<AEGP_LayerSuite10>(functions);
-    if (functions == stream_suite) return spoiled<AEGP_StreamSuite4>(functions);
-    if (functions == keyframe_suite) return spoiled<AEGP_KeyframeSuite1>(functions);
+    if (functions == collection_suite) return corrupted<AEGP_CollectionSuite1>(functions);
+    if (functions == item_suite) return corrupted<AEGP_ItemSuite3>(functions);
+    if (functions == comp_suite) return corrupted<AEGP_CompSuite4>(functions);
+    if (functions == layer_suite_5) return corrupted<AEGP_LayerSuite5>(functions);
+    if (functions == layer_suite_10) return corrupted<AEGP_LayerSuite10>(functions);
+    if (functions == stream_suite) return corrupted<AEGP_StreamSuite4>(functions);
+    if (functions == keyframe_suite) return corrupted<AEGP_KeyframeSuite1>(functions);
     return functions;
 }
 

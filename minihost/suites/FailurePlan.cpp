@@ -19,8 +19,8 @@ Number whole_number(const std::string& text, const std::string& all) {
 
 } // namespace
 
-Failure parse_failure(const std::string& text) {
-    Failure failure;
+PlannedFailure parse_failure(const std::string& text) {
+    PlannedFailure failure;
     const std::size_t colon = text.find(':');
     failure.call = text.substr(0, colon);
     if (colon != std::string::npos) {
@@ -37,8 +37,8 @@ Failure parse_failure(const std::string& text) {
     return failure;
 }
 
-FailurePlan::FailurePlan(const std::vector<Failure>& failures) {
-    for (const Failure& failure : failures)
+FailurePlan::FailurePlan(const std::vector<PlannedFailure>& failures) {
+    for (const PlannedFailure& failure : failures)
         _planned[failure.call].codes[failure.number] = failure.code;
 }
 

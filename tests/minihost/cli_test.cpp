@@ -120,7 +120,7 @@ TEST_F(Program, HelpAndVersionArePrinted) {
     for (const Action& action : actions()) EXPECT_THAT(printed, HasSubstr(action.sentence));
     EXPECT_EQ(run("run --help"), 0);
     EXPECT_THAT(printed, HasSubstr("--without"));
-    for (const Misdeed& it : misdeeds()) EXPECT_THAT(printed, HasSubstr(it.sentence));
+    for (const Misbehaviour& it : misbehaviours()) EXPECT_THAT(printed, HasSubstr(it.sentence));
 }
 
 TEST_F(Program, TheCommandIsOneStepThatUndoTakesBack) {

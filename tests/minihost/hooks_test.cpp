@@ -128,7 +128,7 @@ TEST_F(HookedHost, SurvivesHooksThatFailThrowOrNeverEnd) {
     EXPECT_THAT(messages.back(), HasSubstr("threw an exception"));
     EXPECT_EQ(host.choose(AEGP_Command_DUPLICATE), host_error);
     hooks_throw = false;
-    EXPECT_THAT(host.bury(),
+    EXPECT_THAT(host.shut_down(),
                 UnorderedElementsAre(HasSubstr("AEGP Register Suite 6, acquired 1 time"),
                                      HasSubstr("AEGP Command Suite 1"),
                                      HasSubstr("AEGP Workspace Panel Suite 1")));

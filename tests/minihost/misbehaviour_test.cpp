@@ -1,6 +1,6 @@
 // A host that fails and misbehaves as it is told to.
 
-#include "minihost/suites/Misbehaviour.h"
+#include "minihost/suites/MisbehaviourPlan.h"
 #include "tests/minihost/support/Suites.h"
 
 #include <cmath>
@@ -52,14 +52,14 @@ TEST_F(FailingSuites, FailAtTheCountedCallsAndDoNothing) {
 
 class MisbehavingSuites : public Suites {
   protected:
-    MisbehavingSuites() : Suites({.without = {}, .failures = {}, .misdeeds = all()}) {}
-    static std::vector<PlannedMisdeed> all() {
-        std::vector<PlannedMisdeed> planned;
+    MisbehavingSuites() : Suites({.without = {}, .failures = {}, .misbehaviours = all()}) {}
+    static std::vector<PlannedMisbehaviour> all() {
+        std::vector<PlannedMisbehaviour> planned;
         for (const char* text :
              {"null-handles:4", "null-handles:5", "negative-counts:1", "huge-counts:2",
               "zero-sizes:2", "huge-sizes:1", "broken-names:1", "long-names:2", "empty-names:3",
               "nan-values:1", "infinite-values:2", "layer-removed:29"})
-            planned.push_back(parse_misdeed(text));
+            planned.push_back(parse_misbehaviour(text));
         return planned;
     }
 };
@@ -110,7 +110,7 @@ TEST_F(MisbehavingSuites, AnswerNonsenseWithSuccessAtTheCountedAnswersOfAKind) {
     });
 }
 
-TEST(Misbehaviour, ChangesTheSceneAsToldAndIsReadFromItsText) {
+TEST(MisbehaviourPlan, ChangesTheSceneAsToldAndIsReadFromItsText) {
     struct Case {
         const char* word;
         const char* layers; // afterwards
@@ -126,18 +126,18 @@ TEST(Misbehaviour, ChangesTheSceneAsToldAndIsReadFromItsText) {
             {"name": "Cam 2", "kind": "camera"}, {"name": "B", "kind": "text"}],
             "selection": [3]})",
                                       "test"));
-        Misbehaviour misbehaviour({parse_misdeed(it.word + std::string(":2"))});
+        MisbehaviourPlan misbehaviour({parse_misbehaviour(it.word + std::string(":2"))});
         for (int call = 1; call <= 3; ++call) misbehaviour.before_call(document);
         std::string names;
         for (const Layer* layer : document.scene().layers())
             names += (names.empty() ? "" : ",") + layer->name;
         EXPECT_EQ(names, it.layers) << it.word;
         EXPECT_EQ(document.scene().selection(), it.selection) << it.word;
-        EXPECT_EQ(misbehaviour.answers(AnswerKind::Scene), 3);
+        EXPECT_EQ(misbehaviour.count(MisbehaviourKind::Scene), 3);
     }
     for (const char* text : {"", "lies", "null-handles:", "null-handles:0", "null-handles:x"})
-        EXPECT_THROW(parse_misdeed(text), std::invalid_argument) << text;
-    EXPECT_EQ(parse_misdeed("nan-values").number, 0);
+        EXPECT_THROW(parse_misbehaviour(text), std::invalid_argument) << text;
+    EXPECT_EQ(parse_misbehaviour("nan-values").number, 0);
 }
 
 TEST(Failures, AreReadFromTheirText) {

@@ -11,8 +11,8 @@
 
 namespace {
 
-using minihost::gives_back;
 using minihost::HostOptions;
+using minihost::is_release_call;
 using testing::IsEmpty;
 
 // A life of the plug-in that makes every kind of call; actions that a failure makes impossible are
@@ -45,7 +45,7 @@ void live(PluginHost& host) {
         return;
     }
     const auto& failures = host.session.host().options().failures;
-    const bool must_close = failures.empty() || !gives_back(failures[0].call);
+    const bool must_close = failures.empty() || !is_release_call(failures[0].call);
     for (const char* action : life) {
         try {
             host.play(action);
@@ -88,7 +88,7 @@ void sweep(std::set<std::string> without, int step) {
             PluginHost host(scene, failing, false);
             live(host);
             const auto held = host.session.unload();
-            if (!gives_back(call)) {
+            if (!is_release_call(call)) {
                 EXPECT_THAT(held, IsEmpty());
             }
             EXPECT_EQ(host.session.host().misuses(), 0) << host.messages.back();
@@ -102,16 +102,16 @@ void sweep(std::set<std::string> without, int step) {
 // Every fifth: each place asks for several.
 TEST(NullHandles, AreNotPassedOn) {
     HostOptions options;
-    options.misdeeds = {minihost::parse_misdeed("null-handles:1000000")};
+    options.misbehaviours = {minihost::parse_misbehaviour("null-handles:1000000")};
     std::int64_t answers = 0;
     {
         PluginHost plain(scene, options, false);
         live(plain);
-        answers = plain.session.host().misbehaviour.answers(minihost::AnswerKind::Handle);
+        answers = plain.session.host().misbehaviour_plan.count(minihost::MisbehaviourKind::Handle);
     }
     ASSERT_GT(answers, 50);
     for (std::int64_t number = 1; number <= answers; number += 5) {
-        options.misdeeds[0].number = number;
+        options.misbehaviours[0].number = number;
         PluginHost host(scene, options, false);
         live(host);
         EXPECT_THAT(host.session.unload(), IsEmpty()) << number;

@@ -33,7 +33,7 @@ class Suites : public testing::Test {
               parse_scene(sample_scene, "test"), std::move(options),
               [this](const std::string& line) { messages.push_back(line); }, blind_panels()) {}
 
-    void inside(const std::function<void()>& body) { host.visit(body); }
+    void inside(const std::function<void()>& body) { host.enter(body); }
     template <typename Table>
     const Table& suite(const char* name, A_long version) {
         const void* table = nullptr;

@@ -1,10 +1,10 @@
-#include "minihost/suites/Serve.h"
+#include "minihost/suites/CallArguments.h"
 
 namespace minihost {
 
 namespace {
 
-// What a handle stands for, or nothing when it is none.
+// Nothing for an invalid handle.
 template <typename Look>
 auto look_up(const Look& look) -> std::optional<std::decay_t<decltype(look())>> {
     try {
@@ -16,12 +16,12 @@ auto look_up(const Look& look) -> std::optional<std::decay_t<decltype(look())>> 
 
 } // namespace
 
-Arguments& Arguments::number(const char* name, double value) {
+CallArguments& CallArguments::number(const char* name, double value) {
     _json.member(name, value);
     return *this;
 }
 
-Arguments& Arguments::text(const char* name, const char* value) {
+CallArguments& CallArguments::text(const char* name, const char* value) {
     if (value)
         _json.member(name, value);
     else
@@ -29,12 +29,12 @@ Arguments& Arguments::text(const char* name, const char* value) {
     return *this;
 }
 
-Arguments& Arguments::flag(const char* name, bool value) {
+CallArguments& CallArguments::flag(const char* name, bool value) {
     _json.member(name, value);
     return *this;
 }
 
-Arguments& Arguments::time(const char* name, const A_Time* value) {
+CallArguments& CallArguments::time(const char* name, const A_Time* value) {
     if (value && value->scale != 0)
         _json.member(name, static_cast<double>(value->value) / value->scale);
     else
@@ -42,18 +42,18 @@ Arguments& Arguments::time(const char* name, const A_Time* value) {
     return *this;
 }
 
-Arguments& Arguments::layer_id(LayerId id) {
+CallArguments& CallArguments::layer_id(LayerId id) {
     _json.member("layer", _host.document.scene().index_of(id));
     return *this;
 }
 
-Arguments& Arguments::layer(AEGP_LayerH handle) {
+CallArguments& CallArguments::layer(AEGP_LayerH handle) {
     if (const auto id = look_up([&] { return _host.handles.layer(handle); })) return layer_id(*id);
     _json.key("layer").null();
     return *this;
 }
 
-Arguments& Arguments::item(AEGP_ItemH handle) {
+CallArguments& CallArguments::item(AEGP_ItemH handle) {
     const auto item = look_up([&] { return _host.handles.item(handle); });
     if (!item)
         _json.key("item").null();
@@ -66,7 +66,7 @@ Arguments& Arguments::item(AEGP_ItemH handle) {
     return *this;
 }
 
-Arguments& Arguments::composition(AEGP_CompH handle) {
+CallArguments& CallArguments::composition(AEGP_CompH handle) {
     if (look_up([&] { return _host.handles.require_composition(handle), true; }))
         _json.member("comp", _host.document.scene().composition.name);
     else
@@ -74,7 +74,7 @@ Arguments& Arguments::composition(AEGP_CompH handle) {
     return *this;
 }
 
-Arguments& Arguments::stream(AEGP_StreamRefH handle) {
+CallArguments& CallArguments::stream(AEGP_StreamRefH handle) {
     if (const auto stream = look_up([&] { return _host.handles.stream(handle); })) {
         layer_id(stream->layer);
         _json.member("stream", static_cast<int>(stream->stream));
@@ -84,17 +84,17 @@ Arguments& Arguments::stream(AEGP_StreamRefH handle) {
     return *this;
 }
 
-Arguments& Arguments::collection(AEGP_CollectionH handle) {
+CallArguments& CallArguments::collection(AEGP_CollectionH handle) {
     _json.member("collection", static_cast<std::size_t>(Handles::number_of(handle)));
     return *this;
 }
 
-Arguments& Arguments::panel(AEGP_PanelH handle) {
+CallArguments& CallArguments::panel(AEGP_PanelH handle) {
     _json.member("panel", static_cast<std::size_t>(Handles::number_of(handle)));
     return *this;
 }
 
-Arguments& Arguments::value(AEGP_StreamRefH handle, const AEGP_StreamVal* value) {
+CallArguments& CallArguments::value(AEGP_StreamRefH handle, const AEGP_StreamVal* value) {
     const auto stream = look_up([&] { return _host.handles.stream(handle); });
     _json.key("value");
     if (!stream || !value)
