@@ -14,7 +14,6 @@ namespace minihost {
 
 namespace {
 
-// The actions, for the help.
 std::string action_help() {
     std::string text = "Actions, one a line:\n";
     for (const Action& action : actions()) {
@@ -25,7 +24,6 @@ std::string action_help() {
     return text;
 }
 
-// What a host may do wrong, for the help.
 std::string misbehaviour_help() {
     std::string text = "With --misbehave the host\n";
     for (const Misbehaviour& it : misbehaviours()) {
@@ -43,7 +41,7 @@ std::string without_words() {
     return names;
 }
 
-// The options that every verb has.
+// The options that all verbs but `check` have.
 void add_options(CLI::App& verb, Request& request, std::vector<std::string>& failures,
                  std::vector<std::string>& without, std::vector<std::string>& misbehaviours,
                  std::string& palette) {
@@ -92,7 +90,6 @@ void add_check_options(CLI::App& verb, Request& request) {
     verb.add_option("--json", check.json, "write a report")->type_name("FILE");
 }
 
-// "1280x800".
 void check_window(Request& request) {
     if (!request.window_size.empty()) {
         char rest = 0;
@@ -107,13 +104,13 @@ void check_window(Request& request) {
     if (!request.screenshot.empty() && extension_of(request.screenshot) != ".png")
         throw std::invalid_argument("--screenshot: " + request.screenshot +
                                     ": a screenshot is written as .png");
-    // A window of pixels that nobody has is refused by the desktop alone after a long time.
+    // The desktop takes a long time to refuse such a window.
     if (request.verb == Verb::Show && request.has_scale &&
         !(request.scale >= 0.5 && request.scale <= 4))
         throw std::invalid_argument("--scale of a window must be from 0.5 to 4");
 }
 
-// What the library cannot check by itself. Throws std::invalid_argument.
+// Checks that the library does not do. Throws std::invalid_argument.
 void check(Request& request, const std::vector<std::string>& failures,
            const std::vector<std::string>& without, const std::vector<std::string>& misbehaviours,
            const std::string& palette) {
@@ -174,8 +171,7 @@ ParsedCommandLine parse_command_line(int count, const char* const* arguments) {
         ->required();
     apply->footer(misbehaviour_help());
     run->footer(action_help() + "\n" + misbehaviour_help());
-    CLI::App* check_verb =
-        app.add_subcommand("check", "Puts the plug-in through its paces and tells what fails");
+    CLI::App* check_verb = app.add_subcommand("check", "Checks the plug-in and reports what fails");
     add_check_options(*check_verb, request);
     CLI::App* show = app.add_subcommand("show", "Opens a window in which the plug-in is used");
     add_options(*show, request, failures, without, misbehaviours, palette);

@@ -2,16 +2,15 @@
 
 #include "minihost/actions/EventActions.h"
 #include "minihost/actions/State.h"
+#include "minihost/model/ParseNumber.h"
 
-#include <charconv>
-#include <cmath>
 #include <ostream>
 
 namespace minihost {
 
 namespace {
 
-// --- What actions share
+// --- Helpers
 
 Document& document(Session& session) {
     return session.host().document;
@@ -23,39 +22,34 @@ LayerId layer(Session& session, const std::string& word) {
     const std::vector<const Layer*> layers = scene.layers();
     for (const Layer* it : layers)
         if (it->name == word) return it->id;
-    std::size_t index = 0;
-    const char* end = word.data() + word.size();
-    if (word.size() > 1 && word[0] == '#') {
-        const auto [stop, error] = std::from_chars(word.data() + 1, end, index);
-        if (error == std::errc() && stop == end && index < layers.size()) return layers[index]->id;
-    }
+    if (word.starts_with('#'))
+        if (const auto index = parse_number<std::size_t>(word.substr(1)))
+            if (*index < layers.size()) return layers[*index]->id;
     throw ActionError("there is no layer \"" + word + "\"");
 }
 
 template <typename Number>
-Number number(const std::string& word, Number least, Number greatest) {
-    Number value{};
-    const char* end = word.data() + word.size();
-    const auto [stop, error] = std::from_chars(word.data(), end, value);
-    if (error != std::errc() || stop != end || !(value >= least && value <= greatest))
-        throw ActionError("\"" + word + "\" is no number from " + std::to_string(least) + " to " +
-                          std::to_string(greatest));
-    return value;
+Number number(const std::string& word, Number min, Number max) {
+    const auto value = parse_number<Number>(word);
+    if (!value || !(*value >= min && *value <= max))
+        throw ActionError("\"" + word + "\" is no number from " + std::to_string(min) + " to " +
+                          std::to_string(max));
+    return *value;
 }
 
-// The visible dialog, and the id of a control in it.
-struct Target {
-    Dialog dialog;
+// The panel of the visible dialog, and the id of a control in it.
+struct ControlInDialog {
+    const PanelView* panel;
     int id;
 };
-Target target(Session& session, const std::string& name) {
+ControlInDialog find_control(Session& session, const std::string& name) {
     const Dialog dialog = session.dialog();
     if (!dialog.visible)
         throw ActionError("control '" + name + "': the dialog is not " +
                           (dialog.exists ? "visible" : "there"));
     const auto id = session.control_names().id_of(name);
     if (!id) throw ActionError("there is no control '" + name + "'");
-    return {dialog, *id};
+    return {dialog.panel, *id};
 }
 
 void choose_command(Session& session) {
@@ -89,22 +83,20 @@ void close_panel(Session& session, const Words&) {
 void set(Session& session, const Words& words) {
     const std::size_t equals = words[0].find('=');
     const std::string name = words[0].substr(0, equals), value = words[0].substr(equals + 1);
-    const auto [dialog, id] = target(session, name);
-    session.enter(
-        [&, id = id, panel = dialog.panel] { session.screen().set(panel, id, name, value); });
+    const ControlInDialog control = find_control(session, name);
+    session.enter([&] { session.screen().set(control.panel, control.id, name, value); });
 }
 
 void click(Session& session, const Words& words) {
-    const auto [dialog, id] = target(session, words[0]);
-    session.enter(
-        [&, id = id, panel = dialog.panel] { session.screen().click(panel, id, words[0]); });
+    const ControlInDialog control = find_control(session, words[0]);
+    session.enter([&] { session.screen().click(control.panel, control.id, words[0]); });
 }
 
 void answer(Session& session, const Words& words) {
     session.screen().answer_next_alert(number(words[0], 1, 9));
 }
 
-// What there is to answer was answered before this.
+// Nothing is left to do: posted events are handled before every action.
 void wait(Session&, const Words&) {}
 
 // --- The composition
@@ -131,7 +123,7 @@ void add_camera(Session& session, const Words& words) {
     camera.name = words[0];
     camera.kind = LayerKind::Camera;
     camera.transform.anchor_point = camera.transform.position = composition.middle();
-    // A lens of 50 mm before a film of 36: the composition just fills the picture.
+    // A 50 mm lens and 36 mm film: the composition exactly fills the picture.
     camera.transform.position[2] = -composition.width * 50.0 / 36.0;
     document(session).add_layer(std::move(camera), 0);
 }
@@ -169,7 +161,7 @@ void redo(Session& session, const Words&) {
     if (!document(session).redo()) throw ActionError("there is nothing to do again");
 }
 
-// --- What is to be seen of it
+// --- Output and files
 
 void state(Session& session, const Words&) {
     session.out() << state_line(session) << std::flush;
@@ -233,31 +225,31 @@ std::span<const Action> actions() {
     return table;
 }
 
-Step make_step(const Words& words, const std::string& place) {
+ParsedAction parse_action(const Words& words, const std::string& location) {
     for (const Action& action : table) {
         if (words.empty() || words[0] != action.name) continue;
         const Words arguments(words.begin() + 1, words.end());
         const int count = static_cast<int>(arguments.size());
-        const bool fits =
-            count >= action.least && (action.greatest < 0 || count <= action.greatest);
+        const bool fits = count >= action.min_arguments &&
+                          (action.max_arguments < 0 || count <= action.max_arguments);
         if (!fits || (action.run == set && arguments[0].find('=') == std::string::npos)) {
             const std::string usage =
-                action.least == 0 && action.greatest == 0
+                action.min_arguments == 0 && action.max_arguments == 0
                     ? "takes no argument"
                     : std::string("is used as: ") + action.name + " " + action.arguments;
-            throw UsageError(place + ": \"" + action.name + "\" " + usage);
+            throw UsageError(location + ": \"" + action.name + "\" " + usage);
         }
-        return {&action, arguments, place};
+        return {&action, arguments, location};
     }
-    throw UsageError(place + ": there is no action \"" + (words.empty() ? "" : words[0]) + "\"");
+    throw UsageError(location + ": there is no action \"" + (words.empty() ? "" : words[0]) + "\"");
 }
 
-void run_step(Session& session, const Step& step) {
+void run_action(Session& session, const ParsedAction& parsed) {
     try {
-        if (!step.action->waits) session.settle();
-        step.action->run(session, step.arguments);
+        if (!parsed.action->posts_event) session.settle();
+        parsed.action->run(session, parsed.arguments);
     } catch (const std::runtime_error& error) {
-        throw ActionError(step.place + ": " + step.action->name + ": " + error.what());
+        throw ActionError(parsed.location + ": " + parsed.action->name + ": " + error.what());
     }
 }
 

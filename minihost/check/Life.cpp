@@ -39,12 +39,12 @@ bool Life::load() {
 
 bool Life::play(const std::string& line) {
     _place.enter(line);
-    const Step step = make_step(split_words(line, "check"), "check");
+    const ParsedAction action = parse_action(split_words(line, "check"), "check");
     Host& host = _session.host();
     bool is_done = true;
     try {
-        if (!step.action->waits) _session.settle();
-        step.action->run(_session, step.arguments);
+        if (!action.action->posts_event) _session.settle();
+        action.action->run(_session, action.arguments);
     } catch (const ActionError&) {
         is_done = false;
     } catch (const ControlError&) {

@@ -36,7 +36,7 @@ std::string layer(const std::vector<const Layer*>& layers, std::size_t index) {
     const auto first = std::find_if(layers.begin(), layers.end(), [&](const Layer* it) {
         return it->name == layers[index]->name;
     });
-    if (*first == layers[index] && is_plain((*first)->name)) return quoted_word((*first)->name);
+    if (*first == layers[index] && is_plain((*first)->name)) return quote_word((*first)->name);
     return "#" + std::to_string(index);
 }
 
@@ -87,7 +87,7 @@ Deed RandomUser::edit(const std::vector<const Layer*>& layers) {
     const std::size_t first = _way == Way::Actions ? 0 : of_actions_alone;
     switch (first + below(all - first)) {
     case 0:
-        return {"rename " + one + " " + quoted_word(any(names))};
+        return {"rename " + one + " " + quote_word(any(names))};
     case 1:
         return {"move " + one + " " + std::to_string(below(layers.size()))};
     case 2:
@@ -97,7 +97,7 @@ Deed RandomUser::edit(const std::vector<const Layer*>& layers) {
     case 4:
         return {"answer " + std::to_string(1 + below(3))};
     case 5:
-        return {"add-camera " + quoted_word(any(names))};
+        return {"add-camera " + quote_word(any(names))};
     case 6:
         return {"remove " + one, "idle"};
     case 7:
@@ -132,7 +132,7 @@ Deed RandomUser::use(const std::vector<Control>& controls, const ControlNames& c
     const std::string name = name_of(*control, control_names);
     std::string value;
     if (control->kind == "button" || control->kind == "picture")
-        return {"click " + quoted_word(name)};
+        return {"click " + quote_word(name)};
     if (control->kind == "check box")
         value = std::get<bool>(control->value) ? "off" : "on";
     else if (control->kind == "radio button")
@@ -142,8 +142,8 @@ Deed RandomUser::use(const std::vector<Control>& controls, const ControlNames& c
     else if (control->entries && !control->entries->empty())
         value = entry(*control->entries, below(control->entries->size()));
     else
-        return {"click " + quoted_word(name)};
-    return {"set " + quoted_word(name + "=" + value)};
+        return {"click " + quote_word(name)};
+    return {"set " + quote_word(name + "=" + value)};
 }
 
 // In a control, or not far from one.
@@ -178,14 +178,15 @@ Deed RandomUser::use_hands(const std::vector<Control>& controls) {
         break;
     case 2:
     case 3: {
+        const auto keys = keys_with_names();
         const bool named = chance(70);
-        const std::string key = named ? any(key_names()) : any(characters);
+        const std::string key = named ? keys[below(keys.size())].name : any(characters);
         const std::string held = modifiers();
         deed = {"key " + key + held};
         break;
     }
     case 4:
-        deed = {"type " + quoted_word(any(typed))};
+        deed = {"type " + quote_word(any(typed))};
         break;
     case 5: { // half a click, or another button's
         constexpr const char* halves[] = {"down", "up", "move"};

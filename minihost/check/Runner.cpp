@@ -55,7 +55,7 @@ Findings run_check(const Check& check, const CheckContext& context, TerminalLine
     while (!child.wait(std::chrono::milliseconds(200)))
         progress.show(std::string(check.id) + ": " + std::to_string(child.place().runs) +
                       " runs, " + child.place().step());
-    progress.wipe();
+    progress.erase();
     const Ending& ending = child.ending();
     Findings findings;
     if (ending.kind == Ending::Kind::Done)
@@ -90,7 +90,7 @@ bool run_chosen(const Subject& subject, const std::vector<const Check*>& chosen,
     const Rehearsal rehearsal = rehearse(subject, [&](std::size_t lives) {
         progress.show("rehearsing: " + std::to_string(lives) + " lives");
     });
-    progress.wipe();
+    progress.erase();
     static Place nowhere; // of checks that are not in their process yet
     std::vector<CheckResult> results;
     bool good = true;

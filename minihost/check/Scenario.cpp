@@ -64,7 +64,7 @@ class Deriver {
         std::vector<ScenarioStep> steps;
         for (const Control& it : _controls) {
             if (it.kind != "button") continue;
-            steps.push_back({Phase::Apply, "click " + quoted_word(name(it))});
+            steps.push_back({Phase::Apply, "click " + quote_word(name(it))});
             steps.push_back({Phase::Idle, "idle"});
         }
         return steps;
@@ -76,7 +76,7 @@ class Deriver {
         return name.empty() ? std::to_string(*it.id) : name;
     }
     std::string set(const Control& it, const std::string& value) const {
-        return "set " + quoted_word(name(it) + "=" + value);
+        return "set " + quote_word(name(it) + "=" + value);
     }
     std::string otherwise(const Control& it) const {
         return set(it, std::get<bool>(it.value) ? "off" : "on");

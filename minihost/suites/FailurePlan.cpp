@@ -1,6 +1,7 @@
 #include "minihost/suites/FailurePlan.h"
 
-#include <charconv>
+#include "minihost/model/ParseNumber.h"
+
 #include <stdexcept>
 
 namespace minihost {
@@ -9,12 +10,10 @@ namespace {
 
 template <typename Number>
 Number whole_number(const std::string& text, const std::string& all) {
-    Number number{};
-    const char* end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, number);
-    if (error != std::errc() || stop != end)
+    const auto number = parse_number<Number>(text);
+    if (!number)
         throw std::invalid_argument("\"" + all + "\": \"" + text + "\" is no whole number");
-    return number;
+    return *number;
 }
 
 } // namespace

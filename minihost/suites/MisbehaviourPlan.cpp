@@ -1,10 +1,9 @@
 #include "minihost/suites/MisbehaviourPlan.h"
 
 #include "minihost/model/Document.h"
+#include "minihost/model/ParseNumber.h"
 
 #include <algorithm>
-#include <charconv>
-#include <functional>
 #include <stdexcept>
 
 namespace minihost {
@@ -92,10 +91,10 @@ PlannedMisbehaviour parse_misbehaviour(const std::string& text) {
     }
     if (!planned.misbehaviour) throw std::invalid_argument("\"" + text + "\" is none of " + all);
     if (colon == std::string::npos) return planned;
-    const char* end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data() + colon + 1, end, planned.number);
-    if (error != std::errc() || stop != end || planned.number < 1)
+    const auto number = parse_number<std::int64_t>(text.substr(colon + 1));
+    if (!number || *number < 1)
         throw std::invalid_argument("\"" + text + "\": answers are counted from 1");
+    planned.number = *number;
     return planned;
 }
 

@@ -146,7 +146,7 @@ void Show::run(Session& session) {
     [state.window makeKeyAndOrderFront:nil];
     [state.window makeFirstResponder:[state.desk layerList]];
     try {
-        run_step(session, make_step({"open"}, "show"));
+        run_action(session, parse_action({"open"}, "show"));
     } catch (const std::exception& error) {
         session.host().report(error.what());
     }

@@ -44,7 +44,7 @@ void Workbench::export_picture(const std::string& path) {
 }
 
 void Workbench::perform(const char* action) {
-    run_step(_session, make_step({action}, "window"));
+    run_action(_session, parse_action({action}, "window"));
 }
 
 std::string Workbench::step_title(const char* what, const std::string* name) {

@@ -34,7 +34,7 @@ class Plugin : public testing::Test {
         session->load(PLUGIN);
     }
     void act(std::initializer_list<Words> lines) {
-        for (const Words& words : lines) run_step(*session, make_step(words, "test"));
+        for (const Words& words : lines) run_action(*session, parse_action(words, "test"));
     }
     json state() {
         printed.str("");
