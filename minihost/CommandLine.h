@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "minihost/check/Runner.h"
+#include "minihost/check/CheckRunner.h"
 #include "minihost/suites/Host.h"
 
 #include <optional>

@@ -37,4 +37,9 @@ std::string ControlNames::name_of(int id) const {
     return found == _names.end() ? "" : found->second;
 }
 
+std::string ControlNames::name_or_id(int id) const {
+    const std::string name = name_of(id);
+    return name.empty() ? std::to_string(id) : name;
+}
+
 } // namespace minihost

@@ -19,6 +19,7 @@ class ControlNames {
     std::optional<int> id_of(const std::string& name) const;
     // Empty for an id without a name.
     std::string name_of(int id) const;
+    std::string name_or_id(int id) const;
 
   private:
     std::map<std::string, int> _ids;

@@ -1,4 +1,4 @@
-// A host that fails and misbehaves as it is told to.
+// A host that fails and misbehaves on request.
 
 #include "minihost/suites/MisbehaviourPlan.h"
 #include "tests/minihost/support/Suites.h"
@@ -64,14 +64,15 @@ class MisbehavingSuites : public Suites {
     }
 };
 
-TEST_F(MisbehavingSuites, AnswerNonsenseWithSuccessAtTheCountedAnswersOfAKind) {
+TEST_F(MisbehavingSuites, CorruptTheCountedResultsOfAKind) {
     inside([&] {
         const AEGP_LayerH card = layer(0); // three handles, six calls
         const AEGP_LayerSuite5& suite = layers();
         AEGP_StreamRefH stream = reinterpret_cast<AEGP_StreamRefH>(1);
         EXPECT_EQ(streams().AEGP_GetNewLayerStream(1, card, AEGP_LayerStream_POSITION, &stream), 0);
         EXPECT_EQ(stream, nullptr);
-        EXPECT_THAT(host.handles.open_streams(), IsEmpty()) << "nobody could dispose of it";
+        EXPECT_THAT(host.handles.open_streams(), IsEmpty())
+            << "the plug-in could not dispose of it";
         AEGP_LayerH none = card;
         EXPECT_EQ(suite.AEGP_GetCompLayerByIndex(host.handles.of_composition(), 0, &none), 0);
         EXPECT_EQ(none, nullptr);
@@ -110,7 +111,7 @@ TEST_F(MisbehavingSuites, AnswerNonsenseWithSuccessAtTheCountedAnswersOfAKind) {
     });
 }
 
-TEST(MisbehaviourPlan, ChangesTheSceneAsToldAndIsReadFromItsText) {
+TEST(MisbehaviourPlan, ChangesTheSceneAndIsParsed) {
     struct Case {
         const char* word;
         const char* layers; // afterwards
@@ -126,21 +127,21 @@ TEST(MisbehaviourPlan, ChangesTheSceneAsToldAndIsReadFromItsText) {
             {"name": "Cam 2", "kind": "camera"}, {"name": "B", "kind": "text"}],
             "selection": [3]})",
                                       "test"));
-        MisbehaviourPlan misbehaviour({parse_misbehaviour(it.word + std::string(":2"))});
-        for (int call = 1; call <= 3; ++call) misbehaviour.before_call(document);
+        MisbehaviourPlan plan({parse_misbehaviour(it.word + std::string(":2"))});
+        for (int call = 1; call <= 3; ++call) plan.before_call(document);
         std::string names;
         for (const Layer* layer : document.scene().layers())
             names += (names.empty() ? "" : ",") + layer->name;
         EXPECT_EQ(names, it.layers) << it.word;
         EXPECT_EQ(document.scene().selection(), it.selection) << it.word;
-        EXPECT_EQ(misbehaviour.count(MisbehaviourKind::Scene), 3);
+        EXPECT_EQ(plan.count(MisbehaviourKind::Scene), 3);
     }
     for (const char* text : {"", "lies", "null-handles:", "null-handles:0", "null-handles:x"})
         EXPECT_THROW(parse_misbehaviour(text), std::invalid_argument) << text;
     EXPECT_EQ(parse_misbehaviour("nan-values").number, 0);
 }
 
-TEST(Failures, AreReadFromTheirText) {
+TEST(FailurePlan, IsParsed) {
     EXPECT_EQ(parse_failure("PF AE App Suite.PF_AppGetColor").code, 4);
     EXPECT_EQ(parse_failure("AEGP Item Suite.AEGP_GetItemType:12:-3").call,
               "AEGP Item Suite.GetItemType");

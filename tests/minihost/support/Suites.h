@@ -1,4 +1,4 @@
-// A host whose suites are called as if from a plug-in's hook.
+// A host whose suites a test calls as a plug-in's hook would.
 
 #pragma once
 
