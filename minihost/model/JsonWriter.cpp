@@ -8,7 +8,7 @@ namespace minihost {
 
 namespace {
 
-// How many bytes from `at` on are one well-formed character of UTF-8; 0 when they are none.
+// The length of the UTF-8 character at `at` in bytes; 0 for invalid bytes.
 std::size_t character_length(std::string_view text, std::size_t at) {
     const auto byte = [&](std::size_t i) -> unsigned {
         return at + i < text.size() ? static_cast<unsigned char>(text[at + i]) : 0u;
@@ -119,7 +119,7 @@ JsonWriter& JsonWriter::value(std::string_view text) {
 JsonWriter& JsonWriter::value(double number) {
     if (!std::isfinite(number)) return null();
     comma();
-    // JSON readers take "-0" for the integer 0.
+    // JSON parsers read "-0" as the integer 0.
     if (number == 0 && std::signbit(number)) {
         _out += "-0.0";
         return *this;

@@ -1,4 +1,4 @@
-// JSON, written piece by piece onto the end of a text. Commas come by themselves.
+// Appends JSON to a text piece by piece, with commas where necessary.
 
 #pragma once
 
@@ -18,9 +18,9 @@ class JsonWriter {
     JsonWriter& end_array() { return close(']'); }
     JsonWriter& key(std::string_view name);
 
-    JsonWriter& value(std::string_view text); // bytes that are no UTF-8 become U+FFFD
+    JsonWriter& value(std::string_view text); // invalid UTF-8 becomes U+FFFD
     JsonWriter& value(const char* text) { return value(std::string_view(text)); }
-    // The shortest text that reads back as the same double; null for one that is not finite.
+    // The shortest text that reads back exactly; null for infinities and NaN.
     JsonWriter& value(double number);
     JsonWriter& value(std::int64_t number);
     JsonWriter& value(int number) { return value(static_cast<std::int64_t>(number)); }
@@ -32,7 +32,7 @@ class JsonWriter {
     JsonWriter& member(std::string_view name, const Value& it) {
         return key(name).value(it);
     }
-    // What comes next starts on a line of its own, after so many blanks.
+    // Starts a line with so many blanks.
     JsonWriter& line(int indent);
 
   private:

@@ -1,4 +1,4 @@
-// Scene files, written: the format that SceneReader reads, with all fields.
+// Writes scene files with all fields.
 
 #pragma once
 
@@ -9,8 +9,8 @@
 
 namespace minihost {
 
-// The document's scene as a file's text, with the names of its undo steps. Doubles are the shortest
-// that read back exactly.
+// The text of a scene file, with the names of the undo steps. Doubles have the shortest form that
+// reads back exactly.
 std::string scene_text(const Document& document);
 
 } // namespace minihost
