@@ -33,17 +33,13 @@ void MemoryFile::write(std::string_view text) {
 }
 
 std::string MemoryFile::content(std::size_t max) const {
-    const off_t end = ::lseek(_file, 0, SEEK_END);
-    if (end < 0) fail();
-    std::string text(std::min(static_cast<std::size_t>(end), max), '\0');
-    off_t at = end - static_cast<off_t>(text.size());
-    for (std::size_t have = 0; have < text.size();) {
-        const ssize_t count = ::pread(_file, text.data() + have, text.size() - have, at);
-        if (count < 0 && errno != EINTR) fail();
-        if (count == 0) text.resize(have); // truncated meanwhile
-        have += static_cast<std::size_t>(std::max<ssize_t>(count, 0));
-        at += std::max<ssize_t>(count, 0);
-    }
+    const off_t size = ::lseek(_file, 0, SEEK_END);
+    if (size < 0) fail();
+    std::string text(std::min(static_cast<std::size_t>(size), max), '\0');
+    const ssize_t count =
+        ::pread(_file, text.data(), text.size(), size - static_cast<off_t>(text.size()));
+    if (count < 0) fail();
+    text.resize(static_cast<std::size_t>(count));
     return text;
 }
 

@@ -59,12 +59,8 @@ std::string report_json(const Target& target, const std::vector<CheckResult>& re
     std::string text;
     JsonWriter json(text);
     json.begin_object().line(2).member("tool", "minihost " MINIHOST_VERSION);
-    json.line(2).member("plugin", std::string_view(target.plugin));
-    json.line(2).key("scene");
-    if (target.scene_file.empty())
-        json.null();
-    else
-        json.value(std::string_view(target.scene_file));
+    json.line(2).member("plugin", target.plugin).line(2);
+    json.member("scene", target.scene_file.empty() ? nullptr : target.scene_file.c_str());
     json.line(2).member("level", target.level);
     json.line(2).member("seed", static_cast<std::int64_t>(target.seed));
     json.line(2).key("checks").begin_array();
@@ -72,9 +68,8 @@ std::string report_json(const Target& target, const std::vector<CheckResult>& re
         json.line(4).begin_object().member("id", it.check->id);
         json.member("group", it.check->group()).member("sentence", it.check->sentence);
         json.member("outcome", name_of(it.findings.outcome())).member("seconds", it.seconds);
-        json.member("runs", it.findings.runs()).key("details").begin_array();
-        for (const std::string& line : it.findings.lines()) json.value(std::string_view(line));
-        json.end_array().end_object();
+        json.member("runs", it.findings.runs()).key("details").array(it.findings.lines());
+        json.end_object();
     }
     json.end_array().end_object();
     return text + "\n";

@@ -31,32 +31,14 @@ std::size_t character_length(std::string_view text, std::size_t at) {
 }
 
 void append_escaped(std::string& out, char c) {
-    switch (c) {
-    case '"':
-        out += "\\\"";
-        return;
-    case '\\':
-        out += "\\\\";
-        return;
-    case '\n':
-        out += "\\n";
-        return;
-    case '\r':
-        out += "\\r";
-        return;
-    case '\t':
-        out += "\\t";
-        return;
-    default:
-        break;
-    }
-    if (static_cast<unsigned char>(c) >= 0x20 && c != 0x7f) {
-        out += c;
-        return;
-    }
+    constexpr std::string_view named = "\"\\\n\r\t", names = "\"\\nrt";
     char code[8];
-    std::snprintf(code, sizeof code, "\\u%04x", static_cast<unsigned>(c));
-    out += code;
+    if (const std::size_t found = named.find(c); found != named.npos)
+        out += {'\\', names[found]};
+    else if (static_cast<unsigned char>(c) >= 0x20 && c != 0x7f)
+        out += c;
+    else
+        out.append(code, std::snprintf(code, sizeof code, "\\u%04x", static_cast<unsigned>(c)));
 }
 
 void append_text(std::string& out, std::string_view text) {

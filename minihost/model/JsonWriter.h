@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -19,14 +20,24 @@ class JsonWriter {
     JsonWriter& key(std::string_view name);
 
     JsonWriter& value(std::string_view text); // invalid UTF-8 becomes U+FFFD
-    JsonWriter& value(const char* text) { return value(std::string_view(text)); }
+    JsonWriter& value(const char* text) { return text ? value(std::string_view(text)) : null(); }
     // The shortest text that reads back exactly; null for infinities and NaN.
     JsonWriter& value(double number);
     JsonWriter& value(std::int64_t number);
     JsonWriter& value(int number) { return value(static_cast<std::int64_t>(number)); }
     JsonWriter& value(std::size_t number) { return value(static_cast<std::int64_t>(number)); }
     JsonWriter& value(bool flag);
+    template <typename Value>
+    JsonWriter& value(const std::optional<Value>& it) {
+        return it ? value(*it) : null();
+    }
     JsonWriter& null();
+    template <typename Items>
+    JsonWriter& array(const Items& items) {
+        begin_array();
+        for (const auto& it : items) value(it);
+        return end_array();
+    }
 
     template <typename Value>
     JsonWriter& member(std::string_view name, const Value& it) {

@@ -16,7 +16,7 @@ namespace minihost {
 
 namespace {
 
-constexpr std::size_t most_buffer = 1 << 16;
+constexpr std::size_t max_buffer = 1 << 16;
 
 bool write_all(int file, std::string_view content) {
     while (!content.empty()) {
@@ -73,7 +73,7 @@ OutputFile::~OutputFile() {
 
 void OutputFile::write(std::string_view content) {
     _buffer += content;
-    if (_buffer.size() >= most_buffer) flush();
+    if (_buffer.size() >= max_buffer) flush();
 }
 
 void OutputFile::flush() {

@@ -38,12 +38,11 @@ A_Err ReleaseSuite(const char* name, A_long version) {
     return serve_call(
         {"SPBasic", basic_version, "ReleaseSuite"},
         [&](CallArguments& it) { it.text("name", name).number("version", version); },
-        [&](Host& host) -> A_Err {
+        [&](Host& host) {
             if (!host.count_released(&require(name), version))
                 throw Misuse(std::string(name) + " " + std::to_string(version) +
                                  " released more often than acquired",
                              ViolationKind::Unbalanced);
-            return 0;
         });
 }
 

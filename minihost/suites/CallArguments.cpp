@@ -16,97 +16,55 @@ auto look_up(const Look& look) -> std::optional<std::decay_t<decltype(look())>> 
 
 } // namespace
 
-CallArguments& CallArguments::number(const char* name, double value) {
-    _json.member(name, value);
-    return *this;
-}
-
-CallArguments& CallArguments::text(const char* name, const char* value) {
-    if (value)
-        _json.member(name, value);
-    else
-        _json.key(name).null();
-    return *this;
-}
-
-CallArguments& CallArguments::flag(const char* name, bool value) {
-    _json.member(name, value);
-    return *this;
-}
-
 CallArguments& CallArguments::time(const char* name, const A_Time* value) {
-    if (value && value->scale != 0)
-        _json.member(name, static_cast<double>(value->value) / value->scale);
-    else
-        _json.key(name).null();
-    return *this;
+    std::optional<double> seconds;
+    if (value && value->scale != 0) seconds = static_cast<double>(value->value) / value->scale;
+    return member(name, seconds);
 }
 
-CallArguments& CallArguments::layer_id(LayerId id) {
-    _json.member("layer", _host.document.scene().index_of(id));
-    return *this;
+CallArguments& CallArguments::layer_id(std::optional<LayerId> id) {
+    std::optional<std::size_t> index;
+    if (id) index = _host.document.scene().index_of(*id);
+    return member("layer", index);
 }
 
 CallArguments& CallArguments::layer(AEGP_LayerH handle) {
-    if (const auto id = look_up([&] { return _host.handles.layer(handle); })) return layer_id(*id);
-    _json.key("layer").null();
-    return *this;
+    return layer_id(look_up([&] { return _host.handles.layer(handle); }));
 }
 
 CallArguments& CallArguments::item(AEGP_ItemH handle) {
     const auto item = look_up([&] { return _host.handles.item(handle); });
-    if (!item)
-        _json.key("item").null();
-    else if (item->kind == ItemRef::Kind::Composition)
-        _json.member("item", "composition");
-    else if (item->kind == ItemRef::Kind::Footage)
-        _json.member("item", "footage");
-    else
-        _json.member("item", "source"), layer_id(item->layer);
-    return *this;
+    if (!item) return text("item", nullptr);
+    if (item->kind == ItemRef::Kind::Composition) return text("item", "composition");
+    if (item->kind == ItemRef::Kind::Footage) return text("item", "footage");
+    return text("item", "source").layer_id(item->layer);
 }
 
 CallArguments& CallArguments::composition(AEGP_CompH handle) {
-    if (look_up([&] { return _host.handles.require_composition(handle), true; }))
-        _json.member("comp", _host.document.scene().composition.name);
-    else
-        _json.key("comp").null();
-    return *this;
+    const bool is_valid =
+        look_up([&] { return _host.handles.require_composition(handle), true; }).has_value();
+    return text("comp", is_valid ? _host.document.scene().composition.name.c_str() : nullptr);
 }
 
 CallArguments& CallArguments::stream(AEGP_StreamRefH handle) {
-    if (const auto stream = look_up([&] { return _host.handles.stream(handle); })) {
-        layer_id(stream->layer);
-        _json.member("stream", static_cast<int>(stream->stream));
-    } else {
-        _json.key("layer").null().key("stream").null();
-    }
-    return *this;
+    const auto stream = look_up([&] { return _host.handles.stream(handle); });
+    if (!stream) return layer_id(std::nullopt).text("stream", nullptr);
+    return layer_id(stream->layer).member("stream", static_cast<int>(stream->stream));
 }
 
 CallArguments& CallArguments::collection(AEGP_CollectionH handle) {
-    _json.member("collection", static_cast<std::size_t>(Handles::number_of(handle)));
-    return *this;
+    return member("collection", static_cast<std::size_t>(Handles::number_of(handle)));
 }
 
 CallArguments& CallArguments::panel(AEGP_PanelH handle) {
-    _json.member("panel", static_cast<std::size_t>(Handles::number_of(handle)));
-    return *this;
+    return member("panel", static_cast<std::size_t>(Handles::number_of(handle)));
 }
 
 CallArguments& CallArguments::value(AEGP_StreamRefH handle, const AEGP_StreamVal* value) {
     const auto stream = look_up([&] { return _host.handles.stream(handle); });
-    _json.key("value");
-    if (!stream || !value)
-        _json.null();
-    else if (dimensions(stream->stream) == 1)
-        _json.value(value->one_d);
-    else
-        _json.begin_array()
-            .value(value->three_d.x)
-            .value(value->three_d.y)
-            .value(value->three_d.z)
-            .end_array();
+    if (!stream || !value) return text("value", nullptr);
+    if (dimensions(stream->stream) == 1) return member("value", value->one_d);
+    _json.key("value").array(Vec3{value->three_d.x, value->three_d.y, value->three_d.z});
     return *this;
 }
 

@@ -5,6 +5,7 @@
 #include "minihost/model/JsonWriter.h"
 #include "minihost/suites/Host.h"
 
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -15,9 +16,9 @@ class CallArguments {
   public:
     explicit CallArguments(Host& host) : _host(host), _json(_text) { _json.begin_object(); }
 
-    CallArguments& number(const char* name, double value);
-    CallArguments& text(const char* name, const char* value);
-    CallArguments& flag(const char* name, bool value);
+    CallArguments& number(const char* name, double value) { return member(name, value); }
+    CallArguments& text(const char* name, const char* value) { return member(name, value); }
+    CallArguments& flag(const char* name, bool value) { return member(name, value); }
     CallArguments& time(const char* name, const A_Time* value); // in seconds
     CallArguments& layer(AEGP_LayerH handle);                   // its current index
     CallArguments& item(AEGP_ItemH handle);             // "composition", "footage" or "source"
@@ -33,7 +34,12 @@ class CallArguments {
     }
 
   private:
-    CallArguments& layer_id(LayerId id);
+    template <typename Value>
+    CallArguments& member(const char* name, const Value& value) {
+        _json.member(name, value);
+        return *this;
+    }
+    CallArguments& layer_id(std::optional<LayerId> id);
     Host& _host;
     std::string _text;
     JsonWriter _json;

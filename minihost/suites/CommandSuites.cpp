@@ -27,25 +27,21 @@ A_Err RegisterCommandHook(AEGP_PluginID, AEGP_HookPriority priority, AEGP_Comman
     return serve_call(
         register_call("RegisterCommandHook"),
         [&](CallArguments& it) { it.number("priority", priority).number("command", command); },
-        [&](Host& host) -> A_Err {
+        [&](Host& host) {
             require_entry(host);
             require(hook);
             host.hooks().command.push_back({command, hook, refcon});
-            return 0;
         });
 }
 
 template <typename Function, typename Refcon>
 A_Err register_hook(const char* call, std::vector<Hook<Function, Refcon>> Hooks::*list,
                     Function hook, Refcon refcon) {
-    return serve_call(
-        register_call(call), [](CallArguments&) {},
-        [&](Host& host) -> A_Err {
-            require_entry(host);
-            require(hook);
-            (host.hooks().*list).push_back({hook, refcon});
-            return 0;
-        });
+    return serve_call(register_call(call), [&](Host& host) {
+        require_entry(host);
+        require(hook);
+        (host.hooks().*list).push_back({hook, refcon});
+    });
 }
 
 A_Err RegisterUpdateMenuHook(AEGP_PluginID, AEGP_UpdateMenuHook hook,
@@ -62,12 +58,8 @@ A_Err RegisterIdleHook(AEGP_PluginID, AEGP_IdleHook hook, AEGP_IdleRefcon refcon
 }
 
 A_Err GetUniqueCommand(AEGP_Command* command) {
-    return serve_call(
-        command_call("GetUniqueCommand"), [](CallArguments&) {},
-        [&](Host& host) -> A_Err {
-            require(command) = host.new_command();
-            return 0;
-        });
+    return serve_call(command_call("GetUniqueCommand"),
+                      [&](Host& host) { require(command) = host.new_command(); });
 }
 
 A_Err InsertMenuCommand(AEGP_Command command, const A_char* name, AEGP_MenuID menu,
@@ -78,10 +70,9 @@ A_Err InsertMenuCommand(AEGP_Command command, const A_char* name, AEGP_MenuID me
             it.number("command", command).text("name", name).number("menu", menu);
             it.number("after_item", after_item);
         },
-        [&](Host& host) -> A_Err {
+        [&](Host& host) {
             require_entry(host);
             host.insert_menu_item({command, &require(name), menu});
-            return 0;
         });
 }
 
@@ -127,29 +118,20 @@ A_Err DoCommand(AEGP_Command command) {
 A_Err ReportInfo(AEGP_PluginID, const A_char* text) {
     return serve_call(
         utility_call("ReportInfo"), [&](CallArguments& it) { it.text("text", text); },
-        [&](Host& host) -> A_Err {
-            host.alert(&require(text));
-            return 0;
-        });
+        [&](Host& host) { host.alert(&require(text)); });
 }
 
 A_Err StartUndoGroup(const A_char* name) {
     return serve_call(
         utility_call("StartUndoGroup"), [&](CallArguments& it) { it.text("name", name); },
-        [&](Host& host) -> A_Err {
-            host.document.begin_group(&require(name));
-            return 0;
-        });
+        [&](Host& host) { host.document.begin_group(&require(name)); });
 }
 
 A_Err EndUndoGroup() {
-    return serve_call(
-        utility_call("EndUndoGroup"), [](CallArguments&) {},
-        [&](Host& host) -> A_Err {
-            if (!host.document.end_group())
-                throw Misuse("no undo group is open", ViolationKind::Unbalanced);
-            return 0;
-        });
+    return serve_call(utility_call("EndUndoGroup"), [&](Host& host) {
+        if (!host.document.end_group())
+            throw Misuse("no undo group is open", ViolationKind::Unbalanced);
+    });
 }
 
 constexpr AEGP_RegisterSuite6 registering{RegisterCommandHook, RegisterUpdateMenuHook,

@@ -73,10 +73,10 @@ double number(Word word) {
 // A function of a suite that corrupts its results.
 template <MisbehaviourKind kind, auto function>
 struct Corrupting;
-template <MisbehaviourKind kind, typename Functions, typename... Types,
-          A_Err (*Functions::*function)(Types...)>
+template <MisbehaviourKind kind, typename Suite, typename... Types,
+          A_Err (*Suite::*function)(Types...)>
 struct Corrupting<kind, function> {
-    static inline const Functions* original;
+    static inline const Suite* original;
     static A_Err call(Types... arguments) {
         const A_Err error = (original->*function)(arguments...);
         Host* host = Host::current();
@@ -85,9 +85,10 @@ struct Corrupting<kind, function> {
             (corrupt(*host, misbehaviour->word, arguments), ...);
         return error;
     }
+    static void install(Suite& suite) { suite.*function = call; }
 };
 
-// Only the numbers that the stream has are written.
+// Writes only the numbers that the stream has.
 template <>
 struct Corrupting<MisbehaviourKind::Value, &AEGP_StreamSuite4::AEGP_GetLayerStreamValue> {
     static inline const AEGP_StreamSuite4* original;
@@ -107,58 +108,15 @@ struct Corrupting<MisbehaviourKind::Value, &AEGP_StreamSuite4::AEGP_GetLayerStre
             value->three_d = {bad, -bad, bad};
         return error;
     }
+    static void install(AEGP_StreamSuite4& suite) { suite.AEGP_GetLayerStreamValue = call; }
 };
 
-template <MisbehaviourKind kind, auto function, typename Functions>
-void replace(Functions& copy, const Functions& original) {
-    Corrupting<kind, function>::original = &original;
-    copy.*function = Corrupting<kind, function>::call;
-}
-
-void corrupt_suite(AEGP_CollectionSuite1& copy, const AEGP_CollectionSuite1& original) {
-    using Functions = AEGP_CollectionSuite1;
-    using enum MisbehaviourKind;
-    replace<Handle, &Functions::AEGP_NewCollection>(copy, original);
-    replace<Count, &Functions::AEGP_GetCollectionNumItems>(copy, original);
-    replace<Handle, &Functions::AEGP_GetCollectionItemByIndex>(copy, original);
-}
-void corrupt_suite(AEGP_ItemSuite3& copy, const AEGP_ItemSuite3& original) {
-    using enum MisbehaviourKind;
-    replace<Handle, &AEGP_ItemSuite3::AEGP_GetActiveItem>(copy, original);
-    replace<Size, &AEGP_ItemSuite3::AEGP_GetItemDimensions>(copy, original);
-}
-void corrupt_suite(AEGP_CompSuite4& copy, const AEGP_CompSuite4& original) {
-    using enum MisbehaviourKind;
-    replace<Handle, &AEGP_CompSuite4::AEGP_GetCompFromItem>(copy, original);
-    replace<Handle, &AEGP_CompSuite4::AEGP_GetNewCollectionFromCompSelection>(copy, original);
-}
-void corrupt_suite(AEGP_LayerSuite5& copy, const AEGP_LayerSuite5& original) {
-    using Functions = AEGP_LayerSuite5;
-    using enum MisbehaviourKind;
-    replace<Count, &Functions::AEGP_GetCompNumLayers>(copy, original);
-    replace<Handle, &Functions::AEGP_GetCompLayerByIndex>(copy, original);
-    replace<Count, &Functions::AEGP_GetLayerIndex>(copy, original);
-    replace<Handle, &Functions::AEGP_GetLayerSourceItem>(copy, original);
-    replace<Name, &Functions::AEGP_GetLayerName>(copy, original);
-}
-void corrupt_suite(AEGP_LayerSuite10& copy, const AEGP_LayerSuite10& original) {
-    replace<MisbehaviourKind::Handle, &AEGP_LayerSuite10::AEGP_DuplicateLayer>(copy, original);
-}
-void corrupt_suite(AEGP_StreamSuite4& copy, const AEGP_StreamSuite4& original) {
-    using enum MisbehaviourKind;
-    replace<Handle, &AEGP_StreamSuite4::AEGP_GetNewLayerStream>(copy, original);
-    replace<Value, &AEGP_StreamSuite4::AEGP_GetLayerStreamValue>(copy, original);
-}
-void corrupt_suite(AEGP_KeyframeSuite1& copy, const AEGP_KeyframeSuite1& original) {
-    replace<MisbehaviourKind::Count, &AEGP_KeyframeSuite1::AEGP_InsertKeyframe>(copy, original);
-}
-
-template <typename Functions>
+template <typename Suite, typename... Functions>
 const void* corrupted(const void* functions) {
-    static const Functions& original = *static_cast<const Functions*>(functions);
-    static const Functions made = [] {
-        Functions copy = original;
-        corrupt_suite(copy, original);
+    static const Suite& original = *static_cast<const Suite*>(functions);
+    static const Suite made = [] {
+        Suite copy = original;
+        ((Functions::original = &original, Functions::install(copy)), ...);
         return copy;
     }();
     return &made;
@@ -167,13 +125,47 @@ const void* corrupted(const void* functions) {
 } // namespace
 
 const void* corrupted_functions(const void* functions) {
-    if (functions == collection_suite) return corrupted<AEGP_CollectionSuite1>(functions);
-    if (functions == item_suite) return corrupted<AEGP_ItemSuite3>(functions);
-    if (functions == comp_suite) return corrupted<AEGP_CompSuite4>(functions);
-    if (functions == layer_suite_5) return corrupted<AEGP_LayerSuite5>(functions);
-    if (functions == layer_suite_10) return corrupted<AEGP_LayerSuite10>(functions);
-    if (functions == stream_suite) return corrupted<AEGP_StreamSuite4>(functions);
-    if (functions == keyframe_suite) return corrupted<AEGP_KeyframeSuite1>(functions);
+    constexpr auto Handle = MisbehaviourKind::Handle, Count = MisbehaviourKind::Count;
+    if (functions == collection_suite) {
+        using Suite = AEGP_CollectionSuite1;
+        return corrupted<Suite, Corrupting<Handle, &Suite::AEGP_NewCollection>,
+                         Corrupting<Count, &Suite::AEGP_GetCollectionNumItems>,
+                         Corrupting<Handle, &Suite::AEGP_GetCollectionItemByIndex>>(functions);
+    }
+    if (functions == item_suite) {
+        using Suite = AEGP_ItemSuite3;
+        return corrupted<Suite, Corrupting<Handle, &Suite::AEGP_GetActiveItem>,
+                         Corrupting<MisbehaviourKind::Size, &Suite::AEGP_GetItemDimensions>>(
+            functions);
+    }
+    if (functions == comp_suite) {
+        using Suite = AEGP_CompSuite4;
+        return corrupted<Suite, Corrupting<Handle, &Suite::AEGP_GetCompFromItem>,
+                         Corrupting<Handle, &Suite::AEGP_GetNewCollectionFromCompSelection>>(
+            functions);
+    }
+    if (functions == layer_suite_5) {
+        using Suite = AEGP_LayerSuite5;
+        return corrupted<Suite, Corrupting<Count, &Suite::AEGP_GetCompNumLayers>,
+                         Corrupting<Handle, &Suite::AEGP_GetCompLayerByIndex>,
+                         Corrupting<Count, &Suite::AEGP_GetLayerIndex>,
+                         Corrupting<Handle, &Suite::AEGP_GetLayerSourceItem>,
+                         Corrupting<MisbehaviourKind::Name, &Suite::AEGP_GetLayerName>>(functions);
+    }
+    if (functions == layer_suite_10) {
+        using Suite = AEGP_LayerSuite10;
+        return corrupted<Suite, Corrupting<Handle, &Suite::AEGP_DuplicateLayer>>(functions);
+    }
+    if (functions == stream_suite) {
+        using Suite = AEGP_StreamSuite4;
+        return corrupted<Suite, Corrupting<Handle, &Suite::AEGP_GetNewLayerStream>,
+                         Corrupting<MisbehaviourKind::Value, &Suite::AEGP_GetLayerStreamValue>>(
+            functions);
+    }
+    if (functions == keyframe_suite) {
+        using Suite = AEGP_KeyframeSuite1;
+        return corrupted<Suite, Corrupting<Count, &Suite::AEGP_InsertKeyframe>>(functions);
+    }
     return functions;
 }
 

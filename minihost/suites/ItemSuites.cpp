@@ -18,31 +18,23 @@ CallName comp_call(const char* call) {
 }
 
 A_Err NewCollection(AEGP_PluginID, AEGP_CollectionH* collection) {
-    return serve_call(
-        collection_call("NewCollection"), [](CallArguments&) {},
-        [&](Host& host) -> A_Err {
-            require(collection) = host.handles.open_collection({});
-            return 0;
-        });
+    return serve_call(collection_call("NewCollection"),
+                      [&](Host& host) { require(collection) = host.handles.open_collection({}); });
 }
 
 A_Err DisposeCollection(AEGP_CollectionH collection) {
     return serve_call(
         collection_call("DisposeCollection"), [&](CallArguments& it) { it.collection(collection); },
-        [&](Host& host) -> A_Err {
-            host.handles.close(collection);
-            return 0;
-        });
+        [&](Host& host) { host.handles.close(collection); });
 }
 
 A_Err GetCollectionNumItems(AEGP_CollectionH collection, A_u_long* count) {
     return serve_call(
         collection_call("GetCollectionNumItems"),
         [&](CallArguments& it) { it.collection(collection); },
-        [&](Host& host) -> A_Err {
+        [&](Host& host) {
             A_u_long& result = require(count);
             result = static_cast<A_u_long>(host.handles.collection(collection).size());
-            return 0;
         });
 }
 
@@ -70,48 +62,43 @@ A_Err CollectionPushBack(AEGP_CollectionH collection, const AEGP_CollectionItem*
             it.collection(collection);
             if (item && item->type == AEGP_CollectionItemType_LAYER) it.layer(item->layerH);
         },
-        [&](Host& host) -> A_Err {
+        [&](Host& host) {
             Selection& items = host.handles.collection(collection);
             const bool is_layer = require(item).type == AEGP_CollectionItemType_LAYER;
             items.push_back(is_layer ? host.handles.layer(item->layerH) : 0);
-            return 0;
         });
 }
 
 A_Err GetActiveItem(AEGP_ItemH* item) {
-    return serve_call(
-        item_call("GetActiveItem"), [](CallArguments&) {},
-        [&](Host& host) -> A_Err {
-            AEGP_ItemH& result = require(item);
-            switch (host.document.scene().active) {
-            case ActiveItem::Composition:
-                result = host.handles.of_item({ItemRef::Kind::Composition});
-                break;
-            case ActiveItem::Footage:
-                result = host.handles.of_item({ItemRef::Kind::Footage});
-                break;
-            case ActiveItem::None:
-                result = nullptr;
-                break;
-            }
-            return 0;
-        });
+    return serve_call(item_call("GetActiveItem"), [&](Host& host) {
+        AEGP_ItemH& result = require(item);
+        switch (host.document.scene().active) {
+        case ActiveItem::Composition:
+            result = host.handles.of_item({ItemRef::Kind::Composition});
+            break;
+        case ActiveItem::Footage:
+            result = host.handles.of_item({ItemRef::Kind::Footage});
+            break;
+        case ActiveItem::None:
+            result = nullptr;
+            break;
+        }
+    });
 }
 
 A_Err GetItemType(AEGP_ItemH item, AEGP_ItemType* type) {
     return serve_call(
         item_call("GetItemType"), [&](CallArguments& it) { it.item(item); },
-        [&](Host& host) -> A_Err {
+        [&](Host& host) {
             const bool is_comp = host.handles.item(item).kind == ItemRef::Kind::Composition;
             require(type) = is_comp ? AEGP_ItemType_COMP : AEGP_ItemType_FOOTAGE;
-            return 0;
         });
 }
 
 A_Err GetItemDimensions(AEGP_ItemH item, A_long* width, A_long* height) {
     return serve_call(
         item_call("GetItemDimensions"), [&](CallArguments& it) { it.item(item); },
-        [&](Host& host) -> A_Err {
+        [&](Host& host) {
             const Scene& scene = host.document.scene();
             const ItemRef ref = host.handles.item(item);
             // The footage item that may be active is of the composition's size.
@@ -120,17 +107,15 @@ A_Err GetItemDimensions(AEGP_ItemH item, A_long* width, A_long* height) {
             A_long &wide = require(width), &high = require(height);
             wide = size.width;
             high = size.height;
-            return 0;
         });
 }
 
 A_Err GetCompFromItem(AEGP_ItemH item, AEGP_CompH* comp) {
     return serve_call(
         comp_call("GetCompFromItem"), [&](CallArguments& it) { it.item(item); },
-        [&](Host& host) -> A_Err {
+        [&](Host& host) {
             const bool is_comp = host.handles.item(item).kind == ItemRef::Kind::Composition;
             require(comp) = is_comp ? host.handles.of_composition() : nullptr;
-            return 0;
         });
 }
 
@@ -139,11 +124,10 @@ A_Err GetNewCollectionFromCompSelection(AEGP_PluginID, AEGP_CompH comp,
     return serve_call(
         comp_call("GetNewCollectionFromCompSelection"),
         [&](CallArguments& it) { it.composition(comp); },
-        [&](Host& host) -> A_Err {
+        [&](Host& host) {
             host.handles.require_composition(comp);
             AEGP_CollectionH& result = require(collection);
             result = host.handles.open_collection(host.document.scene().selection());
-            return 0;
         });
 }
 
@@ -151,7 +135,7 @@ A_Err SetSelection(AEGP_CompH comp, AEGP_CollectionH collection) {
     return serve_call(
         comp_call("SetSelection"),
         [&](CallArguments& it) { it.composition(comp).collection(collection); },
-        [&](Host& host) -> A_Err {
+        [&](Host& host) {
             host.handles.require_composition(comp);
             const Selection& items = host.handles.collection(collection);
             for (const LayerId layer : items)
@@ -159,7 +143,6 @@ A_Err SetSelection(AEGP_CompH comp, AEGP_CollectionH collection) {
                     throw Misuse("a collection with a layer that is no more",
                                  ViolationKind::StaleHandle);
             host.document.select(items);
-            return 0;
         });
 }
 

@@ -15,14 +15,12 @@ CallName layer_call(const char* call) {
     return {kAEGPLayerSuite, kAEGPLayerSuiteVersion, call};
 }
 
-// The functions that look at one layer.
+// A call that looks at one layer.
 template <typename Body>
 A_Err look_at_layer(const char* call, AEGP_LayerH handle, const Body& body) {
     return serve_call(
         layer_call(call), [&](CallArguments& it) { it.layer(handle); },
-        [&](Host& host) -> A_Err {
-            return body(host, *host.document.scene().find(host.handles.layer(handle)));
-        });
+        [&](Host& host) { body(host, *host.document.scene().find(host.handles.layer(handle))); });
 }
 
 // Truncates a name that is too long before an incomplete character.
@@ -39,10 +37,9 @@ void copy_name(A_char* buffer, const std::string& name) {
 A_Err GetCompNumLayers(AEGP_CompH comp, A_long* count) {
     return serve_call(
         layer_call("GetCompNumLayers"), [&](CallArguments& it) { it.composition(comp); },
-        [&](Host& host) -> A_Err {
+        [&](Host& host) {
             host.handles.require_composition(comp);
             require(count) = static_cast<A_long>(host.document.scene().layer_count());
-            return 0;
         });
 }
 
@@ -62,27 +59,23 @@ A_Err GetCompLayerByIndex(AEGP_CompH comp, A_long index, AEGP_LayerH* layer) {
 }
 
 A_Err GetLayerIndex(AEGP_LayerH handle, A_long* index) {
-    return look_at_layer("GetLayerIndex", handle, [&](Host& host, const Layer& layer) -> A_Err {
+    return look_at_layer("GetLayerIndex", handle, [&](Host& host, const Layer& layer) {
         require(index) = static_cast<A_long>(host.document.scene().index_of(layer.id));
-        return 0;
     });
 }
 
 A_Err GetLayerSourceItem(AEGP_LayerH handle, AEGP_ItemH* item) {
-    return look_at_layer(
-        "GetLayerSourceItem", handle, [&](Host& host, const Layer& layer) -> A_Err {
-            AEGP_ItemH& result = require(item);
-            result = layer.has_source() ? host.handles.of_item({ItemRef::Kind::Source, layer.id})
-                                        : nullptr;
-            return 0;
-        });
+    return look_at_layer("GetLayerSourceItem", handle, [&](Host& host, const Layer& layer) {
+        AEGP_ItemH& result = require(item);
+        result =
+            layer.has_source() ? host.handles.of_item({ItemRef::Kind::Source, layer.id}) : nullptr;
+    });
 }
 
 A_Err GetLayerName(AEGP_LayerH handle, A_char* layer_name, A_char* source_name) {
-    return look_at_layer("GetLayerName", handle, [&](Host&, const Layer& layer) -> A_Err {
+    return look_at_layer("GetLayerName", handle, [&](Host&, const Layer& layer) {
         if (layer_name) copy_name(layer_name, layer.name);
         if (source_name) copy_name(source_name, layer.has_source() ? layer.name : "");
-        return 0;
     });
 }
 
@@ -102,9 +95,8 @@ A_Err GetLayerCurrentTime(AEGP_LayerH handle, AEGP_LTimeMode mode, A_Time* time)
 }
 
 A_Err GetLayerOffset(AEGP_LayerH handle, A_Time* offset) {
-    return look_at_layer("GetLayerOffset", handle, [&](Host&, const Layer& layer) -> A_Err {
+    return look_at_layer("GetLayerOffset", handle, [&](Host&, const Layer& layer) {
         require(offset) = host_time(layer.start);
-        return 0;
     });
 }
 
@@ -122,7 +114,7 @@ A_Err ReorderLayer(AEGP_LayerH handle, A_long index) {
 }
 
 A_Err GetLayerObjectType(AEGP_LayerH handle, AEGP_ObjectType* type) {
-    return look_at_layer("GetLayerObjectType", handle, [&](Host&, const Layer& layer) -> A_Err {
+    return look_at_layer("GetLayerObjectType", handle, [&](Host&, const Layer& layer) {
         AEGP_ObjectType& result = require(type);
         switch (layer.kind) {
         case LayerKind::Light:
@@ -141,26 +133,22 @@ A_Err GetLayerObjectType(AEGP_LayerH handle, AEGP_ObjectType* type) {
             result = AEGP_ObjectType_AV;
             break;
         }
-        return 0;
     });
 }
 
 A_Err IsLayer3D(AEGP_LayerH handle, A_Boolean* is_3d) {
-    return look_at_layer("IsLayer3D", handle, [&](Host&, const Layer& layer) -> A_Err {
-        require(is_3d) = layer.is_3d();
-        return 0;
-    });
+    return look_at_layer("IsLayer3D", handle,
+                         [&](Host&, const Layer& layer) { require(is_3d) = layer.is_3d(); });
 }
 
 A_Err DuplicateLayer(AEGP_LayerH original, AEGP_LayerH* duplicate) {
     return serve_call(
         {kAEGPLayerSuite, kAEGPLayerSuite10Version, "DuplicateLayer"},
         [&](CallArguments& it) { it.layer(original); },
-        [&](Host& host) -> A_Err {
+        [&](Host& host) {
             const LayerId layer = host.handles.layer(original);
             AEGP_LayerH& result = require(duplicate);
             result = host.handles.of_layer(host.document.duplicate_layer(layer));
-            return 0;
         });
 }
 

@@ -19,13 +19,12 @@ A_Err RegisterCreatePanelHook(AEGP_PluginID, const A_char* match_name, AEGP_Crea
             it.text("match_name", match_name);
             it.flag("paint_background", paint_background);
         },
-        [&](Host& host) -> A_Err {
+        [&](Host& host) {
             if (!host.is_in_entry())
                 throw Misuse("called outside of the entry function",
                              ViolationKind::LateRegistration);
             require(hook);
             host.panels.register_hook(&require(match_name), hook, refcon);
-            return 0;
         });
 }
 
@@ -49,10 +48,7 @@ A_Err AppGetColor(PF_App_ColorType selector, PF_App_Color* color) {
     return serve_call(
         {kPFAppSuite, kPFAppSuiteVersion, "PF_AppGetColor"},
         [&](CallArguments& it) { it.number("selector", selector); },
-        [&](Host& host) -> A_Err {
-            require(color) = interface_color(host.options().palette, selector);
-            return 0;
-        });
+        [&](Host& host) { require(color) = interface_color(host.options().palette, selector); });
 }
 
 constexpr AEGP_PanelSuite1 panels{RegisterCreatePanelHook, ToggleVisibility, SetTitle};

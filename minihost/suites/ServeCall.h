@@ -7,6 +7,7 @@
 
 #include <exception>
 #include <string>
+#include <type_traits>
 
 namespace minihost {
 
@@ -18,7 +19,7 @@ Type& require(Type* pointer) {
 }
 
 // `describe` writes the arguments to a CallArguments; `body` works on a Host and returns the
-// result. Both may throw.
+// result, or nothing for success. Both may throw.
 template <typename Describe, typename Body>
 A_Err serve_call(const CallName& name, const Describe& describe, const Body& body) noexcept {
     Host* host = Host::current();
@@ -36,7 +37,12 @@ A_Err serve_call(const CallName& name, const Describe& describe, const Body& bod
             result = *planned;
         } else {
             try {
-                result = body(*host);
+                if constexpr (std::is_void_v<decltype(body(*host))>) {
+                    body(*host);
+                    result = A_Err_NONE;
+                } else {
+                    result = body(*host);
+                }
             } catch (const Misuse& misuse) {
                 host->report_misuse(name, misuse);
                 result = misuse_error;
@@ -49,6 +55,13 @@ A_Err serve_call(const CallName& name, const Describe& describe, const Body& bod
     } catch (...) {
         return host_error; // not even a message could be made
     }
+}
+
+// For a call without arguments to log.
+template <typename Body>
+A_Err serve_call(const CallName& name, const Body& body) noexcept {
+    return serve_call(
+        name, [](CallArguments&) {}, body);
 }
 
 } // namespace minihost

@@ -37,10 +37,7 @@ A_Err GetNewLayerStream(AEGP_PluginID, AEGP_LayerH handle, AEGP_LayerStream numb
 A_Err DisposeStream(AEGP_StreamRefH stream) {
     return serve_call(
         stream_call("DisposeStream"), [&](CallArguments& it) { it.stream(stream); },
-        [&](Host& host) -> A_Err {
-            host.handles.close(stream);
-            return 0;
-        });
+        [&](Host& host) { host.handles.close(stream); });
 }
 
 A_Err SetStreamValue(AEGP_PluginID, AEGP_StreamRefH handle, AEGP_StreamValue* value) {
