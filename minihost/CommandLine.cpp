@@ -41,52 +41,56 @@ std::string without_words() {
     return names;
 }
 
+// Arguments that become HostOptions.
+struct HostArguments {
+    std::vector<std::string> failures, without, misbehaviours;
+    std::string palette = "dark";
+};
+
 // The options that all verbs but `check` have.
-void add_options(CLI::App& verb, Request& request, std::vector<std::string>& failures,
-                 std::vector<std::string>& without, std::vector<std::string>& misbehaviours,
-                 std::string& palette) {
+void add_options(CLI::App& verb, Request& request, HostArguments& host) {
     verb.add_option("SCENE", request.scene, "the scene file")->required();
     verb.add_option("--plugin", request.plugin,
                     "the module to load (default: the one beside this program)")
         ->type_name("FILE");
-    verb.add_option("--out", request.out, "write the scene as it is at the end")->type_name("FILE");
+    verb.add_option("--out", request.out, "write the final scene")->type_name("FILE");
     verb.add_option("--preview", request.preview, preview_help)->type_name("FILE");
     verb.add_option("--panel", request.panel, "picture of the dialog; .png")->type_name("FILE");
     verb.add_option("--scale", request.scale, "pixels per point in pictures (default 2)")
         ->type_name("N");
-    verb.add_option("--palette", palette, "the host's interface colours: dark (default), light")
+    verb.add_option("--palette", host.palette,
+                    "the host's interface colours: dark (default), light")
         ->type_name("NAME");
-    verb.add_option("--calls", request.calls,
-                    "every call that the plug-in made of the host, one JSON object a line")
+    verb.add_option("--calls", request.calls, "log of the plug-in's calls, one JSON object a line")
         ->type_name("FILE");
-    verb.add_option("--without", without, "a host that lacks it: " + without_words())
+    verb.add_option("--without", host.without, "a host without it, one of: " + without_words())
         ->type_name("WHAT")
         ->allow_extra_args(false);
-    verb.add_option("--fail", failures,
+    verb.add_option("--fail", host.failures,
                     "the K-th call (default 1) of that name returns CODE (default 4)")
         ->type_name("SUITE.CALL[:K[:CODE]]")
         ->allow_extra_args(false);
-    verb.add_option("--misbehave", misbehaviours,
-                    "a host whose K-th answer of a kind, or every one, is nonsense, or whose scene "
-                    "changes before the K-th call; see below")
+    verb.add_option("--misbehave", host.misbehaviours,
+                    "a host that corrupts the K-th result of a kind, or every one, or changes its "
+                    "scene before the K-th call; see below")
         ->type_name("WHAT[:K]")
         ->allow_extra_args(false);
 }
 
 void add_check_options(CLI::App& verb, Request& request) {
     CheckOptions& check = request.check;
-    verb.add_option("SCENE", request.scene, "the scene file (default: one that is built in)");
+    verb.add_option("SCENE", request.scene, "the scene file (default: a built-in one)");
     verb.add_option("--plugin", request.plugin,
                     "the module to check (default: the one beside this program)")
         ->type_name("FILE");
-    verb.add_flag("--list", check.list, "print the checks and what each promises, and do nothing");
-    verb.add_option("--only", check.only, "this check and no other; may come several times")
+    verb.add_flag("--list", check.list, "print the checks and exit");
+    verb.add_option("--only", check.only, "run only this check; may be repeated")
         ->type_name("ID")
         ->allow_extra_args(false);
-    verb.add_option("--level", check.level, "how hard, from 1 to 10 (default 5)")
+    verb.add_option("--level", check.level, "thoroughness from 1 to 10 (default 5)")
         ->check(CLI::Range(1, 10))
         ->type_name("N");
-    verb.add_option("--seed", check.seed, "of what is random (default 1)")->type_name("N");
+    verb.add_option("--seed", check.seed, "of the random users (default 1)")->type_name("N");
     verb.add_option("--json", check.json, "write a report")->type_name("FILE");
 }
 
@@ -111,29 +115,28 @@ void check_window(Request& request) {
 }
 
 // Checks that the library does not do. Throws std::invalid_argument.
-void check(Request& request, const std::vector<std::string>& failures,
-           const std::vector<std::string>& without, const std::vector<std::string>& misbehaviours,
-           const std::string& palette) {
+void check(Request& request, const HostArguments& host) {
     for (const std::string& text : request.sets)
         if (text.find('=') == std::string::npos || text[0] == '=')
             throw std::invalid_argument("--set: \"" + text + "\" is not NAME=VALUE");
-    for (const std::string& text : failures) {
+    for (const std::string& text : host.failures) {
         request.host.failures.push_back(parse_failure(text));
         if (!is_host_call(request.host.failures.back().call))
             throw std::invalid_argument("\"" + text + "\": the host has no such call (one is \"" +
                                         "AEGP Stream Suite.SetStreamValue\")");
     }
-    for (const std::string& text : misbehaviours)
+    for (const std::string& text : host.misbehaviours)
         request.host.misbehaviours.push_back(parse_misbehaviour(text));
-    for (const std::string& word : without) {
+    for (const std::string& word : host.without) {
         if (!is_without_word(word))
             throw std::invalid_argument("--without: \"" + word + "\" is none of " +
                                         without_words());
         request.host.without.insert(word);
     }
-    const auto colors = palette_of_name(palette);
+    const auto colors = palette_of_name(host.palette);
     if (!colors)
-        throw std::invalid_argument("--palette: \"" + palette + "\" is neither dark nor light");
+        throw std::invalid_argument("--palette: \"" + host.palette +
+                                    "\" is neither dark nor light");
     request.host.palette = *colors;
     if (!(request.scale >= least_preview_scale && request.scale <= greatest_preview_scale))
         throw std::invalid_argument("--scale must be from 0.1 to 16");
@@ -150,11 +153,10 @@ void check(Request& request, const std::vector<std::string>& failures,
 
 ParsedCommandLine parse_command_line(int count, const char* const* arguments) {
     Request request;
-    std::vector<std::string> failures, without, misbehaviours;
-    std::string palette = "dark";
+    HostArguments host;
     CLI::App app(
-        "A small host for compositing plug-ins: it loads one, serves it a scene, and plays "
-        "what a user would do.",
+        "A small host for compositing plug-ins: it loads one, gives it a scene and acts as its "
+        "user.",
         "minihost");
     app.set_version_flag("--version", "minihost " MINIHOST_VERSION);
     app.require_subcommand(1);
@@ -162,11 +164,11 @@ ParsedCommandLine parse_command_line(int count, const char* const* arguments) {
     CLI::App* apply = app.add_subcommand(
         "apply", "Opens the dialog, sets controls, presses Apply, makes one idle call");
     CLI::App* run = app.add_subcommand("run", "Plays a file of actions");
-    add_options(*apply, request, failures, without, misbehaviours, palette);
-    apply->add_option("--set", request.sets, "set a control before applying; may come often")
+    add_options(*apply, request, host);
+    apply->add_option("--set", request.sets, "set a control before applying; may be repeated")
         ->type_name("NAME=VALUE")
         ->allow_extra_args(false);
-    add_options(*run, request, failures, without, misbehaviours, palette);
+    add_options(*run, request, host);
     run->add_option("ACTIONS", request.actions, "the file of actions; \"-\": standard input")
         ->required();
     apply->footer(misbehaviour_help());
@@ -174,12 +176,12 @@ ParsedCommandLine parse_command_line(int count, const char* const* arguments) {
     CLI::App* check_verb = app.add_subcommand("check", "Checks the plug-in and reports what fails");
     add_check_options(*check_verb, request);
     CLI::App* show = app.add_subcommand("show", "Opens a window in which the plug-in is used");
-    add_options(*show, request, failures, without, misbehaviours, palette);
+    add_options(*show, request, host);
     show->get_option("--scale")->description("pixels per point of the screen (default: its own)");
     show->add_option("--window", request.window_size,
-                     "its size in points (default 1280x800, or what the screen has room for)")
+                     "its size in points (default 1280x800, or as large as the screen)")
         ->type_name("WIDTHxHEIGHT");
-    show->add_option("--frames", request.frames, "ends after N drawn frames")->type_name("N");
+    show->add_option("--frames", request.frames, "exit after N frames")->type_name("N");
     show->add_option("--screenshot", request.screenshot, "picture of the last frame; .png")
         ->type_name("FILE");
     show->footer(misbehaviour_help());
@@ -190,7 +192,7 @@ ParsedCommandLine parse_command_line(int count, const char* const* arguments) {
         if (check_verb->parsed()) request.verb = Verb::Check;
         request.has_scale = show->count("--scale") > 0;
         check_window(request);
-        check(request, failures, without, misbehaviours, palette);
+        check(request, host);
     } catch (const CLI::ParseError& error) {
         return {std::nullopt, app.exit(error) == 0 ? 0 : 2};
     } catch (const std::invalid_argument& error) {

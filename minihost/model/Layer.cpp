@@ -71,18 +71,10 @@ std::optional<LayerKind> layer_kind(std::string_view name) {
 }
 
 std::optional<Stream> stream_of_number(int number) {
-    switch (number) {
-    case 0:
-    case 1:
-    case 2:
-    case 3:
-    case 8:
-    case 9:
-    case 10:
-        return static_cast<Stream>(number);
-    default:
-        return std::nullopt;
-    }
+    for (const KeyedStream& it : keyed_streams)
+        if (static_cast<int>(it.stream) == number) return it.stream;
+    if (number == static_cast<int>(Stream::AnchorPoint)) return Stream::AnchorPoint;
+    return std::nullopt;
 }
 
 int dimensions(Stream stream) {

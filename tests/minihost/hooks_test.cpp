@@ -111,7 +111,7 @@ TEST_F(HookedHost, MakesAPanelOnceAndThenTogglesIt) {
     EXPECT_FALSE(host.close_panels());
     calls.clear();
     host.choose(5001);
-    EXPECT_THAT(calls, ElementsAre("panel", "sizes", "command")) << "made anew";
+    EXPECT_THAT(calls, ElementsAre("panel", "sizes", "command")) << "a new panel";
 }
 
 TEST_F(HookedHost, SurvivesHooksThatFailThrowOrNeverEnd) {

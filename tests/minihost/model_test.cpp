@@ -206,7 +206,7 @@ TEST(Document, HasTheSameStateAfterUndoAndRedo) {
     const std::uint64_t renamed = document.state();
     EXPECT_EQ(changed(), std::pair(true, true));
     document.undo();
-    EXPECT_EQ(changed(), std::pair(false, true)) << "as it was, but drawn anew";
+    EXPECT_EQ(changed(), std::pair(false, true)) << "the same state, but drawn again";
     document.redo();
     EXPECT_EQ(document.state(), renamed);
     document.undo();

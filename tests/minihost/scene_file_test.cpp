@@ -188,7 +188,7 @@ TEST(SceneWriter, WritesWhatReadsBackExactly) {
     EXPECT_THAT(*footage.keys_of(Stream::Position),
                 ElementsAre(Keyframe{-1, {1, 2, 3}}, Keyframe{0.1, {4, 5, 6}}));
     EXPECT_THAT(*footage.keys_of(Stream::RotationY), ElementsAre(Keyframe{1.5, {7.25, 0, 0}}));
-    EXPECT_EQ(scene.layer_at(2).size, (Size{5, 6})); // for pictures alone
+    EXPECT_EQ(scene.layer_at(2).size, (Size{5, 6})); // for previews only
     EXPECT_EQ(scene.layer_at(2).transform.anchor_point, (Vec3{0, 0, 0}));
     EXPECT_THAT(scene.selection(), ElementsAre(0u, scene.layer_at(3).id, footage.id, footage.id));
     EXPECT_THAT(again.undo_names(), ElementsAre("One", "Two"));
