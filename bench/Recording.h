@@ -64,7 +64,7 @@ class Replay {
 
     // To be called before each run, from outside of the host's callbacks.
     void prepare();
-    // Makes every call. To be called inside Host::visit.
+    // Makes every call. To be called inside Host::enter.
     void run();
     // Throws std::runtime_error when calls gave other results than when they were recorded, or the
     // host was misused: what was measured is not the same then.

@@ -2,6 +2,7 @@
 
 #include "bench/Recording.h"
 #include "bench/Views.h"
+#include "minihost/suites/BasicSuite.h"
 
 #include <ctime>
 #include <dlfcn.h>
@@ -67,21 +68,22 @@ Rig::Rig(minihost::Scene scene, Plugin plugin)
           [this] { return _driver->make_panel(); }) {
     if (plugin == Plugin::none) return;
     visit([&] {
-        check(_host.enter(plugin == Plugin::recorded ? enter_by_way_of_recording
-                                                     : entry_of_plugin()));
+        check(_host.call_entry(plugin == Plugin::recorded ? enter_by_way_of_recording
+                                                          : entry_of_plugin(),
+                               minihost::basic_suite));
     });
 }
 
 Rig::~Rig() {
     try {
-        visit([&] { _host.bury(); });
+        visit([&] { _host.shut_down(); });
     } catch (const std::exception&) {
         // It was told of when it happened, or the measuring is over.
     }
 }
 
 void Rig::visit(const std::function<void()>& body) {
-    _driver->with_pool([&] { _host.visit(body); });
+    _driver->with_pool([&] { _host.enter(body); });
 }
 
 void Rig::check(A_Err error) {
@@ -98,7 +100,7 @@ void Rig::open() {
 }
 
 void Rig::close_panel() {
-    visit([&] { _host.panels.close(_host); });
+    visit([&] { _host.close_panels(); });
 }
 
 const minihost::PanelView& Rig::panel() const {

@@ -45,22 +45,22 @@ class NullDialogDriver : public DialogDriver {
     void with_pool(const std::function<void()>& body) override { body(); }
 };
 
-bool writes_files(const Step& step) {
+bool writes_files(const ParsedAction& step) {
     const std::string_view name = step.action->name;
     return name == "save" || name == "preview" || name == "panel";
 }
 
-void carry_out(const std::vector<Step>& steps) {
+void carry_out(const std::vector<ParsedAction>& steps) {
     std::ostringstream out;
     Session session(parse_scene(R"({"format": "minihost scene 1", "layers": [
                         {"name": "A", "kind": "shape", "three_d": true},
                         {"name": "B C", "kind": "camera"}], "selection": [0]})",
                                 "small"),
                     {}, std::make_unique<NullDialogDriver>(), out, [](const std::string&) {});
-    for (const Step& step : steps) {
+    for (const ParsedAction& step : steps) {
         if (writes_files(step)) continue;
         try {
-            run_step(session, step);
+            run_action(session, step);
         } catch (const ActionError&) {
         }
     }
@@ -71,8 +71,8 @@ void carry_out(const std::vector<Step>& steps) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     try {
-        const std::vector<Step> steps = parse_actions(text, "input");
-        for (const Step& step : steps) {
+        const std::vector<ParsedAction> steps = parse_actions(text, "input");
+        for (const ParsedAction& step : steps) {
             const int count = static_cast<int>(step.arguments.size());
             fuzz::require(count >= step.action->least &&
                               (step.action->greatest < 0 || count <= step.action->greatest),

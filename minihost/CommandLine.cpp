@@ -14,7 +14,6 @@ namespace minihost {
 
 namespace {
 
-// The actions, for the help.
 std::string action_help() {
     std::string text = "Actions, one a line:\n";
     for (const Action& action : actions()) {
@@ -25,10 +24,9 @@ std::string action_help() {
     return text;
 }
 
-// What a host may do wrong, for the help.
-std::string misdeed_help() {
+std::string misbehaviour_help() {
     std::string text = "With --misbehave the host\n";
-    for (const Misdeed& it : misdeeds()) {
+    for (const Misbehaviour& it : misbehaviours()) {
         std::string head = std::string("  ") + it.word;
         head.resize(26, ' ');
         text += head + it.sentence + "\n";
@@ -36,63 +34,66 @@ std::string misdeed_help() {
     return text;
 }
 
-std::string missing_part_names() {
+std::string without_words() {
     std::string names;
     for (const Suite& suite : suites())
         if (suite.without) names += (names.empty() ? "" : ", ") + std::string(suite.without);
     return names;
 }
 
-// The options that every verb has.
-void add_options(CLI::App& verb, Request& request, std::vector<std::string>& failures,
-                 std::vector<std::string>& without, std::vector<std::string>& misdeeds,
-                 std::string& palette) {
+// Arguments that become HostOptions.
+struct HostArguments {
+    std::vector<std::string> failures, without, misbehaviours;
+    std::string palette = "dark";
+};
+
+// The options that all verbs but `check` have.
+void add_options(CLI::App& verb, Request& request, HostArguments& host) {
     verb.add_option("SCENE", request.scene, "the scene file")->required();
     verb.add_option("--plugin", request.plugin,
                     "the module to load (default: the one beside this program)")
         ->type_name("FILE");
-    verb.add_option("--out", request.out, "write the scene as it is at the end")->type_name("FILE");
+    verb.add_option("--out", request.out, "write the final scene")->type_name("FILE");
     verb.add_option("--preview", request.preview, preview_help)->type_name("FILE");
     verb.add_option("--panel", request.panel, "picture of the dialog; .png")->type_name("FILE");
     verb.add_option("--scale", request.scale, "pixels per point in pictures (default 2)")
         ->type_name("N");
-    verb.add_option("--palette", palette, "the host's interface colours: dark (default), light")
+    verb.add_option("--palette", host.palette,
+                    "the host's interface colours: dark (default), light")
         ->type_name("NAME");
-    verb.add_option("--calls", request.calls,
-                    "every call that the plug-in made of the host, one JSON object a line")
+    verb.add_option("--calls", request.calls, "log of the plug-in's calls, one JSON object a line")
         ->type_name("FILE");
-    verb.add_option("--without", without, "a host that lacks it: " + missing_part_names())
+    verb.add_option("--without", host.without, "a host without it, one of: " + without_words())
         ->type_name("WHAT")
         ->allow_extra_args(false);
-    verb.add_option("--fail", failures,
+    verb.add_option("--fail", host.failures,
                     "the K-th call (default 1) of that name returns CODE (default 4)")
         ->type_name("SUITE.CALL[:K[:CODE]]")
         ->allow_extra_args(false);
-    verb.add_option("--misbehave", misdeeds,
-                    "a host whose K-th answer of a kind, or every one, is nonsense, or whose scene "
-                    "changes before the K-th call; see below")
+    verb.add_option("--misbehave", host.misbehaviours,
+                    "a host that corrupts the K-th result of a kind, or every one, or changes its "
+                    "scene before the K-th call; see below")
         ->type_name("WHAT[:K]")
         ->allow_extra_args(false);
 }
 
 void add_check_options(CLI::App& verb, Request& request) {
     CheckOptions& check = request.check;
-    verb.add_option("SCENE", request.scene, "the scene file (default: one that is built in)");
+    verb.add_option("SCENE", request.scene, "the scene file (default: a built-in one)");
     verb.add_option("--plugin", request.plugin,
                     "the module to check (default: the one beside this program)")
         ->type_name("FILE");
-    verb.add_flag("--list", check.list, "print the checks and what each promises, and do nothing");
-    verb.add_option("--only", check.only, "this check and no other; may come several times")
+    verb.add_flag("--list", check.list, "print the checks and exit");
+    verb.add_option("--only", check.only, "run only this check; may be repeated")
         ->type_name("ID")
         ->allow_extra_args(false);
-    verb.add_option("--level", check.level, "how hard, from 1 to 10 (default 5)")
+    verb.add_option("--level", check.level, "thoroughness from 1 to 10 (default 5)")
         ->check(CLI::Range(1, 10))
         ->type_name("N");
-    verb.add_option("--seed", check.seed, "of what is random (default 1)")->type_name("N");
+    verb.add_option("--seed", check.seed, "of the random users (default 1)")->type_name("N");
     verb.add_option("--json", check.json, "write a report")->type_name("FILE");
 }
 
-// "1280x800".
 void check_window(Request& request) {
     if (!request.window_size.empty()) {
         char rest = 0;
@@ -107,30 +108,35 @@ void check_window(Request& request) {
     if (!request.screenshot.empty() && extension_of(request.screenshot) != ".png")
         throw std::invalid_argument("--screenshot: " + request.screenshot +
                                     ": a screenshot is written as .png");
-    // A window of pixels that nobody has is refused by the desktop alone after a long time.
+    // The desktop takes a long time to refuse such a window.
     if (request.verb == Verb::Show && request.has_scale &&
         !(request.scale >= 0.5 && request.scale <= 4))
         throw std::invalid_argument("--scale of a window must be from 0.5 to 4");
 }
 
-// What the library cannot check by itself. Throws std::invalid_argument.
-void check(Request& request, const std::vector<std::string>& failures,
-           const std::vector<std::string>& without, const std::vector<std::string>& misdeeds,
-           const std::string& palette) {
+// Checks that the library does not do. Throws std::invalid_argument.
+void check(Request& request, const HostArguments& host) {
     for (const std::string& text : request.sets)
         if (text.find('=') == std::string::npos || text[0] == '=')
             throw std::invalid_argument("--set: \"" + text + "\" is not NAME=VALUE");
-    for (const std::string& text : failures) request.host.failures.push_back(parse_failure(text));
-    for (const std::string& text : misdeeds) request.host.misdeeds.push_back(parse_misdeed(text));
-    for (const std::string& word : without) {
-        if (!is_missing_part(word))
+    for (const std::string& text : host.failures) {
+        request.host.failures.push_back(parse_failure(text));
+        if (!is_host_call(request.host.failures.back().call))
+            throw std::invalid_argument("\"" + text + "\": the host has no such call (one is \"" +
+                                        "AEGP Stream Suite.SetStreamValue\")");
+    }
+    for (const std::string& text : host.misbehaviours)
+        request.host.misbehaviours.push_back(parse_misbehaviour(text));
+    for (const std::string& word : host.without) {
+        if (!is_without_word(word))
             throw std::invalid_argument("--without: \"" + word + "\" is none of " +
-                                        missing_part_names());
+                                        without_words());
         request.host.without.insert(word);
     }
-    const auto colors = palette_of_name(palette);
+    const auto colors = palette_of_name(host.palette);
     if (!colors)
-        throw std::invalid_argument("--palette: \"" + palette + "\" is neither dark nor light");
+        throw std::invalid_argument("--palette: \"" + host.palette +
+                                    "\" is neither dark nor light");
     request.host.palette = *colors;
     if (!(request.scale >= least_preview_scale && request.scale <= greatest_preview_scale))
         throw std::invalid_argument("--scale must be from 0.1 to 16");
@@ -147,11 +153,10 @@ void check(Request& request, const std::vector<std::string>& failures,
 
 ParsedCommandLine parse_command_line(int count, const char* const* arguments) {
     Request request;
-    std::vector<std::string> failures, without, misdeeds;
-    std::string palette = "dark";
+    HostArguments host;
     CLI::App app(
-        "A small host for compositing plug-ins: it loads one, serves it a scene, and plays "
-        "what a user would do.",
+        "A small host for compositing plug-ins: it loads one, gives it a scene and acts as its "
+        "user.",
         "minihost");
     app.set_version_flag("--version", "minihost " MINIHOST_VERSION);
     app.require_subcommand(1);
@@ -159,28 +164,27 @@ ParsedCommandLine parse_command_line(int count, const char* const* arguments) {
     CLI::App* apply = app.add_subcommand(
         "apply", "Opens the dialog, sets controls, presses Apply, makes one idle call");
     CLI::App* run = app.add_subcommand("run", "Plays a file of actions");
-    add_options(*apply, request, failures, without, misdeeds, palette);
-    apply->add_option("--set", request.sets, "set a control before applying; may come often")
+    add_options(*apply, request, host);
+    apply->add_option("--set", request.sets, "set a control before applying; may be repeated")
         ->type_name("NAME=VALUE")
         ->allow_extra_args(false);
-    add_options(*run, request, failures, without, misdeeds, palette);
+    add_options(*run, request, host);
     run->add_option("ACTIONS", request.actions, "the file of actions; \"-\": standard input")
         ->required();
-    apply->footer(misdeed_help());
-    run->footer(action_help() + "\n" + misdeed_help());
-    CLI::App* check_verb =
-        app.add_subcommand("check", "Puts the plug-in through its paces and tells what fails");
+    apply->footer(misbehaviour_help());
+    run->footer(action_help() + "\n" + misbehaviour_help());
+    CLI::App* check_verb = app.add_subcommand("check", "Checks the plug-in and reports what fails");
     add_check_options(*check_verb, request);
     CLI::App* show = app.add_subcommand("show", "Opens a window in which the plug-in is used");
-    add_options(*show, request, failures, without, misdeeds, palette);
+    add_options(*show, request, host);
     show->get_option("--scale")->description("pixels per point of the screen (default: its own)");
     show->add_option("--window", request.window_size,
-                     "its size in points (default 1280x800, or what the screen has room for)")
+                     "its size in points (default 1280x800, or as large as the screen)")
         ->type_name("WIDTHxHEIGHT");
-    show->add_option("--frames", request.frames, "ends after N drawn frames")->type_name("N");
+    show->add_option("--frames", request.frames, "exit after N frames")->type_name("N");
     show->add_option("--screenshot", request.screenshot, "picture of the last frame; .png")
         ->type_name("FILE");
-    show->footer(misdeed_help());
+    show->footer(misbehaviour_help());
     try {
         app.parse(count, const_cast<char**>(arguments));
         if (run->parsed()) request.verb = Verb::Run;
@@ -188,7 +192,7 @@ ParsedCommandLine parse_command_line(int count, const char* const* arguments) {
         if (check_verb->parsed()) request.verb = Verb::Check;
         request.has_scale = show->count("--scale") > 0;
         check_window(request);
-        check(request, failures, without, misdeeds, palette);
+        check(request, host);
     } catch (const CLI::ParseError& error) {
         return {std::nullopt, app.exit(error) == 0 ? 0 : 2};
     } catch (const std::invalid_argument& error) {

@@ -1,8 +1,8 @@
-// The command line: what is asked for, checked as far as it can be before anything is done.
+// The command line, parsed and checked.
 
 #pragma once
 
-#include "minihost/check/Runner.h"
+#include "minihost/check/CheckRunner.h"
 #include "minihost/suites/Host.h"
 
 #include <optional>
@@ -18,19 +18,18 @@ struct Request {
     std::string scene;
     std::string actions;                            // a file of them; "-" is standard input
     std::vector<std::string> sets;                  // NAME=VALUE
-    std::string plugin, out, preview, panel, calls; // files; empty when not asked for
+    std::string plugin, out, preview, panel, calls; // files; empty if not given
     double scale = 2;
-    bool has_scale = false;  // it was told
+    bool has_scale = false;  // whether --scale was given
     std::string screenshot;  // of the window
-    int frames = 0;          // after which the window closes; 0: when the user quits
+    int frames = 0;          // the window closes after so many; 0: when the user quits
     std::string window_size; // "WIDTHxHEIGHT" in points
     double window_width = 0, window_height = 0; // 0: not given
     HostOptions host;
     CheckOptions check;
 };
 
-// What was asked for, or the exit status when nothing is left to do: help was printed (0), or the
-// arguments are bad and it was said why (2).
+// The request, or an exit status: help was printed (0), or an error message for bad arguments (2).
 struct ParsedCommandLine {
     std::optional<Request> request;
     int status = 0;

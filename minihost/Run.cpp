@@ -17,8 +17,8 @@ namespace {
 
 constexpr int bad_input_status = 2, failure_status = 1;
 
-// The module beside this program, as it is built, or else in the folder where it is installed.
-std::string usual_plugin() {
+// The module beside this program, as it is built, or else where it is installed.
+std::string default_plugin() {
     std::error_code unknown;
     const auto folder = std::filesystem::read_symlink("/proc/self/exe", unknown).parent_path();
     const auto beside = folder / "Tamborel.plugin";
@@ -26,18 +26,19 @@ std::string usual_plugin() {
     return (folder / MINIHOST_MODULE_DIR / "Tamborel.plugin").lexically_normal().string();
 }
 
-std::vector<Step> steps_of(const Request& request) {
+std::vector<ParsedAction> actions_of(const Request& request) {
     if (request.verb == Verb::Run) {
         if (request.actions != "-")
             return parse_actions(read_file(request.actions), request.actions);
         const std::string text{std::istreambuf_iterator<char>(std::cin), {}};
         return parse_actions(text, "standard input");
     }
-    std::vector<Step> steps{make_step({"open"}, "apply")};
-    for (const std::string& text : request.sets) steps.push_back(make_step({"set", text}, "apply"));
-    steps.push_back(make_step({"click", "apply"}, "apply"));
-    steps.push_back(make_step({"idle"}, "apply"));
-    return steps;
+    std::vector<ParsedAction> actions{parse_action({"open"}, "apply")};
+    for (const std::string& text : request.sets)
+        actions.push_back(parse_action({"set", text}, "apply"));
+    actions.push_back(parse_action({"click", "apply"}, "apply"));
+    actions.push_back(parse_action({"idle"}, "apply"));
+    return actions;
 }
 
 MainWindowOptions window_options(const Request& request) {
@@ -52,9 +53,10 @@ MainWindowOptions window_options(const Request& request) {
     return options;
 }
 
-class Runner {
+// Loads the plug-in into a session, uses it, and writes the outputs.
+class SessionRunner {
   public:
-    Runner(const Request& request, Scene scene, std::unique_ptr<DialogDriver> driver)
+    SessionRunner(const Request& request, Scene scene, std::unique_ptr<DialogDriver> driver)
         : _request(request),
           _session(std::move(scene), request.host, std::move(driver), std::cout,
                    [this](const std::string& line) { report(line); }) {
@@ -62,16 +64,16 @@ class Runner {
         _session.host().on_call = [this](std::size_t calls) { _progress.show(calls, "calls"); };
     }
 
-    int run(const std::vector<Step>& steps) {
+    int run(const std::vector<ParsedAction>& actions) {
         return run([&](Session& session) {
-            for (const Step& step : steps) {
-                _progress.start(step.action->name);
-                run_step(session, step);
+            for (const ParsedAction& parsed : actions) {
+                _progress.start(parsed.action->name);
+                run_action(session, parsed);
             }
         });
     }
 
-    // Does `body` with the plug-in loaded.
+    // Runs `body` with the plug-in loaded.
     int run(const std::function<void(Session&)>& body) {
         attempt([&] {
             if (_request.calls.empty()) return;
@@ -80,7 +82,7 @@ class Runner {
         });
         if (_failed) return failure_status;
         attempt([&] {
-            _session.load(_request.plugin.empty() ? usual_plugin() : _request.plugin);
+            _session.load(_request.plugin.empty() ? default_plugin() : _request.plugin);
             body(_session);
             _session.settle();
         });
@@ -95,7 +97,7 @@ class Runner {
         std::cerr << "minihost: " << line << std::endl;
     }
 
-    // Reports what goes wrong and goes on.
+    // Reports an error and goes on.
     template <typename Body>
     void attempt(const Body& body) {
         try {
@@ -123,14 +125,14 @@ class Runner {
 };
 
 int show(const Request& request, Scene scene) {
-    std::optional<MainWindow> window; // stays until the plug-in is unloaded
+    std::optional<MainWindow> window; // outlives the plug-in
     try {
         window.emplace(window_options(request));
     } catch (const std::exception& error) {
         std::cerr << "minihost: " << error.what() << std::endl;
         return failure_status;
     }
-    return Runner(request, std::move(scene), window->make_dialog_driver())
+    return SessionRunner(request, std::move(scene), window->make_dialog_driver())
         .run([&](Session& session) { window->run(session); });
 }
 
@@ -139,7 +141,7 @@ int show(const Request& request, Scene scene) {
 int run(const Request& request) {
     try {
         if (request.verb == Verb::Check) {
-            const std::string plugin = request.plugin.empty() ? usual_plugin() : request.plugin;
+            const std::string plugin = request.plugin.empty() ? default_plugin() : request.plugin;
             return run_checks(plugin, request.scene, request.check) ? 0 : failure_status;
         }
         Progress progress;
@@ -148,12 +150,12 @@ int run(const Request& request) {
             read_scene(request.scene, [&](std::size_t layers) { progress.show(layers, "layers"); });
         progress.stop();
         if (request.verb == Verb::Show) return show(request, std::move(scene));
-        const std::vector<Step> steps = steps_of(request);
-        return Runner(request, std::move(scene), make_dialog_driver()).run(steps);
+        const std::vector<ParsedAction> actions = actions_of(request);
+        return SessionRunner(request, std::move(scene), make_dialog_driver()).run(actions);
     } catch (const OutputError& error) {
         std::cerr << "minihost: " << error.what() << std::endl;
         return failure_status;
-    } catch (const std::exception& error) { // what was read, or memory
+    } catch (const std::exception& error) { // bad input, or no memory
         std::cerr << "minihost: " << error.what() << std::endl;
         return bad_input_status;
     }

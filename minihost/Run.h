@@ -1,4 +1,4 @@
-// A request, carried out from the first file read to the last one written.
+// Carries out a request, from reading the first file to writing the last one.
 
 #pragma once
 
@@ -6,9 +6,9 @@
 
 namespace minihost {
 
-// The exit status: 0 done; 1 the plug-in or the host reported an error, or an action could not be
-// carried out; 2 a bad scene, or bad actions. Messages go to standard error, what actions print to
-// standard output.
+// Returns the exit status: 0 for success; 1 if the plug-in or the host reported an error or an
+// action was not possible; 2 for a bad scene or bad actions. Messages go to standard error, the
+// output of actions to standard output.
 int run(const Request& request);
 
 } // namespace minihost

@@ -1,4 +1,4 @@
-// minihost: a small host that loads a plug-in, serves it a scene, and plays what a user would do.
+// minihost: a small host that loads a plug-in, gives it a scene and acts as its user.
 
 #include "minihost/Run.h"
 

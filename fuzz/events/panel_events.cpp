@@ -51,7 +51,7 @@ void do_one(Session& session, fuzz::Bytes& bytes) {
         return;
     }
     try {
-        run_step(session, make_step(deeds[what % std::size(deeds)], "input"));
+        run_action(session, parse_action(deeds[what % std::size(deeds)], "input"));
     } catch (const ActionError&) { // a disabled control, no such layer
     }
 }
@@ -67,7 +67,7 @@ void fuzz::try_input(Bytes& bytes) {
                         if (!line.ends_with("a layer that is no more")) reports += line + "\n";
                     });
     session.load(PLUGIN);
-    run_step(session, make_step({"open"}, "input"));
+    run_action(session, parse_action({"open"}, "input"));
     while (!bytes.empty() && session.host().document.scene().layer_count() <= most_layers)
         do_one(session, bytes);
     session.enter(let_go);

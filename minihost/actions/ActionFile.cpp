@@ -8,8 +8,8 @@ bool is_blank(char c) {
     return c == ' ' || c == '\t' || c == '\r';
 }
 
-// The part of a word between quotes; `at` is after the opening one, and is left after the closing.
-std::string quoted(std::string_view line, std::size_t& at, const std::string& place) {
+// The text between quotes. `at` moves from behind the opening quote to behind the closing one.
+std::string take_quoted(std::string_view line, std::size_t& at, const std::string& location) {
     std::string text;
     for (; at < line.size(); ++at) {
         if (line[at] == '"') {
@@ -20,12 +20,12 @@ std::string quoted(std::string_view line, std::size_t& at, const std::string& pl
                              (line[at + 1] == '"' || line[at + 1] == '\\');
         text += line[escaped ? ++at : at];
     }
-    throw UsageError(place + ": a quote is not closed");
+    throw UsageError(location + ": a quote is not closed");
 }
 
 } // namespace
 
-Words split_words(std::string_view line, const std::string& place) {
+Words split_words(std::string_view line, const std::string& location) {
     Words words;
     for (std::size_t at = 0; at < line.size();) {
         if (is_blank(line[at])) {
@@ -36,7 +36,7 @@ Words split_words(std::string_view line, const std::string& place) {
         std::string word;
         while (at < line.size() && !is_blank(line[at])) {
             if (line[at] == '"')
-                word += quoted(line, ++at, place);
+                word += take_quoted(line, ++at, location);
             else
                 word += line[at++];
         }
@@ -45,7 +45,7 @@ Words split_words(std::string_view line, const std::string& place) {
     return words;
 }
 
-std::string quoted_word(const std::string& word) {
+std::string quote_word(const std::string& word) {
     std::string text = "\"";
     for (const char c : word) {
         if (c == '"' || c == '\\') text += '\\';
@@ -54,18 +54,18 @@ std::string quoted_word(const std::string& word) {
     return text + '"';
 }
 
-std::vector<Step> parse_actions(std::string_view text, const std::string& file) {
-    std::vector<Step> steps;
+std::vector<ParsedAction> parse_actions(std::string_view text, const std::string& file) {
+    std::vector<ParsedAction> actions;
     for (std::size_t start = 0, line = 1; start < text.size(); ++line) {
         const std::size_t end = std::min(text.find('\n', start), text.size());
-        const std::string place = file + ":" + std::to_string(line);
+        const std::string location = file + ":" + std::to_string(line);
         if (text.substr(start, end - start).find('\0') != std::string_view::npos)
-            throw UsageError(place + ": holds a zero character");
-        const Words words = split_words(text.substr(start, end - start), place);
-        if (!words.empty()) steps.push_back(make_step(words, place));
+            throw UsageError(location + ": holds a zero character");
+        const Words words = split_words(text.substr(start, end - start), location);
+        if (!words.empty()) actions.push_back(parse_action(words, location));
         start = end + 1;
     }
-    return steps;
+    return actions;
 }
 
 } // namespace minihost

@@ -10,15 +10,15 @@
 
 namespace minihost {
 
-// The words of a line. Double quotes hold blanks together, also within a word; inside them \" and
-// \\ stand for the characters. A line from '#' on has no words. Throws UsageError for a quote that
-// is not closed; `place` is where the line stands.
-Words split_words(std::string_view line, const std::string& place);
+// The words of a line, separated by blanks. Double quotes keep blanks in a word; inside them \" and
+// \\ are escapes. A line that begins with '#' has no words. Throws UsageError, with the location,
+// for a quote that is not closed.
+Words split_words(std::string_view line, const std::string& location);
 
-// The word as split_words() reads it back.
-std::string quoted_word(const std::string& word);
+// A word in quotes, as split_words() reads it.
+std::string quote_word(const std::string& word);
 
-// All steps of a text. Throws UsageError with file and line.
-std::vector<Step> parse_actions(std::string_view text, const std::string& file);
+// Throws UsageError with file and line.
+std::vector<ParsedAction> parse_actions(std::string_view text, const std::string& file);
 
 } // namespace minihost

@@ -2,16 +2,15 @@
 
 #include "minihost/actions/EventActions.h"
 #include "minihost/actions/State.h"
+#include "minihost/model/ParseNumber.h"
 
-#include <charconv>
-#include <cmath>
 #include <ostream>
 
 namespace minihost {
 
 namespace {
 
-// --- What actions share
+// --- Helpers
 
 Document& document(Session& session) {
     return session.host().document;
@@ -23,39 +22,34 @@ LayerId layer(Session& session, const std::string& word) {
     const std::vector<const Layer*> layers = scene.layers();
     for (const Layer* it : layers)
         if (it->name == word) return it->id;
-    std::size_t index = 0;
-    const char* end = word.data() + word.size();
-    if (word.size() > 1 && word[0] == '#') {
-        const auto [stop, error] = std::from_chars(word.data() + 1, end, index);
-        if (error == std::errc() && stop == end && index < layers.size()) return layers[index]->id;
-    }
+    if (word.starts_with('#'))
+        if (const auto index = parse_number<std::size_t>(word.substr(1)))
+            if (*index < layers.size()) return layers[*index]->id;
     throw ActionError("there is no layer \"" + word + "\"");
 }
 
 template <typename Number>
-Number number(const std::string& word, Number least, Number greatest) {
-    Number value{};
-    const char* end = word.data() + word.size();
-    const auto [stop, error] = std::from_chars(word.data(), end, value);
-    if (error != std::errc() || stop != end || !(value >= least && value <= greatest))
-        throw ActionError("\"" + word + "\" is no number from " + std::to_string(least) + " to " +
-                          std::to_string(greatest));
-    return value;
+Number number(const std::string& word, Number min, Number max) {
+    const auto value = parse_number<Number>(word);
+    if (!value || !(*value >= min && *value <= max))
+        throw ActionError("\"" + word + "\" is no number from " + std::to_string(min) + " to " +
+                          std::to_string(max));
+    return *value;
 }
 
-// The visible dialog, and the id of a control in it.
-struct Target {
-    Dialog dialog;
+// The panel of the visible dialog, and the id of a control in it.
+struct ControlInDialog {
+    const PanelView* panel;
     int id;
 };
-Target target(Session& session, const std::string& name) {
+ControlInDialog find_control(Session& session, const std::string& name) {
     const Dialog dialog = session.dialog();
     if (!dialog.visible)
         throw ActionError("control '" + name + "': the dialog is not " +
                           (dialog.exists ? "visible" : "there"));
     const auto id = session.control_names().id_of(name);
     if (!id) throw ActionError("there is no control '" + name + "'");
-    return {dialog, *id};
+    return {dialog.panel, *id};
 }
 
 void choose_command(Session& session) {
@@ -82,30 +76,27 @@ void open(Session& session, const Words&) {
 
 void close_panel(Session& session, const Words&) {
     bool closed = false;
-    session.enter([&] { closed = session.host().panels.close(session.host()); });
+    session.enter([&] { closed = session.host().close_panels(); });
     if (!closed) throw ActionError("no panel is open");
 }
 
 void set(Session& session, const Words& words) {
     const std::size_t equals = words[0].find('=');
     const std::string name = words[0].substr(0, equals), value = words[0].substr(equals + 1);
-    const auto [dialog, id] = target(session, name);
-    session.enter([&, id = id, panel = dialog.panel] {
-        session.dialog_driver().set(panel, id, name, value);
-    });
+    const ControlInDialog control = find_control(session, name);
+    session.enter([&] { session.dialog_driver().set(control.panel, control.id, name, value); });
 }
 
 void click(Session& session, const Words& words) {
-    const auto [dialog, id] = target(session, words[0]);
-    session.enter(
-        [&, id = id, panel = dialog.panel] { session.dialog_driver().click(panel, id, words[0]); });
+    const ControlInDialog control = find_control(session, words[0]);
+    session.enter([&] { session.dialog_driver().click(control.panel, control.id, words[0]); });
 }
 
 void answer(Session& session, const Words& words) {
     session.dialog_driver().answer_next_alert(number(words[0], 1, 9));
 }
 
-// What there is to answer was answered before this.
+// Nothing is left to do: posted events are handled before every action.
 void wait(Session&, const Words&) {}
 
 // --- The composition
@@ -132,7 +123,7 @@ void add_camera(Session& session, const Words& words) {
     camera.name = words[0];
     camera.kind = LayerKind::Camera;
     camera.transform.anchor_point = camera.transform.position = composition.middle();
-    // A lens of 50 mm before a film of 36: the composition just fills the picture.
+    // A 50 mm lens and 36 mm film: the composition exactly fills the picture.
     camera.transform.position[2] = -composition.width * 50.0 / 36.0;
     document(session).add_layer(std::move(camera), 0);
 }
@@ -170,7 +161,7 @@ void redo(Session& session, const Words&) {
     if (!document(session).redo()) throw ActionError("there is nothing to do again");
 }
 
-// --- What is to be seen of it
+// --- Output and files
 
 void state(Session& session, const Words&) {
     session.out() << state_line(session) << std::flush;
@@ -194,35 +185,35 @@ constexpr Action table[] = {
     {"idle", "", "Makes one idle call.", 0, 0, idle},
     {"open", "", "Chooses the command unless the dialog is visible, then makes one idle call.", 0,
      0, open},
-    {"close-panel", "", "Disposes of the panel; the next \"menu\" creates it anew.", 0, 0,
+    {"close-panel", "", "Disposes of the panel; the next \"menu\" creates a new one.", 0, 0,
      close_panel},
     {"set", "NAME=VALUE", "Sets a control as a user would.", 1, 1, set},
     {"click", "NAME", "Clicks a control.", 1, 1, click},
     {"mouse", "down|up|move X Y [right] [double] [shift] [control] [option] [command]",
-     "Presses, lets go or moves at a point of the dialog (like the \"rect\" of \"state\").", 3, -1,
+     "Presses, releases or moves the mouse at a point of the dialog (as in \"state\").", 3, -1,
      mouse_action, true},
-    {"wheel", "X Y DX DY", "Turns the wheel at a point of the dialog, in lines.", 4, 4,
+    {"wheel", "X Y DX DY", "Turns the wheel at a point of the dialog, by lines.", 4, 4,
      wheel_action, true},
     {"key", "KEY [shift] [control] [option] [command]",
-     "Strikes a key, by its name (\"return\") or character.", 1, -1, key_action, true},
+     "Presses a key, given by name (\"return\") or character.", 1, -1, key_action, true},
     {"type", "TEXT", "Types a text.", 1, 1, type_action, true},
-    {"wait", "", "Lets mouse, wheel, key and type be answered, as every other action does first.",
+    {"wait", "", "Handles the mouse, wheel, key and type events so far, as any other action does.",
      0, 0, wait},
-    {"select", "LAYER...", "Selects layers, by name or #index, and nothing else.", 1, -1, select},
+    {"select", "LAYER...", "Selects exactly these layers, given by name or #index.", 1, -1, select},
     {"select-all", "", "Selects every layer, the top one first.", 0, 0, select_all},
     {"deselect", "", "Selects nothing.", 0, 0, deselect},
-    {"add-camera", "NAME", "Puts a camera on top of the layers.", 1, 1, add_camera},
+    {"add-camera", "NAME", "Adds a camera as the top layer.", 1, 1, add_camera},
     {"remove", "LAYER", "Removes a layer.", 1, 1, remove},
-    {"rename", "LAYER NAME", "Gives a layer another name.", 2, 2, rename},
-    {"move", "LAYER INDEX", "Moves a layer so that it has this index.", 2, 2, move},
+    {"rename", "LAYER NAME", "Renames a layer.", 2, 2, rename},
+    {"move", "LAYER INDEX", "Moves a layer to this index.", 2, 2, move},
     {"time", "SECONDS", "Sets the composition's current time.", 1, 1, time},
     {"active", "ITEM", "Sets the active item: composition, footage or none.", 1, 1, active},
-    {"undo", "", "Takes one step back.", 0, 0, undo},
-    {"redo", "", "Takes a step forward again.", 0, 0, redo},
+    {"undo", "", "Undoes one step.", 0, 0, undo},
+    {"redo", "", "Redoes one step.", 0, 0, redo},
     {"answer", "N", "Answers the next alert panel with its N-th button.", 1, 1, answer},
     {"state", "", "Prints menu, dialog, controls, selection and steps as one line of JSON.", 0, 0,
      state},
-    {"load", "FILE", "Opens another scene instead; the plug-in and its panel stay.", 1, 1, load},
+    {"load", "FILE", "Opens another scene; the plug-in and its panel stay.", 1, 1, load},
     {"save", "FILE", "Writes the scene.", 1, 1, save},
     {"preview", "FILE", "Writes a picture of the composition (.png, .svg).", 1, 1, preview},
     {"panel", "FILE", "Writes a picture of the dialog (.png).", 1, 1, panel},
@@ -234,31 +225,31 @@ std::span<const Action> actions() {
     return table;
 }
 
-Step make_step(const Words& words, const std::string& place) {
+ParsedAction parse_action(const Words& words, const std::string& location) {
     for (const Action& action : table) {
         if (words.empty() || words[0] != action.name) continue;
         const Words arguments(words.begin() + 1, words.end());
         const int count = static_cast<int>(arguments.size());
-        const bool fits =
-            count >= action.least && (action.greatest < 0 || count <= action.greatest);
+        const bool fits = count >= action.min_arguments &&
+                          (action.max_arguments < 0 || count <= action.max_arguments);
         if (!fits || (action.run == set && arguments[0].find('=') == std::string::npos)) {
             const std::string usage =
-                action.least == 0 && action.greatest == 0
+                action.min_arguments == 0 && action.max_arguments == 0
                     ? "takes no argument"
                     : std::string("is used as: ") + action.name + " " + action.arguments;
-            throw UsageError(place + ": \"" + action.name + "\" " + usage);
+            throw UsageError(location + ": \"" + action.name + "\" " + usage);
         }
-        return {&action, arguments, place};
+        return {&action, arguments, location};
     }
-    throw UsageError(place + ": there is no action \"" + (words.empty() ? "" : words[0]) + "\"");
+    throw UsageError(location + ": there is no action \"" + (words.empty() ? "" : words[0]) + "\"");
 }
 
-void run_step(Session& session, const Step& step) {
+void run_action(Session& session, const ParsedAction& parsed) {
     try {
-        if (!step.action->waits) session.settle();
-        step.action->run(session, step.arguments);
+        if (!parsed.action->posts_event) session.settle();
+        parsed.action->run(session, parsed.arguments);
     } catch (const std::runtime_error& error) {
-        throw ActionError(step.place + ": " + step.action->name + ": " + error.what());
+        throw ActionError(parsed.location + ": " + parsed.action->name + ": " + error.what());
     }
 }
 

@@ -1,5 +1,5 @@
-// Everything that a user can do, as one typed table: the command line, action files, the help and
-// the tests all go through it.
+// The table of everything that a user can do, for the command line, action files, the window and
+// the help.
 
 #pragma once
 
@@ -15,34 +15,34 @@ using Words = std::vector<std::string>;
 
 struct Action {
     const char* name;
-    const char* arguments; // as the help shows them
-    const char* sentence;  // what it does
-    int least, greatest;   // how many arguments; greatest -1: any number
-    // Throws ActionError, or ControlError.
+    const char* arguments;            // as the help shows them
+    const char* sentence;             // what it does
+    int min_arguments, max_arguments; // max_arguments -1: any number
+    // Throws ActionError or ControlError.
     void (*run)(Session&, const Words&);
-    // Whether it waits, with others like it, to be answered before the next action of another kind.
-    bool waits = false;
+    // Whether it only posts an event. Events are handled before the next action of another kind.
+    bool posts_event = false;
 };
 
 std::span<const Action> actions();
 
-// One action with its arguments, and where it was asked for ("actions.txt:3").
-struct Step {
+// An action with its arguments, and where it comes from ("actions.txt:3").
+struct ParsedAction {
     const Action* action;
     Words arguments;
-    std::string place;
+    std::string location;
 };
 
-// Bad usage: an action that is not known, or the wrong number of arguments.
+// An unknown action, or the wrong number of arguments.
 class UsageError : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
 };
 
-// Finds the action of the first word. Throws UsageError.
-Step make_step(const Words& words, const std::string& place);
+// The first word names the action. Throws UsageError.
+ParsedAction parse_action(const Words& words, const std::string& location);
 
-// Carries it out; throws ActionError with the place and the action's name before the cause.
-void run_step(Session& session, const Step& step);
+// Throws ActionError with location, action name and cause.
+void run_action(Session& session, const ParsedAction& action);
 
 } // namespace minihost

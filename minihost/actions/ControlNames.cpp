@@ -1,8 +1,9 @@
 #include "minihost/actions/ControlNames.h"
 
+#include "minihost/model/ParseNumber.h"
 #include "minihost/model/SceneReader.h"
 
-#include <charconv>
+#include <climits>
 #include <filesystem>
 #include <nlohmann/json.hpp>
 
@@ -27,16 +28,18 @@ ControlNames ControlNames::beside(const std::string& module_path) {
 
 std::optional<int> ControlNames::id_of(const std::string& name) const {
     if (const auto found = _ids.find(name); found != _ids.end()) return found->second;
-    int id = 0;
-    const char* end = name.data() + name.size();
-    const auto [stop, error] = std::from_chars(name.data(), end, id);
-    if (error != std::errc() || stop != end || id < 1) return std::nullopt;
-    return id;
+    const auto id = parse_number<int>(name);
+    return id && *id >= 1 ? id : std::nullopt;
 }
 
 std::string ControlNames::name_of(int id) const {
     const auto found = _names.find(id);
     return found == _names.end() ? "" : found->second;
+}
+
+std::string ControlNames::name_or_id(int id) const {
+    const std::string name = name_of(id);
+    return name.empty() ? std::to_string(id) : name;
 }
 
 } // namespace minihost

@@ -1,5 +1,5 @@
-// The names of a plug-in's controls, from a table beside its module ("X.controls.json" beside
-// "X.plugin"): an object of names and ids.
+// The names of a plug-in's controls, from a file beside its module ("X.controls.json" beside
+// "X.plugin"): a JSON object of names and ids.
 
 #pragma once
 
@@ -12,14 +12,14 @@ namespace minihost {
 class ControlNames {
   public:
     ControlNames() = default;
-    // Of a module; a module without a table has no names. Throws SceneError for a table that is
-    // none.
+    // Reads the file of a module, if there is one. Throws SceneError for a bad file.
     static ControlNames beside(const std::string& module_path);
 
-    // By name, or by the id itself in digits.
+    // The name may be an id in digits.
     std::optional<int> id_of(const std::string& name) const;
-    // Empty when the id has none.
+    // Empty for an id without a name.
     std::string name_of(int id) const;
+    std::string name_or_id(int id) const;
 
   private:
     std::map<std::string, int> _ids;

@@ -1,30 +1,25 @@
 #include "minihost/actions/EventActions.h"
 
-#include <algorithm>
-#include <charconv>
-#include <iterator>
+#include "minihost/model/ParseNumber.h"
 
 namespace minihost {
 
 namespace {
 
-constexpr const char* names[] = {
-    "tab",  "backtab", "return", "enter", "escape", "space",          "delete",    "up",     "down",
-    "left", "right",   "home",   "end",   "f1",     "forward-delete", "page-down", "page-up"};
-constexpr char16_t characters[] = {0x09,   0x19,   0x0d,   0x03,   0x1b,   ' ',
-                                   0x7f,   0xf700, 0xf701, 0xf702, 0xf703, 0xf729,
-                                   0xf72b, 0xf704, 0xf728, 0xf72d, 0xf72c};
-static_assert(std::size(names) == std::size(characters));
+constexpr NamedKey named_keys[] = {
+    {"tab", 0x09},      {"backtab", 0x19}, {"return", 0x0d},           {"enter", 0x03},
+    {"escape", 0x1b},   {"space", ' '},    {"delete", 0x7f},           {"up", 0xf700},
+    {"down", 0xf701},   {"left", 0xf702},  {"right", 0xf703},          {"home", 0xf729},
+    {"end", 0xf72b},    {"f1", 0xf704},    {"forward-delete", 0xf728}, {"page-down", 0xf72d},
+    {"page-up", 0xf72c}};
 
-constexpr double farthest = 32000; // points, and lines of a wheel
+constexpr double max_distance = 32000; // points, or lines of a wheel
 
 double number(const std::string& word) {
-    double value = 0;
-    const char* end = word.data() + word.size();
-    const auto [stop, error] = std::from_chars(word.data(), end, value);
-    if (error != std::errc() || stop != end || !(value >= -farthest && value <= farthest))
+    const auto value = parse_number<double>(word);
+    if (!value || !(*value >= -max_distance && *value <= max_distance))
         throw ActionError("\"" + word + "\" is no number from -32000 to 32000");
-    return value;
+    return *value;
 }
 
 bool take_modifier(const std::string& word, RawEvent& event) {
@@ -40,24 +35,20 @@ bool take_modifier(const std::string& word, RawEvent& event) {
     return false;
 }
 
-[[noreturn]] void refuse(const std::string& word, const char* choices) {
+[[noreturn]] void reject(const std::string& word, const char* choices) {
     throw ActionError("\"" + word + "\" is none of " + choices);
 }
 
 // A key by its name, by its one character, or by its number ("U+F704").
 char16_t key(const std::string& word) {
-    const auto named = std::find(std::begin(names), std::end(names), word);
-    if (named != std::end(names)) return characters[named - std::begin(names)];
+    for (const NamedKey& key : named_keys)
+        if (word == key.name) return key.character;
     if (word.size() == 1 && word[0] > ' ' && word[0] < 0x7f) return static_cast<char16_t>(word[0]);
-    unsigned number = 0;
-    const char* end = word.data() + word.size();
-    if (word.size() > 2 && word.starts_with("U+")) {
-        const auto [stop, error] = std::from_chars(word.data() + 2, end, number, 16);
-        if (error == std::errc() && stop == end && number <= 0xffff)
-            return static_cast<char16_t>(number);
-    }
+    if (word.starts_with("U+"))
+        if (const auto number = parse_number<unsigned>(word.substr(2), 16))
+            if (*number <= 0xffff) return static_cast<char16_t>(*number);
     std::string all;
-    for (const char* name : names) all += std::string(name) + ", ";
+    for (const NamedKey& key : named_keys) all += std::string(key.name) + ", ";
     throw ActionError("\"" + word + "\" is no key: " + all +
                       "one character, or U+ and four digits");
 }
@@ -71,8 +62,8 @@ void post(Session& session, const RawEvent& event) {
 
 } // namespace
 
-std::span<const char* const> key_names() {
-    return names;
+std::span<const NamedKey> keys_with_names() {
+    return named_keys;
 }
 
 void mouse_action(Session& session, const std::vector<std::string>& words) {
@@ -84,7 +75,7 @@ void mouse_action(Session& session, const std::vector<std::string>& words) {
     else if (words[0] == "move")
         event.kind = RawEvent::Kind::MouseMove;
     else
-        refuse(words[0], "down, up, move");
+        reject(words[0], "down, up, move");
     event.x = number(words[1]);
     event.y = number(words[2]);
     for (std::size_t i = 3; i < words.size(); ++i) {
@@ -93,7 +84,7 @@ void mouse_action(Session& session, const std::vector<std::string>& words) {
         else if (words[i] == "double")
             event.clicks = 2;
         else if (!take_modifier(words[i], event))
-            refuse(words[i], "right, double, shift, control, option, command");
+            reject(words[i], "right, double, shift, control, option, command");
     }
     post(session, event);
 }
@@ -113,7 +104,7 @@ void key_action(Session& session, const std::vector<std::string>& words) {
     event.kind = RawEvent::Kind::Key;
     event.key = key(words[0]);
     for (std::size_t i = 1; i < words.size(); ++i)
-        if (!take_modifier(words[i], event)) refuse(words[i], "shift, control, option, command");
+        if (!take_modifier(words[i], event)) reject(words[i], "shift, control, option, command");
     post(session, event);
 }
 

@@ -1,5 +1,5 @@
-// Actions that are raw events at the dialog. They wait until an action of another kind comes, so
-// that lists that are open and buttons that are held find what the user does next.
+// Actions that post events to the dialog. The events are handled together before the next action of
+// another kind, as an open menu or a held button needs the events that follow.
 
 #pragma once
 
@@ -11,13 +11,17 @@
 
 namespace minihost {
 
-// Each throws ActionError, or ControlError.
+// Each throws ActionError or ControlError.
 void mouse_action(Session& session, const std::vector<std::string>& words);
 void wheel_action(Session& session, const std::vector<std::string>& words);
 void key_action(Session& session, const std::vector<std::string>& words);
 void type_action(Session& session, const std::vector<std::string>& words);
 
-// The keys that have a name because they write nothing that could stand in a file.
-std::span<const char* const> key_names();
+// A key that has no printable character.
+struct NamedKey {
+    const char* name;
+    char16_t character;
+};
+std::span<const NamedKey> keys_with_names();
 
 } // namespace minihost

@@ -4,7 +4,7 @@ namespace minihost {
 
 namespace {
 
-constexpr std::size_t counts_between_looks = 1024; // at the clock
+constexpr std::size_t counts_per_look = 1024; // at the clock
 constexpr auto patience = std::chrono::seconds(1);
 constexpr auto between_lines = std::chrono::milliseconds(100);
 
@@ -16,12 +16,12 @@ void Progress::start(std::string what) {
     _next_look = Clock::now() + patience;
 }
 
-void Progress::show(std::size_t count, const char* of_what) {
-    if (!_line.is_on_terminal() || count % counts_between_looks != 0) return;
+void Progress::show(std::size_t count, const char* noun) {
+    if (!_line.is_on_terminal() || count % counts_per_look != 0) return;
     const auto now = Clock::now();
     if (now < _next_look) return;
     _next_look = now + between_lines;
-    _line.show(_what + ": " + std::to_string(count) + " " + of_what);
+    _line.show(_what + ": " + std::to_string(count) + " " + noun);
 }
 
 } // namespace minihost

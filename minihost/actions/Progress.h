@@ -1,4 +1,4 @@
-// Shows on a terminal how far something has come that takes more than a second.
+// Shows the progress of whatever takes more than a second, on a terminal.
 
 #pragma once
 
@@ -13,10 +13,10 @@ namespace minihost {
 class Progress {
   public:
     void start(std::string what);
-    // So many of something are done. Cheap enough to be called for each.
-    void show(std::size_t count, const char* of_what);
-    // Wipes the line away.
-    void stop() { _line.wipe(); }
+    // `count` of them are done. Cheap enough to call for each.
+    void show(std::size_t count, const char* noun);
+    // Erases the line.
+    void stop() { _line.erase(); }
 
   private:
     using Clock = std::chrono::steady_clock;

@@ -8,6 +8,19 @@
 
 namespace minihost {
 
+namespace {
+
+template <typename Body>
+void throwing_action_error(const Body& body) {
+    try {
+        body();
+    } catch (const std::exception& error) {
+        throw ActionError(error.what());
+    }
+}
+
+} // namespace
+
 Session::Session(Scene scene, HostOptions options, std::unique_ptr<DialogDriver> driver,
                  std::ostream& out, Host::Reporter report)
     : _driver(std::move(driver)),
@@ -37,7 +50,7 @@ void Session::settle() {
 }
 
 void Session::enter(const std::function<void()>& body) {
-    _driver->with_pool([&] { _host.visit(body); });
+    _driver->with_pool([&] { _host.enter(body); });
     for (const std::string& text : _driver->new_alerts()) _host.alert(text);
 }
 
@@ -56,27 +69,15 @@ const MenuItem& Session::command() const {
 }
 
 void Session::open_scene(const std::string& path) {
-    try {
-        _host.open(read_scene(path));
-    } catch (const std::exception& error) {
-        throw ActionError(error.what());
-    }
+    throwing_action_error([&] { _host.open(read_scene(path)); });
 }
 
 void Session::save_scene(const std::string& path) {
-    try {
-        write_file(path, scene_text(_host.document));
-    } catch (const std::exception& error) {
-        throw ActionError(error.what());
-    }
+    throwing_action_error([&] { write_file(path, scene_text(_host.document)); });
 }
 
 void Session::save_preview(const std::string& path) {
-    try {
-        write_preview(_host.document.scene(), path, picture_scale);
-    } catch (const std::exception& error) {
-        throw ActionError(error.what());
-    }
+    throwing_action_error([&] { write_preview(_host.document.scene(), path, picture_scale); });
 }
 
 void Session::save_panel(const std::string& path) {
@@ -87,11 +88,7 @@ void Session::save_panel(const std::string& path) {
     Picture picture;
     enter([&] { picture = _driver->picture(shown.panel, picture_scale); });
     if (picture.rgba.empty()) throw ActionError(path + ": the dialog has no picture");
-    try {
-        write_file(path, encode_png(picture));
-    } catch (const std::exception& error) {
-        throw ActionError(error.what());
-    }
+    throwing_action_error([&] { write_file(path, encode_png(picture)); });
 }
 
 } // namespace minihost

@@ -1,5 +1,4 @@
-// One run of the host with one plug-in: what the actions work on. It owns the scene, the display
-// and the loaded module, and knows which dialog is the plug-in's.
+// A host with a loaded plug-in and its dialog: what actions work on.
 
 #pragma once
 
@@ -16,31 +15,31 @@
 
 namespace minihost {
 
-// An action that could not be carried out.
+// An action that is not possible.
 class ActionError : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
 };
 
-// The plug-in's dialog as the user finds it.
+// The plug-in's dialog as a user sees it.
 struct Dialog {
     bool exists = false;
     bool visible = false;
-    bool is_panel = false;            // else a window of its own
+    bool is_panel = false;            // else a window
     const PanelView* panel = nullptr; // null for a window
     std::string title;
 };
 
 class Session {
   public:
-    // `out` gets what actions print; `report` gets messages.
-    Session(Scene scene, HostOptions options, std::unique_ptr<DialogDriver> driver,
-            std::ostream& out, Host::Reporter report);
+    // `out` receives what actions print, `report` messages.
+    Session(Scene scene, HostOptions options, std::unique_ptr<DialogDriver> driver, std::ostream& out,
+            Host::Reporter report);
     ~Session();
 
     // Loads the plug-in and the names of its controls. Throws LoadError or SceneError.
     void load(const std::string& module_path);
-    // What the plug-in still held, as lines. Nothing of it is there afterwards.
+    // Returns what the plug-in still held, a line each.
     std::vector<std::string> unload();
 
     Host& host() { return _host; }
@@ -50,14 +49,14 @@ class Session {
     double picture_scale = 2; // pixels per point
 
     Dialog dialog() const;
-    // The plug-in's first menu command. Throws ActionError when there is none.
+    // The plug-in's first menu command. Throws ActionError if it has none.
     const MenuItem& command() const;
-    // Lets raw events that wait be answered.
+    // Handles the posted events.
     void settle();
-    // Runs something that may enter the plug-in, and takes note of the alerts that it shows.
+    // Runs something that may call into the plug-in, and records the alerts that it shows.
     void enter(const std::function<void()>& body);
 
-    // Files; each throws ActionError. A scene that cannot be read leaves the one that is there.
+    // Each throws ActionError. A scene that cannot be read changes nothing.
     void open_scene(const std::string& path);
     void save_scene(const std::string& path);
     void save_preview(const std::string& path);

@@ -1,4 +1,4 @@
-// The state of a session as one line of JSON, for whoever plays the host from outside.
+// The state of a session as one line of JSON.
 
 #pragma once
 
@@ -8,7 +8,7 @@
 
 namespace minihost {
 
-// With its end. The menu is updated first, as when a user opens it.
+// With its newline. The menu is updated first, as when a user opens it.
 std::string state_line(Session& session);
 
 } // namespace minihost

@@ -14,7 +14,7 @@ void TerminalLine::show(const std::string& text) {
     _is_shown = true;
 }
 
-void TerminalLine::wipe() {
+void TerminalLine::erase() {
     if (_is_shown) std::fputs("\r\033[K", stderr);
     _is_shown = false;
 }

@@ -1,5 +1,4 @@
-// A line of standard error that is written over again and again; nothing at all where that is no
-// terminal.
+// A line of standard error that is written again and again. Does nothing if that is not a terminal.
 
 #pragma once
 
@@ -10,14 +9,14 @@ namespace minihost {
 class TerminalLine {
   public:
     TerminalLine();
-    ~TerminalLine() { wipe(); }
+    ~TerminalLine() { erase(); }
     TerminalLine(const TerminalLine&) = delete;
     TerminalLine& operator=(const TerminalLine&) = delete;
 
     bool is_on_terminal() const { return _is_terminal; }
-    // Cut so that it stays a line on most terminals.
+    // Long text is truncated.
     void show(const std::string& text);
-    void wipe();
+    void erase();
 
   private:
     const bool _is_terminal;

@@ -24,36 +24,35 @@ namespace minihost {
 
 namespace {
 
-constexpr std::size_t most_lines_said = 12;
+constexpr std::size_t max_error_lines = 12;
 
 [[noreturn]] void fail(const char* what) {
     throw std::system_error(errno, std::generic_category(), what);
 }
 
-// Memory that stays the same one after a fork.
-Place* shared_place() {
-    void* shared =
-        ::mmap(nullptr, sizeof(Place), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+ChildProgress* map_shared_progress() {
+    void* shared = ::mmap(nullptr, sizeof(ChildProgress), PROT_READ | PROT_WRITE,
+                          MAP_SHARED | MAP_ANONYMOUS, -1, 0);
     if (shared == MAP_FAILED) fail("no memory to share");
-    return new (shared) Place;
+    return new (shared) ChildProgress;
 }
 
-void unmap(Place* place) {
-    ::munmap(place, sizeof(Place));
+void unmap(ChildProgress* progress) {
+    ::munmap(progress, sizeof(ChildProgress));
 }
 
-// Libraries have threads that end by themselves, such as those that look for fonts. A lock that one
-// holds at a fork would be held in the child for ever: so they are awaited, except for those that
-// have outlived that once.
+// A lock that another thread holds at a fork stays locked in the child. So this waits for threads
+// that end by themselves, such as those that search for fonts; a thread that outlives one wait is
+// expected to stay.
 void await_threads() {
     constexpr std::chrono::seconds patience(1);
-    constexpr std::chrono::microseconds between_looks(200);
-    static nlink_t lasting = 1;
+    constexpr std::chrono::microseconds interval(200);
+    static nlink_t permanent = 1;
     const auto until = std::chrono::steady_clock::now() + patience;
     struct stat threads {};
-    while (::stat("/proc/self/task", &threads) == 0 && threads.st_nlink > 2 + lasting) {
-        if (std::chrono::steady_clock::now() > until) lasting = threads.st_nlink - 2;
-        std::this_thread::sleep_for(between_looks);
+    while (::stat("/proc/self/task", &threads) == 0 && threads.st_nlink > 2 + permanent) {
+        if (std::chrono::steady_clock::now() > until) permanent = threads.st_nlink - 2;
+        std::this_thread::sleep_for(interval);
     }
 }
 
@@ -65,46 +64,55 @@ const int sanitizer_factor = 5;
 const int sanitizer_factor = 1;
 #endif
 
-void Place::enter(std::string_view step) {
-    const std::size_t length = std::min(step.size(), sizeof _step - 1);
-    std::memcpy(_step, step.data(), length);
-    _step[length] = 0;
-    ++_steps;
+void ChildProgress::checkpoint(std::string_view name) {
+    const std::size_t length = std::min(name.size(), sizeof _last_checkpoint - 1);
+    std::memcpy(_last_checkpoint, name.data(), length);
+    _last_checkpoint[length] = 0;
+    ++_checkpoints;
 }
 
-std::string Place::step() const {
-    return std::string(_step, ::strnlen(_step, sizeof _step));
+std::string ChildProgress::last_checkpoint() const {
+    return std::string(_last_checkpoint, ::strnlen(_last_checkpoint, sizeof _last_checkpoint));
+}
+
+std::string describe_failure(const ChildResult& result) {
+    std::string text = result.cause + " at \"" + result.last_checkpoint + "\"";
+    for (const std::string& line : result.error_lines) text += "\n" + line;
+    return text;
 }
 
 Child::Child(const Work& work, Limits limits, Exit exit)
-    : _place(shared_place(), unmap), _limits(limits), _start(Clock::now()), _step_start(_start) {
+    : _progress(map_shared_progress(), unmap),
+      _limits(limits),
+      _start(Clock::now()),
+      _checkpoint_time(_start) {
     await_threads();
-    std::fflush(nullptr); // or the child writes it once more
+    std::fflush(nullptr); // or the child writes it again
     const pid_t parent = ::getpid();
     _process = ::fork();
     if (_process < 0) fail("no process can be made");
     if (_process == 0) {
-        // A child whose parent is ended goes, too.
+        // A killed parent takes its children with it.
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
         if (::getppid() != parent) std::_Exit(1);
         this->work(work, exit);
     }
-    _watch = static_cast<int>(::syscall(SYS_pidfd_open, _process, 0));
+    _process_file = static_cast<int>(::syscall(SYS_pidfd_open, _process, 0));
 }
 
 Child::~Child() {
-    if (!_over) {
+    if (!_ended) {
         ::kill(_process, SIGKILL);
         ::waitpid(_process, nullptr, 0);
     }
-    if (_watch >= 0) ::close(_watch);
+    if (_process_file >= 0) ::close(_process_file);
 }
 
 void Child::work(const Work& work, Exit exit) {
-    ::dup2(_said.descriptor(), STDERR_FILENO);
+    ::dup2(_errors.descriptor(), STDERR_FILENO);
     std::signal(SIGINT, SIG_DFL);
     try {
-        _result.write(work(*_place));
+        _output.write(work(*_progress));
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
         std::fflush(stderr);
@@ -115,15 +123,15 @@ void Child::work(const Work& work, Exit exit) {
         std::_Exit(0);
     }
     if (__lsan_do_recoverable_leak_check && __lsan_do_recoverable_leak_check()) {
-        _place->_leaked = true;
-        std::_Exit(0); // it is told; the verdict at the exit would be the same
+        _progress->_leaked = true;
+        std::_Exit(0); // exit() would check again
     }
     std::exit(0);
 }
 
 bool Child::wait(std::chrono::milliseconds time) {
     const Clock::time_point until = Clock::now() + time;
-    while (!_over) {
+    while (!_ended) {
         int status = 0;
         if (::waitpid(_process, &status, WNOHANG) == _process) {
             finish(status);
@@ -131,17 +139,17 @@ bool Child::wait(std::chrono::milliseconds time) {
         }
         check_limits();
         const auto left = until - Clock::now();
-        if (_over || left <= left.zero()) break;
-        // A limit is looked at every now and then; the end of the process is told at once.
+        if (_ended || left <= left.zero()) break;
+        // Limits are checked now and then; the end of the process wakes this up at once.
         const auto slice = std::min<std::chrono::milliseconds>(
             std::chrono::ceil<std::chrono::milliseconds>(left), std::chrono::milliseconds(100));
-        pollfd poll{_watch, POLLIN, 0};
-        ::poll(&poll, _watch >= 0 ? 1 : 0, static_cast<int>(slice.count()));
+        pollfd poll{_process_file, POLLIN, 0};
+        ::poll(&poll, _process_file >= 0 ? 1 : 0, static_cast<int>(slice.count()));
     }
-    return _over;
+    return _ended;
 }
 
-// What it has used of it; 0 once it has ended.
+// 0 after the end of the process.
 std::chrono::nanoseconds Child::processor_time() const {
     clockid_t clock{};
     timespec time{};
@@ -152,74 +160,73 @@ std::chrono::nanoseconds Child::processor_time() const {
 
 void Child::check_limits() {
     const Clock::time_point now = Clock::now();
-    const std::chrono::nanoseconds worked = processor_time();
-    if (const std::uint64_t steps = _place->steps(); steps != _steps_seen) {
-        _steps_seen = steps;
-        _step_start = now;
-        _step_start_of_processor = worked;
+    const std::chrono::nanoseconds processor = processor_time();
+    if (const std::uint64_t checkpoints = _progress->checkpoints();
+        checkpoints != _checkpoints_seen) {
+        _checkpoints_seen = checkpoints;
+        _checkpoint_time = now;
+        _checkpoint_processor_time = processor;
     }
     std::chrono::milliseconds limit;
-    if (now - _start > _limits.whole)
-        limit = _limits.whole;
-    else if (now - _step_start > Limits::times_waiting * _limits.step)
-        limit = Limits::times_waiting * _limits.step;
-    else if (worked - _step_start_of_processor > _limits.step)
-        limit = _limits.step;
+    if (now - _start > _limits.total)
+        limit = _limits.total;
+    else if (now - _checkpoint_time > Limits::waiting_factor * _limits.between_checkpoints)
+        limit = Limits::waiting_factor * _limits.between_checkpoints;
+    else if (processor - _checkpoint_processor_time > _limits.between_checkpoints)
+        limit = _limits.between_checkpoints;
     else
         return;
     ::kill(_process, SIGKILL);
     ::waitpid(_process, nullptr, 0);
-    _over = true;
+    _ended = true;
     const double seconds = std::chrono::duration<double>(limit).count();
-    _ending = {Ending::Kind::TimedOut,
-               "",
-               _place->step(),
-               "did not end within " + std::to_string(static_cast<int>(seconds + 0.5)) + " s",
-               false,
-               last_lines()};
+    _result.kind = ChildResult::Kind::TimedOut;
+    _result.last_checkpoint = _progress->last_checkpoint();
+    _result.cause = "did not end within " + std::to_string(static_cast<int>(seconds + 0.5)) + " s";
+    _result.error_lines = last_error_lines();
 }
 
 void Child::finish(int status) {
-    _over = true;
-    _ending.step = _place->step();
-    _ending.said = last_lines();
-    _ending.leaked = _place->_leaked;
+    _ended = true;
+    _result.last_checkpoint = _progress->last_checkpoint();
+    _result.error_lines = last_error_lines();
+    _result.leaked = _progress->_leaked;
     if (WIFEXITED(status) && WEXITSTATUS(status) == 0) {
-        _ending.result = _result.content();
+        _result.output = _output.content();
         return;
     }
-    _ending.kind = Ending::Kind::Crashed;
-    _ending.cause = WIFSIGNALED(status)
+    _result.kind = ChildResult::Kind::Crashed;
+    _result.cause = WIFSIGNALED(status)
                         ? std::string("ended by a signal: ") + ::strsignal(WTERMSIG(status))
                         : "ended with status " + std::to_string(WEXITSTATUS(status));
 }
 
-std::vector<std::string> Child::last_lines() const {
-    const std::string text = _said.content(1 << 16);
+std::vector<std::string> Child::last_error_lines() const {
+    const std::string text = _errors.content(1 << 16);
     std::vector<std::string> lines;
     for (std::size_t start = 0; start < text.size();) {
         const std::size_t end = std::min(text.find('\n', start), text.size());
         if (end > start) lines.push_back(text.substr(start, end - start));
         start = end + 1;
     }
-    // What a sanitizer says first tells most.
+    // A sanitizer says most in its first lines.
     const auto heading = std::find_if(lines.begin(), lines.end(), [](const std::string& line) {
         return line.find("Sanitizer") != std::string::npos ||
                line.find("runtime error") != std::string::npos;
     });
     if (heading != lines.end())
         lines.erase(lines.begin(), heading);
-    else if (lines.size() > most_lines_said)
-        lines.erase(lines.begin(), lines.end() - most_lines_said);
-    if (lines.size() > most_lines_said) lines.resize(most_lines_said);
+    else if (lines.size() > max_error_lines)
+        lines.erase(lines.begin(), lines.end() - max_error_lines);
+    if (lines.size() > max_error_lines) lines.resize(max_error_lines);
     return lines;
 }
 
-Ending run_in_child(const Child::Work& work, Limits limits, Child::Exit exit) {
+ChildResult run_in_child(const Child::Work& work, Limits limits, Child::Exit exit) {
     Child child(work, limits, exit);
     while (!child.wait(std::chrono::seconds(10))) {
     }
-    return child.ending();
+    return child.result();
 }
 
 } // namespace minihost

@@ -1,5 +1,4 @@
-// Work that may crash or never end, done in a process of its own: what came of it, where it was
-// last, and what it said on standard error.
+// Work in a child process, as it may crash or never end.
 
 #pragma once
 
@@ -15,84 +14,84 @@
 
 namespace minihost {
 
-// Memory that a child and its parent share: where the child is.
-class Place {
+// Memory that a child shares with its parent: how far it has got.
+class ChildProgress {
   public:
-    // A step begins; the time limit of steps starts anew. Longer texts are cut.
-    void enter(std::string_view step);
-    std::string step() const;
-    std::uint64_t steps() const { return _steps; }
-    // What comes of the work as far as it has got, for the progress line: runs done.
+    // Restarts the time limit between checkpoints. Long names are truncated.
+    void checkpoint(std::string_view name);
+    std::string last_checkpoint() const;
+    std::uint64_t checkpoints() const { return _checkpoints; }
+    // For the progress line.
     std::atomic<std::uint64_t> runs{0};
 
   private:
     friend class Child;
-    std::atomic<std::uint64_t> _steps{0};
+    std::atomic<std::uint64_t> _checkpoints{0};
     std::atomic<bool> _leaked{false};
-    char _step[400] = {};
+    char _last_checkpoint[400] = {};
 };
 
-// How long a child may take: for all of it by the clock, and from one step to the next of the
-// processor's time, so that a machine that is busy with something else does no harm. A step that
-// waits and does nothing gets `times_waiting` of that by the clock.
+// The limit between checkpoints is processor time, so that a busy machine does no harm. A child
+// that only waits has `waiting_factor` times as long on the clock.
 struct Limits {
-    static constexpr int times_waiting = 20;
-    std::chrono::milliseconds whole, step;
+    static constexpr int waiting_factor = 20;
+    std::chrono::milliseconds total, between_checkpoints;
 };
 
-// What the sanitizers cost. 1 without them.
+// How much slower everything is with a sanitizer; 1 without.
 extern const int sanitizer_factor;
 
-struct Ending {
+struct ChildResult {
     enum class Kind { Done, Crashed, TimedOut };
     Kind kind = Kind::Done;
-    std::string result; // what the work gave, when it is done
-    std::string step;   // where it was last
-    std::string cause;  // of a crash or of a time-out, in words
+    std::string output; // of the work, if done
+    std::string last_checkpoint;
+    std::string cause; // of a crash or time-out
     bool leaked = false;
-    std::vector<std::string> said; // the last lines on standard error
+    std::vector<std::string> error_lines; // the last on standard error
 };
 
-// A process that is forked off here, once the parent's other threads have ended or made it wait for
-// a second.
+// For a crash or time-out: cause, checkpoint and error lines.
+std::string describe_failure(const ChildResult& result);
+
+// A forked process. Before the fork the parent waits, up to a second, for its other threads to end.
 class Child {
   public:
-    using Work = std::function<std::string(Place&)>;
-    // How the process ends when its work is done: through exit, with a look for leaks where a
-    // sanitizer can tell them; or at once, which is quicker.
-    enum class Exit { Proper, Quick };
+    using Work = std::function<std::string(ChildProgress&)>;
+    // Normal calls exit() after a leak check, where a sanitizer has one; Quick is faster.
+    enum class Exit { Normal, Quick };
 
-    // Throws std::system_error when no process can be made.
-    Child(const Work& work, Limits limits, Exit exit = Exit::Proper);
-    ~Child(); // ends it
+    // Throws std::system_error.
+    Child(const Work& work, Limits limits, Exit exit = Exit::Normal);
+    ~Child(); // kills the process
     Child(Child&& other) = delete;
 
-    // Waits so long at most. True when it is over: it ended by itself or reached a limit.
+    // Waits up to this long. True when the process has ended or was killed at a limit.
     bool wait(std::chrono::milliseconds time);
     // After wait() was true.
-    const Ending& ending() const { return _ending; }
-    const Place& place() const { return *_place; }
+    const ChildResult& result() const { return _result; }
+    const ChildProgress& progress() const { return *_progress; }
 
   private:
     [[noreturn]] void work(const Work& work, Exit exit);
     void check_limits();
     std::chrono::nanoseconds processor_time() const;
     void finish(int status);
-    std::vector<std::string> last_lines() const;
+    std::vector<std::string> last_error_lines() const;
 
     using Clock = std::chrono::steady_clock;
-    std::unique_ptr<Place, void (*)(Place*)> _place;
-    MemoryFile _result{"result"}, _said{"said"};
-    int _process = -1, _watch = -1;
+    std::unique_ptr<ChildProgress, void (*)(ChildProgress*)> _progress;
+    MemoryFile _output{"output"}, _errors{"errors"};
+    int _process = -1, _process_file = -1;
     Limits _limits;
-    Clock::time_point _start, _step_start;
-    std::chrono::nanoseconds _step_start_of_processor{0};
-    std::uint64_t _steps_seen = 0;
-    bool _over = false;
-    Ending _ending;
+    Clock::time_point _start, _checkpoint_time;
+    std::chrono::nanoseconds _checkpoint_processor_time{0};
+    std::uint64_t _checkpoints_seen = 0;
+    bool _ended = false;
+    ChildResult _result;
 };
 
-// Runs it to its end.
-Ending run_in_child(const Child::Work& work, Limits limits, Child::Exit exit = Child::Exit::Proper);
+ChildResult run_in_child(const Child::Work& work, Limits limits,
+                         Child::Exit exit = Child::Exit::Normal);
 
 } // namespace minihost

@@ -19,8 +19,8 @@ void stop_clock(std::time_t seconds) {
 
 } // namespace minihost
 
-// In the place of the C library's own, for the program and the modules that it loads (it exports
-// them): the system is asked as the library would.
+// These replace the C library's functions for the program and, as it exports them, for the modules
+// that it loads.
 
 extern "C" int clock_gettime(clockid_t clock, timespec* now) noexcept {
     if (stopped_at && (clock == CLOCK_REALTIME || clock == CLOCK_REALTIME_COARSE)) {

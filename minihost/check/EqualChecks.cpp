@@ -1,32 +1,59 @@
-// Two runs at the same time of the same day make the same calls with the same arguments and
+// Two equal runs at the same time of day must make the same calls with the same arguments and
 // results.
 
+#include "minihost/check/CheckFunctions.h"
+#include "minihost/check/ChildPool.h"
 #include "minihost/check/Clock.h"
-#include "minihost/check/Crew.h"
-#include "minihost/check/Groups.h"
-#include "minihost/check/Life.h"
+#include "minihost/check/PluginRun.h"
 
 #include <algorithm>
 #include <malloc.h>
+#include <optional>
 
 namespace minihost {
 
 namespace {
 
-constexpr std::time_t second = 1'700'000'000; // at which both runs take place
+constexpr std::time_t time_of_day = 1'700'000'000;
 
-// All calls of a life, a line each. Memory that nobody has written to holds this byte, so that what
-// is read from it differs from run to run.
-std::string calls_of(const CheckContext& context, const Scenario& scenario, int byte,
-                     Place& place) {
-    stop_clock(second);
+// Plays a scenario and returns the log of its calls. Uninitialized memory is filled with `byte`, so
+// that reading it makes a difference between runs.
+std::string play(const Target& target, const Scenario& scenario, int byte,
+                 ChildProgress& progress) {
+    stop_clock(time_of_day);
     ::mallopt(M_PERTURB, byte);
-    Life life(context.subject.plugin, context.subject.scene, {}, place);
-    life.record_calls();
-    life.live(scenario);
-    std::string text;
-    for (const std::string& line : life.calls()) text += line;
-    return text;
+    PluginRun run(target.plugin, target.scene, {}, progress);
+    run.record_calls();
+    run.play(scenario);
+    std::string log;
+    for (const std::string& line : run.calls()) log += line;
+    return log;
+}
+
+// The logs of all scenarios; nothing for a run that fails, which is reported.
+std::vector<std::optional<std::string>> play_all(const CheckContext& context, Findings& findings,
+                                                 int byte) {
+    std::vector<std::optional<std::string>> logs(context.baseline.runs.size());
+    ChildPool pool(context.target.limits());
+    for (std::size_t i = 0; i < logs.size(); ++i) {
+        const BaselineRun& baseline = context.baseline.runs[i];
+        if (!baseline.is_complete()) continue;
+        pool.run(
+            [&, byte](ChildProgress& progress) {
+                return play(context.target, baseline.scenario, byte, progress);
+            },
+            [&, i](const ChildResult& result) {
+                context.progress.checkpoint(baseline.scenario.name);
+                ++context.progress.runs;
+                if (result.kind == ChildResult::Kind::Done)
+                    logs[i] = result.output;
+                else
+                    findings.add(Outcome::Fail, describe_failure(result),
+                                 "with " + baseline.scenario.name);
+            });
+    }
+    pool.finish();
+    return logs;
 }
 
 std::string first_difference(const std::string& first, const std::string& second) {
@@ -43,34 +70,17 @@ std::string first_difference(const std::string& first, const std::string& second
 } // namespace
 
 void check_equal_calls(const CheckContext& context, Findings& findings) {
-    std::vector<std::string> first(context.rehearsal.lives.size());
-    const auto run_all = [&](int byte, const auto& take) {
-        Crew crew(context.subject.limits());
-        for (std::size_t i = 0; i < first.size(); ++i) {
-            const RehearsedLife& plain = context.rehearsal.lives[i];
-            if (!plain.ended_well()) continue;
-            crew.run(
-                [&, byte](Place& place) { return calls_of(context, plain.scenario, byte, place); },
-                [&, i](const Ending& ending) {
-                    context.place.enter(plain.scenario.name);
-                    ++context.place.runs;
-                    if (ending.kind == Ending::Kind::Done)
-                        take(i, plain.scenario, ending.result);
-                    else
-                        findings.add(Outcome::Fail, death_of(ending),
-                                     "with " + plain.scenario.name);
-                });
-        }
-        crew.finish();
-    };
-    run_all(0x5a,
-            [&](std::size_t i, const Scenario&, const std::string& calls) { first[i] = calls; });
-    run_all(0xa5, [&](std::size_t i, const Scenario& scenario, const std::string& calls) {
+    const auto first = play_all(context, findings, 0x5a);
+    const auto second = play_all(context, findings, 0xa5);
+    for (std::size_t i = 0; i < second.size(); ++i) {
+        if (!second[i]) continue;
         findings.count_run();
-        if (calls != first[i])
-            findings.add(Outcome::Fail, "the calls differ: " + first_difference(first[i], calls),
-                         "with " + scenario.name);
-    });
+        const std::string expected = first[i].value_or("");
+        if (*second[i] != expected)
+            findings.add(Outcome::Fail,
+                         "the calls differ: " + first_difference(expected, *second[i]),
+                         "with " + context.baseline.runs[i].scenario.name);
+    }
 }
 
 } // namespace minihost

@@ -28,15 +28,15 @@ class ElfFile {
 
     const std::vector<Section>& sections() const { return _sections; }
     template <typename Type>
-    Type at(std::size_t place) const {
+    Type at(std::size_t offset) const {
         Type value;
-        if (place > _bytes.size() || _bytes.size() - place < sizeof value)
+        if (offset > _bytes.size() || _bytes.size() - offset < sizeof value)
             throw std::runtime_error(_path + ": is cut off");
-        std::memcpy(&value, _bytes.data() + place, sizeof value);
+        std::memcpy(&value, _bytes.data() + offset, sizeof value);
         return value;
     }
-    std::string text(const Section& strings, std::size_t place) const {
-        const std::size_t start = strings.sh_offset + place;
+    std::string text(const Section& strings, std::size_t offset) const {
+        const std::size_t start = strings.sh_offset + offset;
         if (start >= _bytes.size()) throw std::runtime_error(_path + ": is cut off");
         return _bytes.c_str() + start;
     }
@@ -46,13 +46,13 @@ class ElfFile {
     std::vector<Section> _sections;
 };
 
-bool is_offered(const Symbol& symbol) {
+bool is_exported(const Symbol& symbol) {
     const auto binding = symbol.st_info >> 4, visibility = symbol.st_other & 3;
     return symbol.st_shndx != SHN_UNDEF && binding != STB_LOCAL &&
            (visibility == STV_DEFAULT || visibility == STV_PROTECTED);
 }
 
-bool is_of_the_tools(const std::string& name) {
+bool is_toolchain_symbol(const std::string& name) {
     for (const char* start :
          {"__asan_", "__odr_asan", "__ubsan_", "__lsan_", "__start_", "__stop_"})
         if (name.starts_with(start)) return true;
@@ -70,9 +70,9 @@ std::vector<std::string> exported_symbols(const std::string& path) {
         if (table.sh_type != SHT_DYNSYM || table.sh_link >= file.sections().size()) continue;
         for (std::size_t i = 0; i < table.sh_size / sizeof(Symbol); ++i) {
             const auto symbol = file.at<Symbol>(table.sh_offset + i * sizeof(Symbol));
-            if (!is_offered(symbol) || symbol.st_shndx == SHN_ABS) continue; // a version's name
+            if (!is_exported(symbol) || symbol.st_shndx == SHN_ABS) continue; // ABS: a version name
             std::string name = file.text(file.sections()[table.sh_link], symbol.st_name);
-            if (!is_of_the_tools(name)) names.push_back(std::move(name));
+            if (!is_toolchain_symbol(name)) names.push_back(std::move(name));
         }
     }
     return names;

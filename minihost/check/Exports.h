@@ -1,4 +1,4 @@
-// The symbols that a module offers to others, read from its file.
+// The symbols that a module exports.
 
 #pragma once
 
@@ -7,9 +7,8 @@
 
 namespace minihost {
 
-// The names that an ELF file of this machine's kind defines for others, in the file's order; what a
-// sanitizer or the linker itself puts there is left out. Throws std::runtime_error for a file that
-// cannot be read or is none.
+// In the order of the ELF file, without those of linker and sanitizers. Throws std::runtime_error
+// for a file that is not readable or not a module of this machine.
 std::vector<std::string> exported_symbols(const std::string& path);
 
 } // namespace minihost

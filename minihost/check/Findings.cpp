@@ -9,7 +9,7 @@ namespace {
 
 using Json = nlohmann::json;
 
-constexpr std::size_t most_lines = 40;
+constexpr std::size_t max_lines = 40;
 
 } // namespace
 
@@ -18,39 +18,35 @@ const char* name_of(Outcome outcome) {
     return names[static_cast<int>(outcome)];
 }
 
-void Findings::add(Outcome outcome, const std::string& what) {
-    add(outcome, what, "");
-}
-
-void Findings::add(Outcome outcome, const std::string& what, const std::string& example) {
+void Findings::add(Outcome outcome, const std::string& text, const std::string& example) {
     _outcome = std::max(_outcome, outcome);
-    const auto [at, is_new] = _index.try_emplace(what, _lines.size());
+    const auto [at, is_new] = _index.try_emplace(text, _findings.size());
     if (is_new)
-        _lines.push_back({outcome, what, example, 1});
+        _findings.push_back({outcome, text, example, 1});
     else
-        ++_lines[at->second].times;
+        ++_findings[at->second].times;
 }
 
 void Findings::add(const Findings& others) {
-    for (const Line& it : others._lines) {
-        add(it.outcome, it.what, it.example);
-        _lines[_index[it.what]].times += it.times - 1;
+    for (const Finding& it : others._findings) {
+        add(it.outcome, it.text, it.example);
+        _findings[_index[it.text]].times += it.times - 1;
     }
     _notes.insert(_notes.end(), others._notes.begin(), others._notes.end());
     _runs += others._runs;
 }
 
 std::vector<std::string> Findings::lines() const {
-    std::vector<Line> sorted = _lines;
+    std::vector<Finding> sorted = _findings;
     std::stable_sort(sorted.begin(), sorted.end(),
-                     [](const Line& a, const Line& b) { return a.outcome > b.outcome; });
+                     [](const Finding& a, const Finding& b) { return a.outcome > b.outcome; });
     std::vector<std::string> lines;
-    for (const Line& it : sorted) {
-        if (lines.size() == most_lines) {
-            lines.push_back("and " + std::to_string(sorted.size() - most_lines) + " more");
+    for (const Finding& it : sorted) {
+        if (lines.size() == max_lines) {
+            lines.push_back("and " + std::to_string(sorted.size() - max_lines) + " more");
             break;
         }
-        std::string line = it.what;
+        std::string line = it.text;
         if (!it.example.empty()) line += " (" + it.example + ")";
         if (it.times > 1) line += ", " + std::to_string(it.times) + " times";
         lines.push_back(std::move(line));
@@ -59,23 +55,23 @@ std::vector<std::string> Findings::lines() const {
     return lines;
 }
 
-std::string Findings::text() const {
-    Json lines = Json::array();
-    for (const Line& it : _lines)
-        lines.push_back({static_cast<int>(it.outcome), it.what, it.example, it.times});
-    return Json{{"lines", lines}, {"notes", _notes}, {"runs", _runs}}.dump(
+std::string Findings::to_json() const {
+    Json findings = Json::array();
+    for (const Finding& it : _findings)
+        findings.push_back({static_cast<int>(it.outcome), it.text, it.example, it.times});
+    return Json{{"findings", findings}, {"notes", _notes}, {"runs", _runs}}.dump(
         -1, ' ', false, Json::error_handler_t::replace);
 }
 
-Findings Findings::parse(const std::string& text) {
-    const Json told = Json::parse(text);
+Findings Findings::from_json(const std::string& json) {
+    const Json parsed = Json::parse(json);
     Findings findings;
-    for (const Json& it : told["lines"]) {
+    for (const Json& it : parsed["findings"]) {
         findings.add(static_cast<Outcome>(it[0].get<int>()), it[1], it[2]);
-        findings._lines.back().times = it[3];
+        findings._findings.back().times = it[3];
     }
-    findings._notes = told["notes"].get<std::vector<std::string>>();
-    findings._runs = told["runs"];
+    findings._notes = parsed["notes"].get<std::vector<std::string>>();
+    findings._runs = parsed["runs"];
     return findings;
 }
 

@@ -1,7 +1,7 @@
-// What the plug-in registers when it is entered.
+// What the plug-in registers in its entry function.
 
-#include "minihost/check/Groups.h"
-#include "minihost/check/Life.h"
+#include "minihost/check/CheckFunctions.h"
+#include "minihost/check/PluginRun.h"
 
 #include <algorithm>
 #include <set>
@@ -10,8 +10,8 @@ namespace minihost {
 
 namespace {
 
-// All of it in words, so that two loads can be compared.
-std::vector<std::string> registered(Host& host) {
+// In words, for the report and to compare two loads.
+std::vector<std::string> registrations(Host& host) {
     std::vector<std::string> lines;
     for (const CommandHook& it : host.hooks().command)
         lines.push_back(it.command == AEGP_Command_ALL ? "a command hook for all commands"
@@ -21,8 +21,7 @@ std::vector<std::string> registered(Host& host) {
     lines.insert(lines.end(), host.hooks().death.size(), "a death hook");
     for (const MenuItem& it : host.menu())
         lines.push_back("a command \"" + it.text + "\" in menu " + std::to_string(it.menu));
-    for (const std::string& name : host.panels.match_names())
-        lines.push_back("panels \"" + name + "\"");
+    for (const auto& [name, kind] : host.panels.kinds()) lines.push_back("panels \"" + name + "\"");
     return lines;
 }
 
@@ -42,7 +41,7 @@ void check_menu(Host& host, Findings& findings) {
     if (!host.menu().empty() && host.hooks().update_menu.empty())
         findings.fail("no menu hook is registered: nothing enables the command");
     if (host.hooks().death.empty()) findings.warn("no death hook is registered");
-    for (const std::string& name : host.panels.match_names())
+    for (const auto& [name, kind] : host.panels.kinds())
         if (name.empty()) findings.fail("a kind of panel has no name");
 }
 
@@ -51,10 +50,10 @@ void check_menu(Host& host, Findings& findings) {
 void check_registered(const CheckContext& context, Findings& findings) {
     std::vector<std::string> before;
     for (int load = 0; load < 2; ++load) {
-        Life life(context.subject.plugin, context.subject.scene, {}, context.place);
-        if (!life.load()) return findings.fail(life.why_not());
-        Host& host = life.session().host();
-        const std::vector<std::string> now = registered(host);
+        PluginRun run(context.target.plugin, context.target.scene, {}, context.progress);
+        if (!run.load()) return findings.fail(run.load_error());
+        Host& host = run.session().host();
+        const std::vector<std::string> now = registrations(host);
         if (load == 0) {
             check_menu(host, findings);
             for (const std::string& line : now) findings.note("registered: " + line);
@@ -62,7 +61,7 @@ void check_registered(const CheckContext& context, Findings& findings) {
             findings.fail("a second load registers other hooks than the first");
         }
         before = now;
-        life.unload();
+        run.unload();
         findings.count_run();
     }
 }

@@ -1,9 +1,11 @@
-// A host that misbehaves: in every life, an answer of a kind, or every one, is nonsense, or the
-// scene changes between two calls. It may make hooks return errors, and nothing else.
+// A host that misbehaves: in every scenario, each result of a kind is corrupted, or all of them, or
+// the scene changes between two calls. Hooks may return errors, but nothing else may go wrong.
 
-#include "minihost/check/Groups.h"
-#include "minihost/check/Interference.h"
-#include "minihost/check/Life.h"
+#include "minihost/check/CheckFunctions.h"
+#include "minihost/check/ChildPool.h"
+#include "minihost/check/Deviations.h"
+#include "minihost/check/PluginRun.h"
+#include "minihost/check/ReplayCommands.h"
 
 #include <algorithm>
 #include <limits>
@@ -14,129 +16,125 @@ namespace minihost {
 
 namespace {
 
-// How many single answers of a kind are spoiled in the first life, on a level; a part of them in
-// the others, which are much like it.
-constexpr std::int64_t most_answers[] = {8, 8, 10, 12, 16, 20, 30, 40, 60, 100};
-constexpr std::int64_t part_of_other_lives = 10;
-// What a life may take; nonsense must not make it ask for all that there is.
-constexpr rlim_t most_memory = rlim_t{4} << 30;
+// How many single results of a kind are corrupted in the first scenario, by level. The others,
+// which are similar, get a fraction.
+constexpr std::int64_t max_results[] = {8, 8, 10, 12, 16, 20, 30, 40, 60, 100};
+constexpr std::int64_t fraction_of_others = 10;
+constexpr rlim_t max_memory = rlim_t{4} << 30;
 
-[[noreturn]] void tell_of_memory() {
+[[noreturn]] void exit_out_of_memory() {
     std::fputs("it asked for more than 4 GB of memory\n", stderr);
     std::fflush(stderr);
     std::_Exit(1);
 }
 
 void limit_memory() {
-    if (sanitizer_factor > 1) return; // they take more than that by themselves
-    const rlimit limit{most_memory, most_memory};
+    if (sanitizer_factor > 1) return; // sanitizers need more
+    const rlimit limit{max_memory, max_memory};
     ::setrlimit(RLIMIT_AS, &limit);
-    std::set_new_handler(tell_of_memory);
+    std::set_new_handler(exit_out_of_memory);
 }
 
 class HostileCheck {
   public:
-    HostileCheck(const CheckContext& context, Findings& findings, AnswerKind kind)
+    HostileCheck(const CheckContext& context, Findings& findings, MisbehaviourKind kind)
         : _context(context),
-          _subject(context.subject),
+          _target(context.target),
           _findings(findings),
           _kind(kind),
-          _crew(_subject.limits(), Child::Exit::Proper) {}
+          _pool(_target.limits(), Child::Exit::Normal) {}
 
     void run() {
-        for (const RehearsedLife& plain : _context.rehearsal.lives) {
-            if (!plain.ended_well() || !plain.scenario.is_mode) continue;
-            const std::int64_t answers = count_answers(plain);
-            if (answers == 0) continue;
-            for (const Misdeed& misdeed : misdeeds()) {
-                if (misdeed.kind != _kind) continue;
-                misbehave(plain, {&misdeed, 0});
-                for (const std::int64_t number :
-                     picks(answers, &plain == &_context.rehearsal.lives[0]))
-                    misbehave(plain, {&misdeed, number});
+        for (const BaselineRun& baseline : _context.baseline.runs) {
+            if (!baseline.is_complete() || baseline.scenario.is_text_variant) continue;
+            const std::int64_t results = count_results(baseline.scenario);
+            if (results == 0) continue;
+            const bool is_first = &baseline == &_context.baseline.runs[0];
+            for (const Misbehaviour& misbehaviour : misbehaviours()) {
+                if (misbehaviour.kind != _kind) continue;
+                try_misbehaviour(baseline, {&misbehaviour, 0});
+                for (const std::int64_t number : choose_numbers(results, is_first))
+                    try_misbehaviour(baseline, {&misbehaviour, number});
             }
         }
-        _crew.finish();
+        _pool.finish();
         if (_findings.runs() == 0) _findings.skip("the plug-in asks for nothing of the kind");
-        note_cut(_subject, _findings);
+        note_small_scene(_target, _findings);
     }
 
   private:
-    // Evenly among all, others in each life.
-    std::vector<std::int64_t> picks(std::int64_t answers, bool is_first) {
-        const std::int64_t all = most_answers[_subject.level - 1];
-        const std::int64_t most =
-            is_first ? all : std::max<std::int64_t>(1, all / part_of_other_lives);
-        const std::int64_t stride = std::max<std::int64_t>(1, answers / most);
+    // Evenly among all results, and different ones for each scenario.
+    std::vector<std::int64_t> choose_numbers(std::int64_t results, bool is_first) {
+        const std::int64_t all = max_results[_target.level - 1];
+        const std::int64_t count =
+            is_first ? all : std::max<std::int64_t>(1, all / fraction_of_others);
+        const std::int64_t stride = std::max<std::int64_t>(1, results / count);
         std::vector<std::int64_t> numbers;
-        for (std::int64_t i = 1 + _turn++ % stride; i <= answers; i += stride) numbers.push_back(i);
+        for (std::int64_t i = 1 + _turn++ % stride; i <= results; i += stride) numbers.push_back(i);
         return numbers;
     }
 
-    std::int64_t count_answers(const RehearsedLife& plain) {
+    std::int64_t count_results(const Scenario& scenario) {
         HostOptions options;
-        for (const Misdeed& it : misdeeds())
-            options.misdeeds.push_back({&it, std::numeric_limits<std::int64_t>::max()});
-        const Ending counted = run_in_child(
-            [&](Place& place) {
-                Life life(_subject.plugin, _subject.small_scene, options, place);
-                life.live(plain.scenario);
-                return std::to_string(life.session().host().misbehaviour.answers(_kind));
+        for (const Misbehaviour& it : misbehaviours())
+            options.misbehaviours.push_back({&it, std::numeric_limits<std::int64_t>::max()});
+        const ChildResult counted = run_in_child(
+            [&](ChildProgress& progress) {
+                PluginRun run(_target.plugin, _target.small_scene, options, progress);
+                run.play(scenario);
+                return std::to_string(run.session().host().misbehaviour_plan.count(_kind));
             },
-            _subject.limits(), Child::Exit::Quick);
-        // Otherwise the rehearsal tells.
-        return counted.kind == Ending::Kind::Done ? std::stoll(counted.result) : 0;
+            _target.limits(), Child::Exit::Quick);
+        // Other checks report a failure here.
+        return counted.kind == ChildResult::Kind::Done ? std::stoll(counted.output) : 0;
     }
 
-    void misbehave(const RehearsedLife& plain, PlannedMisdeed planned) {
-        _crew.run(
-            [this, &plain, planned](Place& place) {
+    void try_misbehaviour(const BaselineRun& baseline, PlannedMisbehaviour planned) {
+        _pool.run(
+            [this, &baseline, planned](ChildProgress& progress) {
                 limit_memory();
                 HostOptions options;
-                options.misdeeds = {planned};
-                Life life(_subject.plugin, _subject.small_scene, options, place);
-                life.live(plain.scenario);
-                return faults_text(life.faults());
+                options.misbehaviours = {planned};
+                return violations_of_run(_target.plugin, _target.small_scene, options,
+                                         baseline.scenario, progress);
             },
-            [this, &plain, planned](const Ending& ending) {
-                const std::string example = example_of(plain, planned);
-                _context.place.enter(example);
-                ++_context.place.runs;
-                _findings.count_run();
-                tell(ending, plain, example);
+            [this, &baseline, planned](const ChildResult& result) {
+                report(result, baseline, example_of(baseline.scenario, planned));
             });
     }
 
-    void tell(const Ending& ending, const RehearsedLife& plain, const std::string& example) {
-        std::set<FaultKind> known = plain.kinds();
-        known.insert(FaultKind::HookError); // that is how a plug-in gives up
-        if (_kind == AnswerKind::Scene) known.insert(FaultKind::StaleHandle);
-        // The host refuses what it gave; still it is better not to ask it.
-        if (_kind == AnswerKind::Handle && ending.kind == Ending::Kind::Done)
-            for (const Fault& fault : faults_in(ending.result))
-                if (fault.kind == FaultKind::WrongHandle && !known.contains(fault.kind))
-                    _findings.add(Outcome::Warn, fault.text, example);
-        if (_kind == AnswerKind::Handle) known.insert(FaultKind::WrongHandle);
-        tell_disturbed(ending, known, example, _findings);
+    void report(const ChildResult& result, const BaselineRun& baseline,
+                const std::string& example) {
+        std::set<ViolationKind> known = baseline.kinds();
+        known.insert(ViolationKind::HookError); // hooks may give up
+        if (_kind == MisbehaviourKind::Scene) known.insert(ViolationKind::StaleHandle);
+        // The host rejects the null handle that it gave itself, so using it is not worse than a
+        // warning.
+        if (_kind == MisbehaviourKind::Handle && result.kind == ChildResult::Kind::Done)
+            for (const Violation& violation : violations_from_json(result.output))
+                if (violation.kind == ViolationKind::WrongHandle && !known.contains(violation.kind))
+                    _findings.add(Outcome::Warn, violation.text, example);
+        if (_kind == MisbehaviourKind::Handle) known.insert(ViolationKind::WrongHandle);
+        report_deviations(result, known, example, _context.progress, _findings);
     }
 
-    std::string example_of(const RehearsedLife& plain, PlannedMisdeed planned) const {
-        std::string text = planned.misdeed->word;
+    std::string example_of(const Scenario& scenario, PlannedMisbehaviour planned) const {
+        std::string text = planned.misbehaviour->word;
         if (planned.number > 0) text += ":" + std::to_string(planned.number);
-        return where_counted(_subject, plain.scenario, "--misbehave " + shell_word(text));
+        return counted_replay_hint(_target, scenario, "--misbehave " + shell_quote(text));
     }
 
     const CheckContext& _context;
-    const Subject& _subject;
+    const Target& _target;
     Findings& _findings;
-    AnswerKind _kind;
+    const MisbehaviourKind _kind;
     std::int64_t _turn = 0;
-    Crew _crew;
+    ChildPool _pool;
 };
 
 } // namespace
 
-void tell_hostile(const CheckContext& context, Findings& findings, AnswerKind kind) {
+void report_hostile(const CheckContext& context, Findings& findings, MisbehaviourKind kind) {
     HostileCheck(context, findings, kind).run();
 }
 

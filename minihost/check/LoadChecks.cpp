@@ -1,9 +1,8 @@
-// Loading and unloading: what the module's file exports, whether it starts, what a thousand loads
-// leave behind.
+// Loading and unloading: what the module exports, whether it loads, what many loads leave behind.
 
+#include "minihost/check/CheckFunctions.h"
 #include "minihost/check/Exports.h"
-#include "minihost/check/Groups.h"
-#include "minihost/check/Life.h"
+#include "minihost/check/PluginRun.h"
 
 #include <filesystem>
 #include <fstream>
@@ -15,8 +14,8 @@ namespace minihost {
 
 namespace {
 
-constexpr int loads_per_level = 100; // a thousand on the highest
-constexpr int warm_up = 10;          // loads that may still fill caches
+constexpr int loads_per_level = 100;
+constexpr int warm_up_loads = 10; // may still fill caches
 
 std::size_t count_files(const char* folder) {
     std::error_code unreadable;
@@ -31,20 +30,21 @@ std::size_t count_mappings() {
     return count;
 }
 
-struct Holdings {
+struct ProcessResources {
     std::size_t files = count_files("/proc/self/fd");
     std::size_t threads = count_files("/proc/self/task");
     std::size_t mappings = count_mappings();
 };
 
-// Bytes that are allocated; nothing where the C library is not the one that allocates.
+// Nothing if a sanitizer replaces the allocator.
 std::optional<std::size_t> allocated_bytes() {
     const struct mallinfo2 info = ::mallinfo2();
     if (sanitizer_factor > 1 || info.uordblks == 0) return std::nullopt;
     return info.uordblks + info.hblkhd;
 }
 
-void compare(const Holdings& before, const Holdings& after, int loads, Findings& findings) {
+void compare(const ProcessResources& before, const ProcessResources& after, int loads,
+             Findings& findings) {
     const auto grown = [&](const char* what, std::size_t from, std::size_t to) {
         findings.fail(std::string(what) + " grew from " + std::to_string(from) + " to " +
                       std::to_string(to) + " in " + std::to_string(loads) + " loads");
@@ -52,7 +52,7 @@ void compare(const Holdings& before, const Holdings& after, int loads, Findings&
     const auto count = static_cast<std::size_t>(loads);
     if (after.files > before.files) grown("open files", before.files, after.files);
     if (after.threads > before.threads) grown("threads", before.threads, after.threads);
-    // The allocator maps memory now and then; a mapping every other load is a leak.
+    // The allocator maps memory now and then, but not at every other load.
     if (after.mappings > before.mappings + count / 2)
         grown("mappings of memory", before.mappings, after.mappings);
 }
@@ -64,7 +64,7 @@ void check_exports(const CheckContext& context, Findings& findings) {
     bool has_entry = false;
     std::vector<std::string> names;
     try {
-        names = exported_symbols(context.subject.plugin);
+        names = exported_symbols(context.target.plugin);
     } catch (const std::runtime_error& error) {
         return findings.fail(error.what());
     }
@@ -79,65 +79,63 @@ void check_exports(const CheckContext& context, Findings& findings) {
 
 void check_entry(const CheckContext& context, Findings& findings) {
     findings.count_run();
-    if (!context.rehearsal.why_not.empty()) return findings.fail(context.rehearsal.why_not);
-    for (const RehearsedLife& life : context.rehearsal.lives)
-        if (!life.ended_well() && life.ending.step == "load")
-            return findings.crash(death_of(life.ending));
+    if (!context.baseline.load_error.empty()) return findings.fail(context.baseline.load_error);
+    for (const BaselineRun& run : context.baseline.runs)
+        if (!run.is_complete() && run.result.last_checkpoint == "load")
+            return findings.crash(describe_failure(run.result));
 }
 
 void check_loading_repeatedly(const CheckContext& context, Findings& findings) {
-    const RehearsedLife& plain = context.rehearsal.lives.front();
-    if (!plain.ended_well() && plain.ending.step == "unload")
+    const BaselineRun& plain = context.baseline.runs.front();
+    if (!plain.is_complete() && plain.result.last_checkpoint == "unload")
         return findings.skip("not even one unloading ends well");
-    const int loads = loads_per_level * context.subject.level;
-    std::optional<Holdings> before;
+    const int loads = loads_per_level * context.target.level;
+    std::optional<ProcessResources> before;
     for (int number = 1; number <= loads; ++number) {
-        if (number == warm_up) before.emplace();
-        Life life(context.subject.plugin, context.subject.small_scene, {}, context.place);
-        if (!life.load())
-            return findings.fail("load " + std::to_string(number) + ": " + life.why_not());
-        life.unload();
+        if (number == warm_up_loads) before.emplace();
+        PluginRun run(context.target.plugin, context.target.small_scene, {}, context.progress);
+        if (!run.load())
+            return findings.fail("load " + std::to_string(number) + ": " + run.load_error());
+        run.unload();
         findings.count_run();
-        ++context.place.runs;
+        ++context.progress.runs;
     }
-    compare(*before, {}, loads - warm_up, findings);
-    note_cut(context.subject, findings);
+    compare(*before, {}, loads - warm_up_loads, findings);
+    note_small_scene(context.target, findings);
 }
 
-// A whole life again and again: what is allocated may not go on growing.
+// Many whole runs must not allocate more and more.
 void check_memory(const CheckContext& context, Findings& findings) {
-    const RehearsedLife& plain = context.rehearsal.lives.front();
-    if (!plain.ended_well()) return findings.skip("the plain life does not end well");
-    for (const Fault& fault : plain.faults)
-        if (fault.kind == FaultKind::Leak) {
-            findings.fail(fault.text);
-            for (const std::string& line : plain.ending.said) findings.note(line);
+    const BaselineRun& plain = context.baseline.runs.front();
+    if (!plain.is_complete()) return findings.skip("the plain life does not end well");
+    for (const Violation& violation : plain.violations)
+        if (violation.kind == ViolationKind::Leak) {
+            findings.fail(violation.text);
+            for (const std::string& line : plain.result.error_lines) findings.note(line);
         }
     if (!allocated_bytes()) {
-        findings.count_run(); // the rehearsal's
+        findings.count_run(); // that of the baseline
         findings.note("told by the leak sanitizer");
         return;
     }
-    constexpr std::size_t most_bytes_per_life = 256; // a runtime's own lists may grow a little
-    const int lives = 10 + 4 * context.subject.level;
+    constexpr std::size_t max_bytes_per_run = 256; // the runtime's tables may grow
+    const int runs = 10 + 4 * context.target.level;
     std::optional<std::size_t> before;
-    for (int number = 0; number < 2 * lives; ++number) {
-        if (number == lives) before = allocated_bytes();
-        {
-            Life life(context.subject.plugin, context.subject.small_scene, {}, context.place);
-            life.live(plain.scenario);
-        }
+    for (int number = 0; number < 2 * runs; ++number) {
+        if (number == runs) before = allocated_bytes();
+        PluginRun(context.target.plugin, context.target.small_scene, {}, context.progress)
+            .play(plain.scenario);
         findings.count_run();
-        ++context.place.runs;
+        ++context.progress.runs;
     }
     const std::size_t after = *allocated_bytes();
     const std::size_t grown =
-        after > *before ? (after - *before) / static_cast<std::size_t>(lives) : 0;
-    if (grown > most_bytes_per_life)
+        after > *before ? (after - *before) / static_cast<std::size_t>(runs) : 0;
+    if (grown > max_bytes_per_run)
         findings.fail("every life leaves " + std::to_string(grown) + " bytes behind");
     else
         findings.note("every life leaves " + std::to_string(grown) + " bytes behind");
-    note_cut(context.subject, findings);
+    note_small_scene(context.target, findings);
 }
 
 } // namespace minihost

@@ -1,4 +1,4 @@
-// A file in memory that a process shares with those that it forks off.
+// A file in memory, shared with forked processes.
 
 #pragma once
 
@@ -18,8 +18,8 @@ class MemoryFile {
 
     int descriptor() const { return _file; }
     void write(std::string_view text);
-    // What was written to it, of more than `most` bytes the last ones.
-    std::string content(std::size_t most = SIZE_MAX) const;
+    // The last bytes, up to `max`.
+    std::string content(std::size_t max = SIZE_MAX) const;
 
   private:
     const int _file;

@@ -1,8 +1,10 @@
-// Hosts that lack suites: the optional ones in all combinations, and each suite once.
+// Hosts that lack suites: the optional ones in all combinations, and each suite alone.
 
-#include "minihost/check/Groups.h"
-#include "minihost/check/Interference.h"
-#include "minihost/check/Life.h"
+#include "minihost/check/CheckFunctions.h"
+#include "minihost/check/ChildPool.h"
+#include "minihost/check/Deviations.h"
+#include "minihost/check/PluginRun.h"
+#include "minihost/check/ReplayCommands.h"
 #include "minihost/suites/SuiteTable.h"
 
 #include <algorithm>
@@ -11,9 +13,9 @@ namespace minihost {
 
 namespace {
 
-constexpr int level_of_all_lives = 5;
+constexpr int all_scenarios_level = 5;
 
-std::vector<std::string> optional_parts() {
+std::vector<std::string> words_of_optional_suites() {
     std::vector<std::string> words;
     for (const Suite& suite : suites())
         if (suite.without && std::find(words.begin(), words.end(), suite.without) == words.end())
@@ -21,34 +23,31 @@ std::vector<std::string> optional_parts() {
     return words;
 }
 
-// Lives through the scenarios on a host without these parts. `allowed` kinds are no faults then.
-void live_without(const CheckContext& context, Crew& crew, const std::set<std::string>& without,
-                  const std::set<FaultKind>& allowed, Findings& findings) {
+// Plays the scenarios on a host without these suites. `allowed` violations are not reported.
+void play_without(const CheckContext& context, ChildPool& pool, const std::set<std::string>& words,
+                  const std::set<ViolationKind>& allowed, Findings& findings) {
     std::string options;
-    for (const std::string& word : without)
-        options += (options.empty() ? "--without " : " --without ") + shell_word(word);
-    for (const RehearsedLife& plain : context.rehearsal.lives) {
-        // On low levels the plain one and the one that uses most stand for all.
-        if (context.subject.level < level_of_all_lives &&
-            &plain != &context.rehearsal.lives.front() && &plain != &context.rehearsal.lives.back())
+    for (const std::string& word : words)
+        options += (options.empty() ? "--without " : " --without ") + shell_quote(word);
+    const std::vector<BaselineRun>& runs = context.baseline.runs;
+    for (const BaselineRun& baseline : runs) {
+        // On low levels the first scenario and the last, which does most, stand for all.
+        if (context.target.level < all_scenarios_level && &baseline != &runs.front() &&
+            &baseline != &runs.back())
             continue;
-        if (!plain.ended_well() || !plain.scenario.is_mode) continue;
-        std::set<FaultKind> known = plain.kinds();
+        if (!baseline.is_complete() || baseline.scenario.is_text_variant) continue;
+        std::set<ViolationKind> known = baseline.kinds();
         known.insert(allowed.begin(), allowed.end());
-        const std::string example = where(context.subject, plain.scenario, options);
-        crew.run(
-            [&, without](Place& place) {
+        const std::string example = replay_hint(context.target, baseline.scenario, options);
+        pool.run(
+            [&, words](ChildProgress& progress) {
                 HostOptions host;
-                host.without = without;
-                Life life(context.subject.plugin, context.subject.small_scene, host, place);
-                life.live(plain.scenario);
-                return faults_text(life.faults());
+                host.without = words;
+                return violations_of_run(context.target.plugin, context.target.small_scene, host,
+                                         baseline.scenario, progress);
             },
-            [&, known, example](const Ending& ending) {
-                context.place.enter(example);
-                tell_disturbed(ending, known, example, findings);
-                findings.count_run();
-                ++context.place.runs;
+            [&, known, example](const ChildResult& result) {
+                report_deviations(result, known, example, context.progress, findings);
             });
     }
 }
@@ -56,31 +55,31 @@ void live_without(const CheckContext& context, Crew& crew, const std::set<std::s
 } // namespace
 
 void check_missing_optional(const CheckContext& context, Findings& findings) {
-    const std::vector<std::string> words = optional_parts();
-    Crew crew(context.subject.limits(), Child::Exit::Proper);
+    const std::vector<std::string> words = words_of_optional_suites();
+    ChildPool pool(context.target.limits(), Child::Exit::Normal);
     for (unsigned combination = 1; combination < 1u << words.size(); ++combination) {
         std::set<std::string> without;
         for (std::size_t i = 0; i < words.size(); ++i)
             if (combination >> i & 1u) without.insert(words[i]);
-        live_without(context, crew, without, {}, findings);
+        play_without(context, pool, without, {}, findings);
     }
-    crew.finish();
-    note_cut(context.subject, findings);
+    pool.finish();
+    note_small_scene(context.target, findings);
 }
 
 void check_missing_any(const CheckContext& context, Findings& findings) {
-    Crew crew(context.subject.limits(), Child::Exit::Proper);
+    ChildPool pool(context.target.limits(), Child::Exit::Normal);
     for (const Suite& suite : suites()) {
-        std::set<FaultKind> allowed{FaultKind::HookError};
-        // Without its suite nothing can be given back.
+        std::set<ViolationKind> allowed{ViolationKind::HookError};
+        // Nothing can be released without its suite.
         for (const char* call : suite.calls)
-            if (gives_back(suite.name + (std::string(".") + call)))
-                allowed.insert({FaultKind::HeldStream, FaultKind::HeldCollection});
-        live_without(context, crew, {suite.name + (" " + std::to_string(suite.version))}, allowed,
+            if (is_release_call(suite.name + (std::string(".") + call)))
+                allowed.insert({ViolationKind::HeldStream, ViolationKind::HeldCollection});
+        play_without(context, pool, {suite.name + (" " + std::to_string(suite.version))}, allowed,
                      findings);
     }
-    crew.finish();
-    note_cut(context.subject, findings);
+    pool.finish();
+    note_small_scene(context.target, findings);
 }
 
 } // namespace minihost

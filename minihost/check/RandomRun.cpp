@@ -1,118 +1,119 @@
 #include "minihost/check/RandomRun.h"
 
-#include "minihost/check/Groups.h"
-#include "minihost/check/Life.h"
+#include "minihost/check/PluginRun.h"
+
+#include <memory>
 
 namespace minihost {
 
 namespace {
 
-// Each line of the journal begins with what it is.
-constexpr char deed_mark = '=', line_mark = '+', refusal_mark = '!';
+// The first character of each line of the journal.
+constexpr char step_mark = '=', action_mark = '+', drop_mark = '!';
 
 } // namespace
 
-void Journal::begin_deed() {
-    _file.write(std::string(1, deed_mark) + "\n");
+void Journal::begin_step() {
+    _file.write(std::string(1, step_mark) + "\n");
 }
 
-void Journal::begin(const std::string& line) {
-    _file.write(line_mark + line + "\n");
+void Journal::begin_action(const std::string& line) {
+    _file.write(action_mark + line + "\n");
 }
 
-void Journal::refuse() {
-    _file.write(std::string(1, refusal_mark) + "\n");
+void Journal::drop_action() {
+    _file.write(std::string(1, drop_mark) + "\n");
 }
 
-std::vector<Deed> Journal::deeds() const {
+std::vector<Step> Journal::steps() const {
     const std::string text = _file.content();
-    std::vector<Deed> deeds;
+    std::vector<Step> steps;
     for (std::size_t start = 0; start < text.size();) {
         const std::size_t end = text.find('\n', start);
-        if (text[start] == deed_mark)
-            deeds.emplace_back();
-        else if (text[start] == line_mark)
-            deeds.back().push_back(text.substr(start + 1, end - start - 1));
+        if (text[start] == step_mark)
+            steps.emplace_back();
+        else if (text[start] == action_mark)
+            steps.back().push_back(text.substr(start + 1, end - start - 1));
         else
-            deeds.back().pop_back();
+            steps.back().pop_back();
         start = end + 1;
     }
-    std::erase_if(deeds, [](const Deed& it) { return it.empty(); });
-    return deeds;
+    std::erase_if(steps, [](const Step& it) { return it.empty(); });
+    return steps;
 }
 
-std::set<FaultKind> RandomRuns::known(const CheckContext& context) {
-    std::set<FaultKind> known;
-    for (const RehearsedLife& life : context.rehearsal.lives) known.merge(life.kinds());
-    return known;
+RandomRuns::RandomRuns(const CheckContext& context, Limits limits)
+    : _context(context), _pool(limits, Child::Exit::Normal) {
+    for (const BaselineRun& run : context.baseline.runs) _known.merge(run.kinds());
 }
 
-void RandomRuns::use(std::uint64_t seed, RandomUser::Way way, std::size_t deeds, Done done) {
-    run(
-        [user = RandomUser(seed, way), deeds](Session& session) mutable {
-            return deeds-- > 0 ? std::optional(user.next(session)) : std::nullopt;
+void RandomRuns::start_user(std::uint64_t seed, RandomUser::Input input, std::size_t steps,
+                            Done done) {
+    start(
+        [user = RandomUser(seed, input), steps](Session& session) mutable {
+            return steps-- > 0 ? std::optional(user.next(session)) : std::nullopt;
         },
         std::move(done));
 }
 
-void RandomRuns::repeat(std::vector<Deed> deeds, Done done) {
-    run(
-        [deeds = std::move(deeds), next = std::size_t{0}](Session&) mutable {
-            return next < deeds.size() ? std::optional(deeds[next++]) : std::nullopt;
+void RandomRuns::start_replay(std::vector<Step> steps, Done done) {
+    start(
+        [steps = std::move(steps), next = std::size_t{0}](Session&) mutable {
+            return next < steps.size() ? std::optional(steps[next++]) : std::nullopt;
         },
         std::move(done));
 }
 
-void RandomRuns::run(Next next, Done done) {
+void RandomRuns::start(Next next, Done done) {
     const auto journal = std::make_shared<Journal>();
-    _crew.run([this, next = std::move(next),
-               journal](Place& place) { return live(next, *journal, place); },
-              [this, done = std::move(done), journal](const Ending& ending) {
-                  ++_context.place.runs;
-                  done(result(ending, *journal));
+    _pool.run([this, next = std::move(next),
+               journal](ChildProgress& progress) { return play(next, *journal, progress); },
+              [this, done = std::move(done), journal](const ChildResult& child) {
+                  ++_context.progress.runs;
+                  done(result_of(child, *journal));
               });
 }
 
-// Until something goes wrong that did not without this.
-std::string RandomRuns::live(const Next& next, Journal& journal, Place& place) const {
-    Life life(_context.subject.plugin, _context.subject.small_scene, {}, place);
+// Stops at the first violation that the baseline does not have, and returns it.
+std::string RandomRuns::play(const Next& next, Journal& journal, ChildProgress& progress) const {
+    PluginRun run(_context.target.plugin, _context.target.small_scene, {}, progress);
     std::size_t seen = 0;
-    const auto new_fault = [&] {
-        for (; seen < life.faults().size(); ++seen)
-            if (!_known.contains(life.faults()[seen].kind)) return true;
+    const auto new_violation = [&] {
+        for (; seen < run.violations().size(); ++seen)
+            if (!_known.contains(run.violations()[seen].kind)) return true;
         return false;
     };
-    life.load();
-    while (!new_fault()) {
-        const auto deed = next(life.session());
-        if (!deed) {
-            life.unload();
-            new_fault();
+    run.load();
+    while (!new_violation()) {
+        const auto step = next(run.session());
+        if (!step) {
+            run.unload();
+            new_violation();
             break;
         }
-        journal.begin_deed();
-        for (const std::string& line : *deed) {
-            journal.begin(line);
-            if (!life.play(line)) journal.refuse();
+        journal.begin_step();
+        for (const std::string& line : *step) {
+            journal.begin_action(line);
+            if (!run.play(line)) journal.drop_action();
         }
     }
-    if (seen == life.faults().size()) return faults_text({});
-    return faults_text({life.faults()[seen]});
+    if (seen == run.violations().size()) return violations_to_json({});
+    return violations_to_json({run.violations()[seen]});
 }
 
-RandomResult RandomRuns::result(const Ending& ending, const Journal& journal) const {
+RandomResult RandomRuns::result_of(const ChildResult& child, const Journal& journal) const {
     RandomResult result;
-    if (ending.kind != Ending::Kind::Done) {
-        result.wrong = Wrong{ending.kind, {}};
-        result.text = death_of(ending);
-    } else if (const std::vector<Fault> faults = faults_in(ending.result); !faults.empty()) {
-        result.wrong = Wrong{ending.kind, faults[0].kind};
-        result.text = faults[0].text;
-    } else if (ending.leaked && !_known.contains(FaultKind::Leak)) {
-        result.wrong = Wrong{ending.kind, FaultKind::Leak};
+    if (child.kind != ChildResult::Kind::Done) {
+        result.failure = RunFailure{child.kind, {}};
+        result.text = describe_failure(child);
+    } else if (const auto violations = violations_from_json(child.output); !violations.empty()) {
+        result.failure = RunFailure{child.kind, violations[0].kind};
+        result.text = violations[0].text;
+    } else if (child.leaked && !_known.contains(ViolationKind::Leak)) {
+        result.failure = RunFailure{child.kind, ViolationKind::Leak};
         result.text = "memory is not freed at the end";
     }
-    if (result.wrong) result.deeds = journal.deeds();
+    if (result.failure) result.steps = journal.steps();
     return result;
 }
 

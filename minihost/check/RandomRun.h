@@ -1,67 +1,64 @@
-// A life in which a random user, or a list of deeds, uses the plug-in, in a process of its own;
-// what was done is known even when that process crashes.
+// Runs in which a random user, or a list of steps, uses the plug-in, in child processes. The steps
+// are known even after a crash.
 
 #pragma once
 
 #include "minihost/check/Check.h"
-#include "minihost/check/Crew.h"
+#include "minihost/check/ChildPool.h"
 #include "minihost/check/MemoryFile.h"
 #include "minihost/check/RandomUser.h"
 
-#include <memory>
 #include <optional>
 #include <set>
 
 namespace minihost {
 
-// What was done, as a child puts it down for its parent.
+// What a child did, as it records it for its parent.
 class Journal {
   public:
-    void begin_deed();
-    void begin(const std::string& line);
-    // The line begun last could not be done.
-    void refuse();
-    // The deeds, without lines that could not be done.
-    std::vector<Deed> deeds() const;
+    void begin_step();
+    void begin_action(const std::string& line);
+    // The last action was not possible.
+    void drop_action();
+    // Without the dropped actions.
+    std::vector<Step> steps() const;
 
   private:
     MemoryFile _file{"journal"};
 };
 
-// How a run went wrong: two that did so alike are equal in it.
-struct Wrong {
-    Ending::Kind ending = Ending::Kind::Done;
-    std::optional<FaultKind> fault; // of a run that came to its end
-    bool operator==(const Wrong&) const = default;
+// How a run failed; equal for equal failures.
+struct RunFailure {
+    ChildResult::Kind kind = ChildResult::Kind::Done;
+    std::optional<ViolationKind> violation; // of a run that ended by itself
+    bool operator==(const RunFailure&) const = default;
 };
 
 struct RandomResult {
-    std::optional<Wrong> wrong; // nothing when all went well
-    std::string text;           // what went wrong
-    std::vector<Deed> deeds;    // as far as it got
+    std::optional<RunFailure> failure;
+    std::string text;        // describes the failure
+    std::vector<Step> steps; // until then
 };
 
 class RandomRuns {
   public:
-    RandomRuns(const CheckContext& context, Limits limits)
-        : _context(context), _crew(limits, Child::Exit::Proper), _known(known(context)) {}
+    RandomRuns(const CheckContext& context, Limits limits);
 
     // `done` is called in this or a later call, or in finish().
     using Done = std::function<void(RandomResult)>;
-    void use(std::uint64_t seed, RandomUser::Way way, std::size_t deeds, Done done);
-    void repeat(std::vector<Deed> deeds, Done done);
-    void finish() { _crew.finish(); }
+    void start_user(std::uint64_t seed, RandomUser::Input input, std::size_t steps, Done done);
+    void start_replay(std::vector<Step> steps, Done done);
+    void finish() { _pool.finish(); }
 
   private:
-    static std::set<FaultKind> known(const CheckContext& context);
-    using Next = std::function<std::optional<Deed>(Session&)>;
-    void run(Next next, Done done);
-    std::string live(const Next& next, Journal& journal, Place& place) const;
-    RandomResult result(const Ending& ending, const Journal& journal) const;
+    using Next = std::function<std::optional<Step>(Session&)>;
+    void start(Next next, Done done);
+    std::string play(const Next& next, Journal& journal, ChildProgress& progress) const;
+    RandomResult result_of(const ChildResult& child, const Journal& journal) const;
 
     const CheckContext& _context;
-    Crew _crew;
-    std::set<FaultKind> _known;
+    ChildPool _pool;
+    std::set<ViolationKind> _known; // in the baseline
 };
 
 } // namespace minihost

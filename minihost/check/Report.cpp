@@ -20,7 +20,7 @@ std::string seconds_text(double seconds) {
     return text;
 }
 
-// Further lines of a text stand in as far as the first.
+// Further lines of the text are indented more.
 std::string indented(const std::string& text, const std::string& indent) {
     std::string lines = indent;
     for (const char c : text) {
@@ -55,26 +55,21 @@ std::string summary_text(const std::vector<CheckResult>& results, double seconds
     return text + " (" + seconds_text(seconds) + ")\n";
 }
 
-std::string report_json(const Subject& subject, const std::vector<CheckResult>& results) {
+std::string report_json(const Target& target, const std::vector<CheckResult>& results) {
     std::string text;
     JsonWriter json(text);
     json.begin_object().line(2).member("tool", "minihost " MINIHOST_VERSION);
-    json.line(2).member("plugin", std::string_view(subject.plugin));
-    json.line(2).key("scene");
-    if (subject.scene_file.empty())
-        json.null();
-    else
-        json.value(std::string_view(subject.scene_file));
-    json.line(2).member("level", subject.level);
-    json.line(2).member("seed", static_cast<std::int64_t>(subject.seed));
+    json.line(2).member("plugin", target.plugin).line(2);
+    json.member("scene", target.scene_file.empty() ? nullptr : target.scene_file.c_str());
+    json.line(2).member("level", target.level);
+    json.line(2).member("seed", static_cast<std::int64_t>(target.seed));
     json.line(2).key("checks").begin_array();
     for (const CheckResult& it : results) {
         json.line(4).begin_object().member("id", it.check->id);
         json.member("group", it.check->group()).member("sentence", it.check->sentence);
         json.member("outcome", name_of(it.findings.outcome())).member("seconds", it.seconds);
-        json.member("runs", it.findings.runs()).key("details").begin_array();
-        for (const std::string& line : it.findings.lines()) json.value(std::string_view(line));
-        json.end_array().end_object();
+        json.member("runs", it.findings.runs()).key("details").array(it.findings.lines());
+        json.end_object();
     }
     json.end_array().end_object();
     return text + "\n";

@@ -1,10 +1,9 @@
-// How checks are told: lines for people, a file of JSON for programs.
+// The results of checks as text for people and as JSON for programs.
 
 #pragma once
 
 #include "minihost/check/Check.h"
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,10 +15,10 @@ struct CheckResult {
     double seconds;
 };
 
-// "pass   load.entry   The module is ... 0.01 s"; what was found on lines of its own below.
+// "pass   load.entry   The module is ... 0.01 s", with the findings on lines below.
 std::string result_text(const CheckResult& result);
 // "25 checks: 24 passed, 1 failed (4.1 s)"
 std::string summary_text(const std::vector<CheckResult>& results, double seconds);
-std::string report_json(const Subject& subject, const std::vector<CheckResult>& results);
+std::string report_json(const Target& target, const std::vector<CheckResult>& results);
 
 } // namespace minihost

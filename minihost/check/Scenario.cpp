@@ -11,74 +11,72 @@ namespace minihost {
 
 namespace {
 
-constexpr int level_of_all_modes = 4, level_of_more_texts = 6;
+constexpr int all_variants_level = 4, more_texts_level = 6;
 
-// What somebody may type into a field.
+// What a user may type into a field.
 constexpr const char* texts[] = {"7.5", "0", "-3", "250", "x", ""};
 
 using Lines = std::vector<std::string>;
 
-struct Mode {
+// One way to change the controls.
+struct Variant {
     std::string name;
     Lines lines;
     bool is_text = false;
 };
 
-class Deriver {
+class ScenarioBuilder {
   public:
-    Deriver(const std::vector<Control>& controls, const ControlNames& names, int level)
+    ScenarioBuilder(const std::vector<Control>& controls, const ControlNames& names, int level)
         : _names(names), _level(level) {
         for (const Control& it : controls)
             if (it.id) _controls.push_back(it);
     }
 
-    // Which check box must be on before a control is enabled.
-    void find_keys(const TryLines& try_lines) {
+    // Finds the check box that enables a control, for each control that is disabled.
+    void find_enablers(const PlayLines& play) {
         for (const Control& it : _controls) {
             if (it.kind != "check box" || !it.enabled) continue;
-            for (const Control& then : try_lines({otherwise(it)}))
+            for (const Control& then : play({toggle(it)}))
                 if (then.id && then.enabled && is_disabled(*then.id))
-                    _keys.try_emplace(*then.id, otherwise(it));
-            try_lines({set(it, std::get<bool>(it.value) ? "on" : "off")});
+                    _enablers.try_emplace(*then.id, toggle(it));
+            play({set(it, std::get<bool>(it.value) ? "on" : "off")});
         }
     }
 
-    std::vector<Mode> modes() const {
-        std::vector<Mode> modes;
+    std::vector<Variant> variants() const {
+        std::vector<Variant> variants;
         std::set<std::string> kinds;
-        Mode everything{"everything", {}};
+        Variant everything{"everything", {}};
         for (const Control& it : _controls) {
             const std::vector<std::string> lines = lines_of(it);
             if (it.kind == "check box")
                 for (const std::string& line : lines) everything.lines.push_back(line);
             // On low levels the first of a kind stands for all.
-            if (_level < level_of_all_modes && !kinds.insert(it.kind).second) continue;
+            if (_level < all_variants_level && !kinds.insert(it.kind).second) continue;
             for (const std::string& line : lines)
-                modes.push_back({line.substr(4), with_key(it, line), it.kind == "edit"});
+                variants.push_back({line.substr(4), with_enabler(it, line), it.kind == "edit"});
         }
-        if (!everything.lines.empty()) modes.push_back(std::move(everything));
-        return modes;
+        if (!everything.lines.empty()) variants.push_back(std::move(everything));
+        return variants;
     }
 
-    std::vector<ScenarioStep> presses() const {
-        std::vector<ScenarioStep> steps;
+    std::vector<ScenarioAction> button_presses() const {
+        std::vector<ScenarioAction> actions;
         for (const Control& it : _controls) {
             if (it.kind != "button") continue;
-            steps.push_back({Phase::Apply, "click " + quoted_word(name(it))});
-            steps.push_back({Phase::Idle, "idle"});
+            actions.push_back({Phase::Apply, "click " + quote_word(name(it))});
+            actions.push_back({Phase::Idle, "idle"});
         }
-        return steps;
+        return actions;
     }
 
   private:
-    std::string name(const Control& it) const {
-        const std::string name = _names.name_of(*it.id);
-        return name.empty() ? std::to_string(*it.id) : name;
-    }
+    std::string name(const Control& it) const { return _names.name_or_id(*it.id); }
     std::string set(const Control& it, const std::string& value) const {
-        return "set " + quoted_word(name(it) + "=" + value);
+        return "set " + quote_word(name(it) + "=" + value);
     }
-    std::string otherwise(const Control& it) const {
+    std::string toggle(const Control& it) const {
         return set(it, std::get<bool>(it.value) ? "off" : "on");
     }
     bool is_disabled(int id) const {
@@ -86,10 +84,10 @@ class Deriver {
                            [&](const Control& it) { return *it.id == id && !it.enabled; });
     }
 
-    // Each of the ways in which it can be set otherwise.
+    // Each way to change it.
     Lines lines_of(const Control& it) const {
         Lines lines;
-        if (it.kind == "check box") lines.push_back(otherwise(it));
+        if (it.kind == "check box") lines.push_back(toggle(it));
         if (it.kind == "radio button") lines.push_back(set(it, "on"));
         if (it.kind == "pop-up" && it.entries)
             for (std::size_t i = 0; i < it.entries->size(); ++i)
@@ -97,57 +95,68 @@ class Deriver {
         if (it.kind == "edit")
             for (const char* text : texts) {
                 lines.push_back(set(it, text));
-                if (_level < level_of_more_texts) break;
+                if (_level < more_texts_level) break;
             }
         return lines;
     }
-    Lines with_key(const Control& it, const std::string& line) const {
-        const auto key = _keys.find(*it.id);
-        return key == _keys.end() ? Lines{line} : Lines{key->second, line};
+    Lines with_enabler(const Control& it, const std::string& line) const {
+        const auto enabler = _enablers.find(*it.id);
+        return enabler == _enablers.end() ? Lines{line} : Lines{enabler->second, line};
     }
 
     const ControlNames& _names;
     int _level;
     std::vector<Control> _controls;
-    std::map<int, std::string> _keys;
+    std::map<int, std::string> _enablers; // lines by control
 };
 
-Scenario life_with(const std::string& name, const std::vector<ScenarioStep>& middle) {
+Scenario scenario_with(const std::string& name, const std::vector<ScenarioAction>& middle) {
     Scenario scenario{name, {{Phase::Open, "menu"}, {Phase::Idle, "idle"}}};
-    scenario.steps.insert(scenario.steps.end(), middle.begin(), middle.end());
+    scenario.actions.insert(scenario.actions.end(), middle.begin(), middle.end());
     return scenario;
 }
 
 } // namespace
 
-Scenario plain_life() {
-    return life_with("life", {{Phase::Close, "menu"},
-                              {Phase::Open, "menu"},
-                              {Phase::Idle, "idle"},
-                              {Phase::Close, "close-panel"},
-                              {Phase::Idle, "idle"},
-                              {Phase::Open, "menu"},
-                              {Phase::Idle, "idle"}});
+Phase Scenario::phase_of_part(std::size_t part) const {
+    if (part == 0) return Phase::Entry;
+    return part > actions.size() ? Phase::Death : actions[part - 1].phase;
+}
+
+std::string Scenario::name_of_part(std::size_t part) const {
+    if (part == 0) return "load";
+    return part > actions.size() ? "unload" : actions[part - 1].line;
+}
+
+Scenario plain_scenario() {
+    return scenario_with("life", {{Phase::Close, "menu"},
+                                  {Phase::Open, "menu"},
+                                  {Phase::Idle, "idle"},
+                                  {Phase::Close, "close-panel"},
+                                  {Phase::Idle, "idle"},
+                                  {Phase::Open, "menu"},
+                                  {Phase::Idle, "idle"}});
 }
 
 std::vector<Scenario> scenarios_of(const std::vector<Control>& controls, const ControlNames& names,
-                                   const TryLines& try_lines, int level) {
-    Deriver deriver(controls, names, level);
-    deriver.find_keys(try_lines);
-    const std::vector<ScenarioStep> presses = deriver.presses();
+                                   const PlayLines& play, int level) {
+    ScenarioBuilder builder(controls, names, level);
+    builder.find_enablers(play);
+    const std::vector<ScenarioAction> presses = builder.button_presses();
 
-    std::vector<Scenario> scenarios{plain_life()};
+    std::vector<Scenario> scenarios{plain_scenario()};
     if (!presses.empty()) {
-        auto& steps = scenarios[0].steps;
-        steps.insert(steps.begin() + 2, presses.begin(), presses.end());
-        steps.insert(steps.end(), presses.begin(), presses.end());
+        auto& actions = scenarios[0].actions;
+        actions.insert(actions.begin() + 2, presses.begin(), presses.end());
+        actions.insert(actions.end(), presses.begin(), presses.end());
     }
-    for (const Mode& mode : deriver.modes()) {
-        Scenario scenario = life_with(mode.name, {});
-        scenario.is_mode = !mode.is_text;
-        for (const std::string& line : mode.lines) scenario.steps.push_back({Phase::Apply, line});
-        scenario.steps.push_back({Phase::Idle, "idle"});
-        scenario.steps.insert(scenario.steps.end(), presses.begin(), presses.end());
+    for (const Variant& variant : builder.variants()) {
+        Scenario scenario = scenario_with(variant.name, {});
+        scenario.is_text_variant = variant.is_text;
+        for (const std::string& line : variant.lines)
+            scenario.actions.push_back({Phase::Apply, line});
+        scenario.actions.push_back({Phase::Idle, "idle"});
+        scenario.actions.insert(scenario.actions.end(), presses.begin(), presses.end());
         scenarios.push_back(std::move(scenario));
     }
     return scenarios;

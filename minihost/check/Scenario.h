@@ -1,5 +1,5 @@
-// Scenarios: what a user does in one life of a plug-in, as lines of an action file, made from what
-// the plug-in shows and from nothing else.
+// Scenarios: what a user does from loading a plug-in to unloading it, derived from the controls
+// that it shows.
 
 #pragma once
 
@@ -13,32 +13,36 @@ namespace minihost {
 
 class ControlNames;
 
-// What a step is to the plug-in. Entry and death are before and after all steps.
+// What an action does to the plug-in. Entry and Death are loading and unloading.
 enum class Phase { Entry, Open, Idle, Apply, Close, Death };
 
-struct ScenarioStep {
+struct ScenarioAction {
     Phase phase;
     std::string line; // of an action file
 };
 
 struct Scenario {
     std::string name;
-    std::vector<ScenarioStep> steps;
-    bool is_mode = true; // false when it differs from another one in a typed text alone
+    std::vector<ScenarioAction> actions;
+    bool is_text_variant = false; // differs from another one only in a typed text
+
+    // The first part is loading, then comes a part for each action, the last is unloading.
+    std::size_t part_count() const { return actions.size() + 2; }
+    Phase phase_of_part(std::size_t part) const;
+    std::string name_of_part(std::size_t part) const;
 };
 
-// The life that every plug-in can have: its command is chosen, its panel closed and opened again,
-// the host idle in between.
-Scenario plain_life();
+// What every plug-in can do: its command is chosen, its panel closed and opened again, with idle
+// calls in between.
+Scenario plain_scenario();
 
-// Sets controls with these lines, and gives the controls as they are then.
-using TryLines = std::function<std::vector<Control>(const std::vector<std::string>&)>;
+// Plays these lines and returns the controls as they are then.
+using PlayLines = std::function<std::vector<Control>(const std::vector<std::string>&)>;
 
-// All of `level` for a dialog with these controls: plain_life() with all buttons pressed; a life
-// for each way to set one check box, radio button, pop-up entry or edit otherwise, and one with all
-// check boxes so; every push button pressed in each. A control that is disabled until a check box
-// is on gets that one first.
+// All scenarios of a level: plain_scenario() with all buttons pressed; one for each way to change
+// one check box, radio button, pop-up or edit; one with all check boxes changed. Every button is
+// pressed in each. A control that a check box enables gets that one clicked first.
 std::vector<Scenario> scenarios_of(const std::vector<Control>& controls, const ControlNames& names,
-                                   const TryLines& try_lines, int level);
+                                   const PlayLines& play, int level);
 
 } // namespace minihost

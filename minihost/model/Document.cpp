@@ -7,12 +7,12 @@
 namespace minihost {
 
 Document::Document(Scene scene) : _scene(std::move(scene)) {
-    _names_before = std::exchange(_scene.undo_names, {});
+    _loaded_names = std::exchange(_scene.undo_names, {});
 }
 
 void Document::begin_group(std::string name) {
     if (_open_groups++ == 0)
-        _open = Step{std::move(name), {}, _scene.shared_selection(), nullptr, 0};
+        _open = UndoStep{std::move(name), {}, _scene.shared_selection(), nullptr, 0};
 }
 
 bool Document::end_group() {
@@ -27,8 +27,7 @@ bool Document::end_group() {
     return true;
 }
 
-// Carries a change out, which is the same as swapping it in, and keeps it.
-void Document::make(Change change, const char* step_name) {
+void Document::apply(Change change, const char* step_name) {
     ++_revision;
     _undone.clear();
     begin_group(step_name);
@@ -37,7 +36,7 @@ void Document::make(Change change, const char* step_name) {
     end_group();
 }
 
-void Document::swap_with_scene(Presence& change) {
+void Document::swap_with_scene(PresenceChange& change) {
     if (change.absent) {
         change.id = _scene.insert(std::move(change.absent), change.index);
     } else {
@@ -46,50 +45,50 @@ void Document::swap_with_scene(Presence& change) {
     }
 }
 
-void Document::swap_with_scene(Place& change) {
+void Document::swap_with_scene(IndexChange& change) {
     const std::size_t now = _scene.index_of(change.id);
     _scene.move(change.id, change.index);
     change.index = now;
 }
 
-void Document::swap_with_scene(Name& change) {
+void Document::swap_with_scene(NameChange& change) {
     std::string now = _scene.find(change.id)->name;
     _scene.rename(change.id, std::move(change.name));
     change.name = std::move(now);
 }
 
-void Document::swap_with_scene(Value& change) {
+void Document::swap_with_scene(ValueChange& change) {
     Layer& layer = *_scene.find(change.id);
-    const Vec3 now = resting_value(layer, change.stream);
-    set_resting_value(layer, change.stream, change.value);
+    const Vec3 now = static_value(layer, change.stream);
+    set_static_value(layer, change.stream, change.value);
     change.value = now;
 }
 
-void Document::swap_with_scene(Key& change) {
+void Document::swap_with_scene(KeyChange& change) {
     Keyframes& keys = *_scene.find(change.id)->keys_of(change.stream);
-    const auto place = keys.begin() + static_cast<std::ptrdiff_t>(change.index);
-    // A change never replaces a key by one at another time, so the times tell whether it is there.
-    const bool exists_now = place != keys.end() && place->time == change.key.time;
+    const auto at = keys.begin() + static_cast<std::ptrdiff_t>(change.index);
+    // A change never moves a key, so an equal time means that the key exists.
+    const bool exists_now = at != keys.end() && at->time == change.key.time;
     if (exists_now && change.exists) {
-        std::swap(*place, change.key);
+        std::swap(*at, change.key);
     } else if (change.exists) {
-        keys.insert(place, change.key);
+        keys.insert(at, change.key);
     } else {
-        change.key = *place;
-        keys.erase(place);
+        change.key = *at;
+        keys.erase(at);
     }
     change.exists = exists_now;
 }
 
 LayerId Document::add_layer(Layer layer, std::size_t index) {
     layer.id = 0;
-    make(Presence{0, index, std::make_unique<Layer>(std::move(layer))}, "Add Layer");
+    apply(PresenceChange{0, index, std::make_unique<Layer>(std::move(layer))}, "Add Layer");
     return _scene.layer_at(index).id;
 }
 
 void Document::remove_layer(LayerId id) {
     begin_group("Remove Layer");
-    make(Presence{id, 0, nullptr}, "Remove Layer");
+    apply(PresenceChange{id, 0, nullptr}, "Remove Layer");
     const Selection& selected = _scene.selection();
     if (std::find(selected.begin(), selected.end(), id) != selected.end()) {
         Selection rest = selected;
@@ -100,11 +99,11 @@ void Document::remove_layer(LayerId id) {
 }
 
 void Document::move_layer(LayerId id, std::size_t index) {
-    make(Place{id, index}, "Move Layer");
+    apply(IndexChange{id, index}, "Move Layer");
 }
 
 void Document::rename_layer(LayerId id, std::string name) {
-    make(Name{id, std::move(name)}, "Rename Layer");
+    apply(NameChange{id, std::move(name)}, "Rename Layer");
 }
 
 LayerId Document::duplicate_layer(LayerId id) {
@@ -112,7 +111,7 @@ LayerId Document::duplicate_layer(LayerId id) {
     copy->id = 0;
     copy->name = _scene.name_for_duplicate_of(id);
     const std::size_t index = _scene.index_of(id);
-    make(Presence{0, index, std::move(copy)}, "Duplicate");
+    apply(PresenceChange{0, index, std::move(copy)}, "Duplicate");
     return _scene.layer_at(index).id;
 }
 
@@ -133,12 +132,12 @@ void Document::duplicate_selection() {
 void Document::set_value(LayerId id, Stream stream, const Vec3& value, std::int32_t tick) {
     const Keyframes* keys = std::as_const(_scene).find(id)->keys_of(stream);
     if (!keys || keys->empty()) {
-        make(Value{id, stream, value}, "Set Value");
+        apply(ValueChange{id, stream, value}, "Set Value");
         return;
     }
     const auto [index, exists] = find_key(*keys, tick);
     const double time = exists ? (*keys)[index].time : static_cast<double>(tick) / ticks_per_second;
-    make(Key{id, stream, index, true, {time, value}}, "Set Value");
+    apply(KeyChange{id, stream, index, true, {time, value}}, "Set Value");
 }
 
 std::size_t Document::insert_key(LayerId id, Stream stream, std::int32_t tick) {
@@ -146,14 +145,15 @@ std::size_t Document::insert_key(LayerId id, Stream stream, std::int32_t tick) {
     const auto [index, exists] = find_key(*layer.keys_of(stream), tick);
     if (exists) return index;
     const double time = static_cast<double>(tick) / ticks_per_second;
-    make(Key{id, stream, index, true, {time, value_of(layer, stream, time)}}, "Insert Keyframe");
+    apply(KeyChange{id, stream, index, true, {time, value_of(layer, stream, time)}},
+          "Insert Keyframe");
     return index;
 }
 
 bool Document::undo() {
     if (_open_groups > 0 || _done.empty()) return false;
     ++_revision;
-    Step step = std::move(_done.back());
+    UndoStep step = std::move(_done.back());
     _done.pop_back();
     for (auto change = step.changes.rbegin(); change != step.changes.rend(); ++change)
         std::visit([this](auto& any) { swap_with_scene(any); }, *change);
@@ -165,7 +165,7 @@ bool Document::undo() {
 bool Document::redo() {
     if (_open_groups > 0 || _undone.empty()) return false;
     ++_revision;
-    Step step = std::move(_undone.back());
+    UndoStep step = std::move(_undone.back());
     _undone.pop_back();
     for (Change& change : step.changes)
         std::visit([this](auto& any) { swap_with_scene(any); }, change);
@@ -175,13 +175,13 @@ bool Document::redo() {
 }
 
 std::uint64_t Document::state() const {
-    if (!_open.changes.empty()) return ~_revision; // never a step's number
+    if (!_open.changes.empty()) return ~_revision; // differs from the number of every step
     return _done.empty() ? 0 : _done.back().number;
 }
 
 std::vector<std::string> Document::undo_names() const {
-    std::vector<std::string> names = _names_before;
-    for (const Step& step : _done) names.push_back(step.name);
+    std::vector<std::string> names = _loaded_names;
+    for (const UndoStep& step : _done) names.push_back(step.name);
     if (!_open.changes.empty()) names.push_back(_open.name);
     return names;
 }

@@ -7,7 +7,7 @@ namespace minihost {
 
 namespace {
 
-std::string written(double number) {
+std::string to_text(double number) {
     char buffer[32];
     return {buffer, std::to_chars(buffer, buffer + sizeof buffer, number).ptr};
 }
@@ -22,61 +22,59 @@ int hex_digit(char c) {
 } // namespace
 
 std::string FieldPath::text() const {
-    std::string before = above ? above->text() : "";
+    const std::string before = parent ? parent->text() : "";
     if (index >= 0) return before + "[" + std::to_string(index) + "]";
     if (before.empty()) return std::string(name);
     return before + "." + std::string(name);
 }
 
-void refuse(const FieldPath& path, std::string cause) {
+void reject(const FieldPath& path, std::string cause) {
     throw FieldError{path.text(), std::move(cause)};
 }
 
-double read_number(const JsonValue& value, const FieldPath& path, double least, double greatest) {
-    if (!value.is(JsonValue::Type::Number)) refuse(path, "must be a number");
-    const double number = value.number();
-    if (!std::isfinite(number)) refuse(path, "must be a finite number");
-    if (number < least || number > greatest)
-        refuse(path, "must be from " + written(least) + " to " + written(greatest) + ", not " +
-                         written(number));
+double read_number(const JsonValue& value, const FieldPath& path, double min, double max) {
+    if (!value.is(JsonValue::Type::Number)) reject(path, "must be a number");
+    const double number = value.number;
+    if (!std::isfinite(number)) reject(path, "must be a finite number");
+    if (number < min || number > max)
+        reject(path,
+               "must be from " + to_text(min) + " to " + to_text(max) + ", not " + to_text(number));
     return number;
 }
 
-int read_integer(const JsonValue& value, const FieldPath& path, int least, int greatest) {
-    if (!value.is(JsonValue::Type::Number)) refuse(path, "must be a whole number");
-    const double number = value.number();
-    if (!(number >= least && number <= greatest) || number != std::floor(number))
-        refuse(path, "must be a whole number from " + std::to_string(least) + " to " +
-                         std::to_string(greatest) + ", not " + written(number));
+int read_integer(const JsonValue& value, const FieldPath& path, int min, int max) {
+    if (!value.is(JsonValue::Type::Number)) reject(path, "must be a whole number");
+    const double number = value.number;
+    if (!(number >= min && number <= max) || number != std::floor(number))
+        reject(path, "must be a whole number from " + std::to_string(min) + " to " +
+                         std::to_string(max) + ", not " + to_text(number));
     return static_cast<int>(number);
 }
 
 bool read_boolean(const JsonValue& value, const FieldPath& path) {
-    if (!value.is(JsonValue::Type::Boolean)) refuse(path, "must be true or false");
-    return value.number() != 0;
+    if (!value.is(JsonValue::Type::Boolean)) reject(path, "must be true or false");
+    return value.number != 0;
 }
 
 const std::string& read_text(const JsonValue& value, const FieldPath& path) {
-    if (!value.is(JsonValue::Type::String)) refuse(path, "must be a text");
-    if (value.text().find('\0') != std::string::npos)
-        refuse(path, "must not hold a zero character");
-    return value.text();
+    if (!value.is(JsonValue::Type::String)) reject(path, "must be a text");
+    if (value.text.find('\0') != std::string::npos) reject(path, "must not hold a zero character");
+    return value.text;
 }
 
 void require_array(const JsonValue& value, const FieldPath& path) {
-    if (!value.is(JsonValue::Type::Array)) refuse(path, "must be an array");
+    if (!value.is(JsonValue::Type::Array)) reject(path, "must be an array");
 }
 
 Vec3 read_vector(const JsonValue& value, const FieldPath& path) {
     Vec3 numbers{};
     std::size_t count = 0;
     if (value.is(JsonValue::Type::Array))
-        for (const JsonValue element : value) {
-            if (count < 3)
-                numbers[count] = read_number(element, {&path, "", static_cast<long>(count)});
+        for (const JsonValue& element : value.items) {
+            if (count < 3) numbers[count] = read_number(element, element_of(path, count));
             ++count;
         }
-    if (count != 3) refuse(path, "must be an array of three numbers");
+    if (count != 3) reject(path, "must be an array of three numbers");
     return numbers;
 }
 
@@ -89,7 +87,7 @@ Color read_color(const JsonValue& value, const FieldPath& path) {
         good = high >= 0 && low >= 0;
         parts[i] = static_cast<std::uint8_t>(high * 16 + low);
     }
-    if (!good) refuse(path, "must be a colour such as \"#c04040\"");
+    if (!good) reject(path, "must be a colour such as \"#c04040\"");
     return {parts[0], parts[1], parts[2]};
 }
 

@@ -8,7 +8,7 @@ namespace minihost {
 
 namespace {
 
-// How many bytes from `at` on are one well-formed character of UTF-8; 0 when they are none.
+// The length of the UTF-8 character at `at` in bytes; 0 for invalid bytes.
 std::size_t character_length(std::string_view text, std::size_t at) {
     const auto byte = [&](std::size_t i) -> unsigned {
         return at + i < text.size() ? static_cast<unsigned char>(text[at + i]) : 0u;
@@ -31,32 +31,14 @@ std::size_t character_length(std::string_view text, std::size_t at) {
 }
 
 void append_escaped(std::string& out, char c) {
-    switch (c) {
-    case '"':
-        out += "\\\"";
-        return;
-    case '\\':
-        out += "\\\\";
-        return;
-    case '\n':
-        out += "\\n";
-        return;
-    case '\r':
-        out += "\\r";
-        return;
-    case '\t':
-        out += "\\t";
-        return;
-    default:
-        break;
-    }
-    if (static_cast<unsigned char>(c) >= 0x20 && c != 0x7f) {
-        out += c;
-        return;
-    }
+    constexpr std::string_view named = "\"\\\n\r\t", names = "\"\\nrt";
     char code[8];
-    std::snprintf(code, sizeof code, "\\u%04x", static_cast<unsigned>(c));
-    out += code;
+    if (const std::size_t found = named.find(c); found != named.npos)
+        out += {'\\', names[found]};
+    else if (static_cast<unsigned char>(c) >= 0x20 && c != 0x7f)
+        out += c;
+    else
+        out.append(code, std::snprintf(code, sizeof code, "\\u%04x", static_cast<unsigned>(c)));
 }
 
 void append_text(std::string& out, std::string_view text) {
@@ -119,7 +101,7 @@ JsonWriter& JsonWriter::value(std::string_view text) {
 JsonWriter& JsonWriter::value(double number) {
     if (!std::isfinite(number)) return null();
     comma();
-    // JSON readers take "-0" for the integer 0.
+    // JSON parsers read "-0" as the integer 0.
     if (number == 0 && std::signbit(number)) {
         _out += "-0.0";
         return *this;

@@ -1,8 +1,9 @@
-// JSON, written piece by piece onto the end of a text. Commas come by themselves.
+// Appends JSON to a text piece by piece, with commas where necessary.
 
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -18,21 +19,31 @@ class JsonWriter {
     JsonWriter& end_array() { return close(']'); }
     JsonWriter& key(std::string_view name);
 
-    JsonWriter& value(std::string_view text); // bytes that are no UTF-8 become U+FFFD
-    JsonWriter& value(const char* text) { return value(std::string_view(text)); }
-    // The shortest text that reads back as the same double; null for one that is not finite.
+    JsonWriter& value(std::string_view text); // invalid UTF-8 becomes U+FFFD
+    JsonWriter& value(const char* text) { return text ? value(std::string_view(text)) : null(); }
+    // The shortest text that reads back exactly; null for infinities and NaN.
     JsonWriter& value(double number);
     JsonWriter& value(std::int64_t number);
     JsonWriter& value(int number) { return value(static_cast<std::int64_t>(number)); }
     JsonWriter& value(std::size_t number) { return value(static_cast<std::int64_t>(number)); }
     JsonWriter& value(bool flag);
+    template <typename Value>
+    JsonWriter& value(const std::optional<Value>& it) {
+        return it ? value(*it) : null();
+    }
     JsonWriter& null();
+    template <typename Items>
+    JsonWriter& array(const Items& items) {
+        begin_array();
+        for (const auto& it : items) value(it);
+        return end_array();
+    }
 
     template <typename Value>
     JsonWriter& member(std::string_view name, const Value& it) {
         return key(name).value(it);
     }
-    // What comes next starts on a line of its own, after so many blanks.
+    // Starts a line with so many blanks.
     JsonWriter& line(int indent);
 
   private:

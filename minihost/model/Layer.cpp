@@ -18,7 +18,7 @@ constexpr std::array<KindName, 6> kind_names{{{LayerKind::Footage, "footage"},
                                               {LayerKind::Camera, "camera"},
                                               {LayerKind::Light, "light"}}};
 
-// The component of `rotation` that a rotation stream is; -1 for the other streams.
+// The component of `rotation`; -1 for other streams.
 int rotation_axis(Stream stream) {
     switch (stream) {
     case Stream::RotationX:
@@ -32,7 +32,7 @@ int rotation_axis(Stream stream) {
     }
 }
 
-// The three numbers that hold a stream's resting value. Works for const and other transforms.
+// The member for a stream, of a const or non-const transform.
 template <typename Transform>
 auto& numbers_of(Transform& transform, Stream stream) {
     switch (stream) {
@@ -71,18 +71,10 @@ std::optional<LayerKind> layer_kind(std::string_view name) {
 }
 
 std::optional<Stream> stream_of_number(int number) {
-    switch (number) {
-    case 0:
-    case 1:
-    case 2:
-    case 3:
-    case 8:
-    case 9:
-    case 10:
-        return static_cast<Stream>(number);
-    default:
-        return std::nullopt;
-    }
+    for (const KeyedStream& it : keyed_streams)
+        if (static_cast<int>(it.stream) == number) return it.stream;
+    if (number == static_cast<int>(Stream::AnchorPoint)) return Stream::AnchorPoint;
+    return std::nullopt;
 }
 
 int dimensions(Stream stream) {
@@ -109,13 +101,13 @@ const Keyframes* Layer::keys_of(Stream stream) const {
     return keys_in(*this, stream);
 }
 
-Vec3 resting_value(const Layer& layer, Stream stream) {
+Vec3 static_value(const Layer& layer, Stream stream) {
     const Vec3& numbers = numbers_of(layer.transform, stream);
     const int axis = rotation_axis(stream);
     return axis < 0 ? numbers : Vec3{numbers[static_cast<std::size_t>(axis)], 0, 0};
 }
 
-void set_resting_value(Layer& layer, Stream stream, const Vec3& value) {
+void set_static_value(Layer& layer, Stream stream, const Vec3& value) {
     Vec3& numbers = numbers_of(layer.transform, stream);
     const int axis = rotation_axis(stream);
     if (axis < 0)
@@ -126,7 +118,7 @@ void set_resting_value(Layer& layer, Stream stream, const Vec3& value) {
 
 Vec3 value_of(const Layer& layer, Stream stream, double seconds) {
     const Keyframes* keys = layer.keys_of(stream);
-    if (!keys || keys->empty()) return resting_value(layer, stream);
+    if (!keys || keys->empty()) return static_value(layer, stream);
     const auto after =
         std::lower_bound(keys->begin(), keys->end(), seconds,
                          [](const Keyframe& key, double time) { return key.time < time; });
@@ -145,7 +137,7 @@ std::int32_t to_ticks(double seconds) {
     return static_cast<std::int32_t>(std::llround(bounded * ticks_per_second));
 }
 
-KeyPlace find_key(const Keyframes& keys, std::int32_t tick) {
+KeyPosition find_key(const Keyframes& keys, std::int32_t tick) {
     const auto found = std::lower_bound(
         keys.begin(), keys.end(), tick,
         [](const Keyframe& key, std::int32_t wanted) { return to_ticks(key.time) < wanted; });

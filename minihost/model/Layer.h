@@ -1,5 +1,4 @@
-// One layer of a composition as plain values: what it is, its transform, its keyframes. The numbers
-// of the streams are those by which a plug-in asks for them.
+// A layer of a composition as plain values.
 
 #pragma once
 
@@ -15,16 +14,16 @@ namespace minihost {
 
 using Vec3 = std::array<double, 3>;
 
-// A number that stands for one layer for good: never used twice, rising in the order in which
-// layers came to be. 0 stands for no layer.
+// Never reused, and rising in the order in which layers are created. 0 is no layer.
 using LayerId = std::uint64_t;
 
 enum class LayerKind { Footage, Solid, Text, Shape, Camera, Light };
 
-// The name that a scene file uses; nothing for a word that is no kind.
+// The name in scene files, and back; nothing for an unknown name.
 std::string_view name_of(LayerKind kind);
 std::optional<LayerKind> layer_kind(std::string_view name);
 
+// The numbers are those that plug-ins use.
 enum class Stream {
     AnchorPoint = 0, // a camera's point of interest
     Position = 1,
@@ -35,9 +34,9 @@ enum class Stream {
     Orientation = 10,
 };
 
-// The stream of a number; nothing when there is none.
+// Nothing for a number without a stream.
 std::optional<Stream> stream_of_number(int number);
-// How many numbers a value of the stream has: 1 for the rotations, 3 otherwise.
+// How many numbers a value has: 1 for the rotations, 3 otherwise.
 int dimensions(Stream stream);
 
 struct Size {
@@ -70,10 +69,10 @@ struct Keyframe {
     bool operator==(const Keyframe&) const = default;
 };
 
-// The keys of one stream, sorted by time, no two at the same.
+// The keys of one stream, with rising times.
 using Keyframes = std::vector<Keyframe>;
 
-// The streams that can have keys, in the order in which a scene file names them.
+// The streams that can have keys, in the order of scene files.
 struct KeyedStream {
     Stream stream;
     std::string_view name;
@@ -91,42 +90,42 @@ struct Layer {
     LayerKind kind = LayerKind::Solid;
     bool three_d = false;
     Color color;
-    // In pixels: of the source for footage and solids, for the picture alone otherwise (0 x 0 when
-    // the scene does not tell).
+    // In pixels: of the source for footage and solids, otherwise only for the preview (0 x 0 if
+    // unknown).
     Size size;
     double start = 0; // seconds
     Transform transform;
     std::array<Keyframes, keyed_streams.size()> keys; // by the order of keyed_streams
 
     bool has_source() const { return kind == LayerKind::Footage || kind == LayerKind::Solid; }
-    // Cameras and lights stand in space whatever `three_d` says.
+    // Cameras and lights always are.
     bool is_3d() const { return three_d || kind == LayerKind::Camera || kind == LayerKind::Light; }
-    // Cameras and lights have no scale; a layer in the plane has no angles out of it.
+    // Cameras and lights have no scale, 2D layers only Z Rotation.
     bool has_stream(Stream stream) const;
 
-    // Null for a stream that has no keys ever (the anchor point).
+    // Null for a stream that cannot have keys.
     Keyframes* keys_of(Stream stream);
     const Keyframes* keys_of(Stream stream) const;
 };
 
-// The value that stands in the transform, keys or not; a rotation's is in [0].
-Vec3 resting_value(const Layer& layer, Stream stream);
-void set_resting_value(Layer& layer, Stream stream, const Vec3& value);
+// The value in the transform, whether there are keys or not. That of a rotation is in [0].
+Vec3 static_value(const Layer& layer, Stream stream);
+void set_static_value(Layer& layer, Stream stream, const Vec3& value);
 
-// The value at a time in seconds: between two keys linear, outside them that of the nearest,
-// without keys the resting value. O(log keys).
+// The value at a time in seconds: linear between two keys, that of the nearest key outside them,
+// the static value without keys. O(log keys).
 Vec3 value_of(const Layer& layer, Stream stream, double seconds);
 
-// Plug-ins get times in 600ths of a second. The nearest one; `seconds` within +-max_seconds.
+// Plug-ins get times in 600ths of a second. Rounds to the nearest one, within +-max_seconds.
 constexpr std::int32_t ticks_per_second = 600;
 constexpr double max_seconds = 3'000'000;
 std::int32_t to_ticks(double seconds);
 
-// The key that lies at a tick, or where it would have to be put.
-struct KeyPlace {
+// The key at a tick, or where it would be inserted.
+struct KeyPosition {
     std::size_t index;
     bool exists;
 };
-KeyPlace find_key(const Keyframes& keys, std::int32_t tick);
+KeyPosition find_key(const Keyframes& keys, std::int32_t tick);
 
 } // namespace minihost

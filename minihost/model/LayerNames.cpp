@@ -8,10 +8,10 @@ namespace {
 
 struct Numbered {
     std::string stem;
-    std::uint64_t number = 0; // 0: the name has none
+    std::uint64_t number = 0; // 0 for a name without one
 };
 
-// "Card 7" is "Card" and 7; "Card", "Card 07" and " 7" are whole names.
+// "Card 7" has the number 7; "Card", "Card 07" and " 7" have none.
 Numbered split(const std::string& name) {
     const std::size_t blank = name.find_last_of(' ');
     if (blank == std::string::npos || blank == 0) return {name};
@@ -25,15 +25,15 @@ Numbered split(const std::string& name) {
 
 } // namespace
 
-void LayerNames::take(const std::string& name) {
-    ++_taken[name];
+void LayerNames::add(const std::string& name) {
+    ++_uses[name];
 }
 
-void LayerNames::give_back(const std::string& name) {
-    const auto found = _taken.find(name);
-    if (found == _taken.end()) return;
+void LayerNames::remove(const std::string& name) {
+    const auto found = _uses.find(name);
+    if (found == _uses.end()) return;
     if (--found->second > 0) return;
-    _taken.erase(found);
+    _uses.erase(found);
     const Numbered parts = split(name);
     const auto hint = _first_maybe_free.find(parts.stem);
     if (parts.number >= 2 && hint != _first_maybe_free.end())
@@ -45,7 +45,7 @@ std::string LayerNames::for_duplicate_of(const std::string& name) {
     std::uint64_t& number = _first_maybe_free.try_emplace(stem, 2).first->second;
     for (;; ++number) {
         std::string candidate = stem + ' ' + std::to_string(number);
-        if (!_taken.contains(candidate)) return candidate;
+        if (!_uses.contains(candidate)) return candidate;
     }
 }
 

@@ -6,7 +6,7 @@ namespace minihost {
 
 namespace {
 
-// Xorshift, only to keep the tree level; the order of the layers does not depend on it.
+// Xorshift. It only balances the tree.
 std::uint32_t next_random(std::uint64_t& state) {
     state ^= state << 13;
     state ^= state >> 7;
@@ -21,17 +21,17 @@ void LayerOrder::update(Link node) {
         static_cast<std::uint32_t>(1 + count(_nodes[node].left) + count(_nodes[node].right));
 }
 
-void LayerOrder::replace_child(Link parent, Link child, Link by) {
+void LayerOrder::replace_child(Link parent, Link child, Link replacement) {
     if (!parent)
-        _root = by;
+        _root = replacement;
     else if (_nodes[parent].left == child)
-        _nodes[parent].left = by;
+        _nodes[parent].left = replacement;
     else
-        _nodes[parent].right = by;
-    if (by) _nodes[by].parent = parent;
+        _nodes[parent].right = replacement;
+    if (replacement) _nodes[replacement].parent = parent;
 }
 
-// Makes `node` the parent of its parent; the order stays.
+// Makes `node` the parent of its parent and keeps the order.
 void LayerOrder::rotate_up(Link node) {
     const Link parent = _nodes[node].parent;
     const Link above = _nodes[parent].parent;
@@ -77,13 +77,13 @@ void LayerOrder::insert(LayerId id, std::size_t index) {
     _nodes[node] = Node{0, 0, 0, 1, next_random(_random), true};
     Link parent = 0;
     bool go_left = false;
-    for (Link place = _root; place;) {
-        ++_nodes[place].count;
-        parent = place;
-        const std::size_t left = count(_nodes[place].left);
+    for (Link at = _root; at;) {
+        ++_nodes[at].count;
+        parent = at;
+        const std::size_t left = count(_nodes[at].left);
         go_left = index <= left;
         if (!go_left) index -= left + 1;
-        place = go_left ? _nodes[place].left : _nodes[place].right;
+        at = go_left ? _nodes[at].left : _nodes[at].right;
     }
     _nodes[node].parent = parent;
     if (!parent)

@@ -1,6 +1,5 @@
-// The order of the layers, top first: a list whose members are found by index, and whose indices
-// are found by member, in O(log n). A treap with subtree sizes, its nodes addressed by the members'
-// numbers.
+// The order of the layers, top first, with access by index and by layer in O(log n): a treap with
+// subtree sizes, whose nodes are addressed by layer ids.
 
 #pragma once
 
@@ -17,15 +16,15 @@ class LayerOrder {
     std::size_t size() const { return count(_root); }
     bool contains(LayerId layer) const { return layer < _nodes.size() && _nodes[layer].present; }
 
-    // The id at an index below size().
+    // `index` must be less than size().
     LayerId at(std::size_t index) const;
-    // The index of an id that the order contains.
+    // The order must contain the id.
     std::size_t index_of(LayerId id) const;
 
-    // Puts an id that is not contained, and not 0, so that it has that index (at most size()).
-    // Memory goes with the greatest id.
+    // The order must not contain the id, which is not 0; `index` is at most size(). Memory depends
+    // on the greatest id.
     void insert(LayerId id, std::size_t index);
-    // Takes an id out that is contained.
+    // The order must contain the id.
     void remove(LayerId id);
 
     // All ids, top first. O(n).
@@ -43,7 +42,7 @@ class LayerOrder {
     std::size_t count(Link node) const { return node ? _nodes[node].count : 0; }
     void update(Link node);
     void rotate_up(Link node);
-    void replace_child(Link parent, Link child, Link by);
+    void replace_child(Link parent, Link child, Link replacement);
 
     std::vector<Node> _nodes{1};
     Link _root = 0;

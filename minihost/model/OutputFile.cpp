@@ -16,7 +16,7 @@ namespace minihost {
 
 namespace {
 
-constexpr std::size_t most_waiting = 1 << 16;
+constexpr std::size_t max_buffer = 1 << 16;
 
 bool write_all(int file, std::string_view content) {
     while (!content.empty()) {
@@ -57,13 +57,13 @@ OutputFile::OutputFile(const std::string& path) : _path(path) {
         if (_file < 0) fail();
         return;
     }
-    // Replacing a file asks only for a right on its folder: one that is not to be written stays.
+    // A rename would replace a read-only file, as it needs only write access to the folder.
     if (exists && ::access(path.c_str(), W_OK) != 0) fail();
-    _target = exists ? resolved(path) : path;
+    _resolved = exists ? resolved(path) : path;
     _mode = exists ? old.st_mode & 07777 : mode_for_new_files();
-    _temporary = _target + ".XXXXXX";
+    _temporary = _resolved + ".XXXXXX";
     _file = ::mkostemp(_temporary.data(), O_CLOEXEC);
-    if (_file < 0) fail(); // the destructor does not run: there is nothing to remove yet
+    if (_file < 0) fail(); // the destructor does not run, but there is no file to remove
 }
 
 OutputFile::~OutputFile() {
@@ -72,13 +72,13 @@ OutputFile::~OutputFile() {
 }
 
 void OutputFile::write(std::string_view content) {
-    _waiting += content;
-    if (_waiting.size() >= most_waiting) flush();
+    _buffer += content;
+    if (_buffer.size() >= max_buffer) flush();
 }
 
 void OutputFile::flush() {
-    if (!write_all(_file, _waiting)) fail();
-    _waiting.clear();
+    if (!write_all(_file, _buffer)) fail();
+    _buffer.clear();
 }
 
 void OutputFile::commit() {
@@ -86,7 +86,7 @@ void OutputFile::commit() {
     if (_temporary.empty()) return;
     if (::fchmod(_file, _mode) != 0 || ::fsync(_file) != 0 ||
         ::close(std::exchange(_file, -1)) != 0 ||
-        ::rename(_temporary.c_str(), _target.c_str()) != 0)
+        ::rename(_temporary.c_str(), _resolved.c_str()) != 0)
         fail();
     _temporary.clear();
 }

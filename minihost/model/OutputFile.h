@@ -1,18 +1,17 @@
-// Output files, written whole or not at all.
+// Output files that are written completely or not at all.
 
 #pragma once
 
-#include "minihost/model/SceneError.h"
+#include "minihost/model/Errors.h"
 
 #include <string>
 #include <string_view>
 
 namespace minihost {
 
-// A file that is being written: under another name beside the real one first, then in its place,
-// with the mode of the file that was there. A link is followed; what is no regular file (a pipe, a
-// terminal) is written straight on. Every function throws OutputError, with the old file untouched;
-// unless commit() is reached nothing is left behind.
+// A temporary file beside the real one, which commit() renames to it and gives the mode of the file
+// that it replaces. Links are followed; anything but a regular file (a pipe, a terminal) is written
+// directly. Every function throws OutputError. Without commit() nothing changes.
 class OutputFile {
   public:
     explicit OutputFile(const std::string& path);
@@ -20,25 +19,24 @@ class OutputFile {
     OutputFile(const OutputFile&) = delete;
     OutputFile& operator=(const OutputFile&) = delete;
 
-    void write(std::string_view content); // may wait in memory for a while
+    void write(std::string_view content); // buffered
     void commit();
 
   private:
     [[noreturn]] void fail() const;
     void flush();
 
-    std::string _path;      // as the messages name it
-    std::string _target;    // where links end
-    std::string _temporary; // empty for what is written straight on
-    std::string _waiting;
+    std::string _path;      // for messages
+    std::string _resolved;  // after links
+    std::string _temporary; // empty for a file that is written directly
+    std::string _buffer;
     unsigned _mode = 0;
     int _file = -1;
 };
 
-// The extension of a file's name in lower case, with its point; empty for none.
+// In lower case and with its dot; empty for a name without one.
 std::string extension_of(const std::string& path);
 
-// The whole of it at once.
 void write_file(const std::string& path, std::string_view content);
 
 } // namespace minihost

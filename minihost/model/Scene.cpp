@@ -37,7 +37,7 @@ LayerId Scene::insert(std::unique_ptr<Layer> layer, std::size_t index) {
         _layers.emplace_back();
     }
     const LayerId id = layer->id;
-    _names.take(layer->name);
+    _names.add(layer->name);
     _layers[id] = std::move(layer);
     _order.insert(id, index);
     return id;
@@ -45,7 +45,7 @@ LayerId Scene::insert(std::unique_ptr<Layer> layer, std::size_t index) {
 
 std::unique_ptr<Layer> Scene::remove(LayerId id) {
     _order.remove(id);
-    _names.give_back(_layers[id]->name);
+    _names.remove(_layers[id]->name);
     return std::move(_layers[id]);
 }
 
@@ -55,8 +55,8 @@ void Scene::move(LayerId id, std::size_t index) {
 }
 
 void Scene::rename(LayerId id, std::string name) {
-    _names.give_back(_layers[id]->name);
-    _names.take(name);
+    _names.remove(_layers[id]->name);
+    _names.add(name);
     _layers[id]->name = std::move(name);
 }
 

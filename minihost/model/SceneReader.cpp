@@ -4,202 +4,178 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cmath>
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <optional>
 
 namespace minihost {
 
 namespace {
 
-// What a file tells of a layer, before the composition's size, which may come later in the file,
-// gives the rest.
+// Which fields a layer's object has. Some defaults depend on the composition, which may follow in
+// the file.
+struct GivenFields {
+    bool source = false, size = false;
+    bool anchor_point = false, point_of_interest = false, position = false;
+};
 struct LayerDraft {
     std::unique_ptr<Layer> layer = std::make_unique<Layer>();
-    bool has_source = false, has_size = false;
-    bool has_anchor = false, has_interest = false, has_position = false;
+    GivenFields given;
 };
 
-void read_size(Size& size, const JsonValue& value, const FieldPath& path) {
-    static constexpr Field<Size> table[] = {
-        {"width",
-         [](Size& it, const JsonValue& value, const FieldPath& path) {
-             it.width = read_integer(value, path, 1, max_size);
-         },
-         true},
-        {"height",
-         [](Size& it, const JsonValue& value, const FieldPath& path) {
-             it.height = read_integer(value, path, 1, max_size);
-         },
-         true}};
-    read_fields<Size>(size, value, path, table);
+// Fields of a struct, for the tables.
+template <auto Read, auto Member>
+void read_member(auto& it, const JsonValue& value, const FieldPath& path) {
+    it.*Member = Read(value, path);
+}
+template <auto Read, auto Member>
+void read_layer_member(LayerDraft& draft, const JsonValue& value, const FieldPath& path) {
+    (*draft.layer).*Member = Read(value, path);
+}
+int read_pixels(const JsonValue& value, const FieldPath& path) {
+    return read_integer(value, path, 1, max_size);
+}
+double read_seconds(const JsonValue& value, const FieldPath& path) {
+    return read_number(value, path, -max_seconds, max_seconds);
+}
+double read_duration(const JsonValue& value, const FieldPath& path) {
+    return read_number(value, path, 0, max_seconds);
+}
+double read_frame_rate(const JsonValue& value, const FieldPath& path) {
+    return read_number(value, path, 0.01, 10000);
 }
 
-template <Vec3 Transform::*Member>
-void read_part(Transform& transform, const JsonValue& value, const FieldPath& path) {
-    transform.*Member = read_vector(value, path);
+Size read_size(const JsonValue& value, const FieldPath& path) {
+    static constexpr Field<Size> table[] = {
+        {"width", read_member<read_pixels, &Size::width>, true},
+        {"height", read_member<read_pixels, &Size::height>, true}};
+    Size size;
+    read_fields<Size>(size, value, path, table);
+    return size;
+}
+
+template <bool GivenFields::*Field>
+void read_layer_size(LayerDraft& draft, const JsonValue& value, const FieldPath& path) {
+    draft.layer->size = read_size(value, path);
+    draft.given.*Field = true;
 }
 
 void read_transform(LayerDraft& draft, const JsonValue& value, const FieldPath& path) {
     static constexpr Field<Transform> table[] = {
-        {"anchor_point", read_part<&Transform::anchor_point>},
-        {"point_of_interest", read_part<&Transform::anchor_point>},
-        {"position", read_part<&Transform::position>},
-        {"scale", read_part<&Transform::scale>},
-        {"orientation", read_part<&Transform::orientation>},
-        {"rotation", read_part<&Transform::rotation>}};
+        {"anchor_point", read_member<read_vector, &Transform::anchor_point>},
+        {"point_of_interest", read_member<read_vector, &Transform::anchor_point>},
+        {"position", read_member<read_vector, &Transform::position>},
+        {"scale", read_member<read_vector, &Transform::scale>},
+        {"orientation", read_member<read_vector, &Transform::orientation>},
+        {"rotation", read_member<read_vector, &Transform::rotation>}};
     const std::uint32_t seen = read_fields<Transform>(draft.layer->transform, value, path, table);
-    draft.has_anchor = seen & 1;
-    draft.has_interest = seen & 2;
-    draft.has_position = seen & 4;
+    draft.given.anchor_point = seen & 1;
+    draft.given.point_of_interest = seen & 2;
+    draft.given.position = seen & 4;
 }
 
-struct KeyDraft {
-    Keyframe key;
-    int dimensions;
-};
+Vec3 read_rotation(const JsonValue& value, const FieldPath& path) {
+    return {read_number(value, path), 0, 0};
+}
 
 Keyframe read_key(const JsonValue& value, const FieldPath& path, int dimensions) {
-    static constexpr Field<KeyDraft> table[] = {
-        {"time",
-         [](KeyDraft& it, const JsonValue& value, const FieldPath& path) {
-             it.key.time = read_number(value, path, -max_seconds, max_seconds);
-         },
-         true},
-        {"value",
-         [](KeyDraft& it, const JsonValue& value, const FieldPath& path) {
-             if (it.dimensions == 3)
-                 it.key.value = read_vector(value, path);
-             else
-                 it.key.value[0] = read_number(value, path);
-         },
-         true}};
-    KeyDraft draft{{}, dimensions};
-    read_fields<KeyDraft>(draft, value, path, table);
-    return draft.key;
+    static constexpr Field<Keyframe> of_three[] = {
+        {"time", read_member<read_seconds, &Keyframe::time>, true},
+        {"value", read_member<read_vector, &Keyframe::value>, true}};
+    static constexpr Field<Keyframe> of_one[] = {
+        of_three[0], {"value", read_member<read_rotation, &Keyframe::value>, true}};
+    Keyframe key;
+    read_fields<Keyframe>(key, value, path, dimensions == 3 ? of_three : of_one);
+    return key;
 }
 
-// One function for each row of keyed_streams, for the table's sake.
+// One function for each row of keyed_streams, as the table needs them.
 template <std::size_t Row>
-void read_keys(Layer& layer, const JsonValue& value, const FieldPath& path) {
+void read_keys(LayerDraft& draft, const JsonValue& value, const FieldPath& path) {
     require_array(value, path);
-    Keyframes& keys = layer.keys[Row];
-    for (const JsonValue element : value) {
-        const FieldPath place{&path, "", static_cast<long>(keys.size())};
-        const Keyframe key = read_key(element, place, dimensions(keyed_streams[Row].stream));
+    Keyframes& keys = draft.layer->keys[Row];
+    for (const JsonValue& element : value.items) {
+        const FieldPath at = element_of(path, keys.size());
+        const Keyframe key = read_key(element, at, dimensions(keyed_streams[Row].stream));
         if (!keys.empty() && key.time <= keys.back().time)
-            refuse({&place, "time", -1}, "must be later than that of the key before");
+            reject({&at, "time"}, "must be later than that of the key before");
         keys.push_back(key);
     }
 }
 
 void read_keyframes(LayerDraft& draft, const JsonValue& value, const FieldPath& path) {
-    static constexpr Field<Layer> table[] = {
+    static constexpr Field<LayerDraft> table[] = {
         {keyed_streams[0].name, read_keys<0>}, {keyed_streams[1].name, read_keys<1>},
         {keyed_streams[2].name, read_keys<2>}, {keyed_streams[3].name, read_keys<3>},
         {keyed_streams[4].name, read_keys<4>}, {keyed_streams[5].name, read_keys<5>}};
-    read_fields<Layer>(*draft.layer, value, path, table);
+    read_fields<LayerDraft>(draft, value, path, table);
 }
 
-void read_kind(LayerDraft& draft, const JsonValue& value, const FieldPath& path) {
+LayerKind read_kind(const JsonValue& value, const FieldPath& path) {
     const auto kind = layer_kind(read_text(value, path));
     if (!kind)
-        refuse(path, "unknown kind \"" + value.text() +
+        reject(path, "unknown kind \"" + value.text +
                          "\" (footage, solid, text, shape, camera and light are known)");
-    draft.layer->kind = *kind;
+    return *kind;
 }
 
 constexpr Field<LayerDraft> layer_fields[] = {
-    {"name",
-     [](LayerDraft& it, const JsonValue& value, const FieldPath& path) {
-         it.layer->name = read_text(value, path);
-     },
-     true},
-    {"kind", read_kind, true},
-    {"three_d", [](LayerDraft& it, const JsonValue& value,
-                   const FieldPath& path) { it.layer->three_d = read_boolean(value, path); }},
-    {"color", [](LayerDraft& it, const JsonValue& value,
-                 const FieldPath& path) { it.layer->color = read_color(value, path); }},
-    {"source",
-     [](LayerDraft& it, const JsonValue& value, const FieldPath& path) {
-         read_size(it.layer->size, value, path);
-         it.has_source = true;
-     }},
-    {"size",
-     [](LayerDraft& it, const JsonValue& value, const FieldPath& path) {
-         read_size(it.layer->size, value, path);
-         it.has_size = true;
-     }},
-    {"start",
-     [](LayerDraft& it, const JsonValue& value, const FieldPath& path) {
-         it.layer->start = read_number(value, path, -max_seconds, max_seconds);
-     }},
+    {"name", read_layer_member<read_text, &Layer::name>, true},
+    {"kind", read_layer_member<read_kind, &Layer::kind>, true},
+    {"three_d", read_layer_member<read_boolean, &Layer::three_d>},
+    {"color", read_layer_member<read_color, &Layer::color>},
+    {"source", read_layer_size<&GivenFields::source>},
+    {"size", read_layer_size<&GivenFields::size>},
+    {"start", read_layer_member<read_seconds, &Layer::start>},
     {"transform", read_transform},
     {"keyframes", read_keyframes}};
 
-// What only some kinds of layer may have, or must.
+// Checks the fields that only some kinds of layers may or must have.
 void check_kind(const LayerDraft& draft, const FieldPath& path) {
     const LayerKind kind = draft.layer->kind;
     const std::string of_kind = " a " + std::string(name_of(kind)) + " layer";
-    if (draft.layer->has_source() && !draft.has_source)
-        refuse({&path, "source", -1}, "missing," + of_kind + " must have one");
-    if (!draft.layer->has_source() && draft.has_source)
-        refuse({&path, "source", -1}, "only footage and solids have one, not" + of_kind);
-    if (draft.has_size && kind != LayerKind::Text && kind != LayerKind::Shape)
-        refuse({&path, "size", -1}, "only text and shapes have one, not" + of_kind);
-    const FieldPath transform{&path, "transform", -1};
-    if (draft.has_interest && kind != LayerKind::Camera)
-        refuse({&transform, "point_of_interest", -1}, "only cameras have one, not" + of_kind);
-    if (draft.has_anchor && kind == LayerKind::Camera)
-        refuse({&transform, "anchor_point", -1}, "a camera has a point_of_interest instead");
+    if (draft.layer->has_source() && !draft.given.source)
+        reject({&path, "source"}, "missing," + of_kind + " must have one");
+    if (!draft.layer->has_source() && draft.given.source)
+        reject({&path, "source"}, "only footage and solids have one, not" + of_kind);
+    if (draft.given.size && kind != LayerKind::Text && kind != LayerKind::Shape)
+        reject({&path, "size"}, "only text and shapes have one, not" + of_kind);
+    const FieldPath transform{&path, "transform"};
+    if (draft.given.point_of_interest && kind != LayerKind::Camera)
+        reject({&transform, "point_of_interest"}, "only cameras have one, not" + of_kind);
+    if (draft.given.anchor_point && kind == LayerKind::Camera)
+        reject({&transform, "anchor_point"}, "a camera has a point_of_interest instead");
 }
 
 void read_composition(Composition& composition, const JsonValue& value, const FieldPath& path) {
-    using C = Composition;
-    static constexpr Field<C> table[] = {
-        {"name", [](C& it, const JsonValue& value,
-                    const FieldPath& path) { it.name = read_text(value, path); }},
-        {"width", [](C& it, const JsonValue& value,
-                     const FieldPath& path) { it.width = read_integer(value, path, 1, max_size); }},
-        {"height",
-         [](C& it, const JsonValue& value, const FieldPath& path) {
-             it.height = read_integer(value, path, 1, max_size);
-         }},
-        {"frame_rate",
-         [](C& it, const JsonValue& value, const FieldPath& path) {
-             it.frame_rate = read_number(value, path, 0.01, 10000);
-         }},
-        {"duration",
-         [](C& it, const JsonValue& value, const FieldPath& path) {
-             it.duration = read_number(value, path, 0, max_seconds);
-         }},
-        {"time", [](C& it, const JsonValue& value, const FieldPath& path) {
-             it.time = read_number(value, path, -max_seconds, max_seconds);
-         }}};
-    read_fields<C>(composition, value, path, table);
+    static constexpr Field<Composition> table[] = {
+        {"name", read_member<read_text, &Composition::name>},
+        {"width", read_member<read_pixels, &Composition::width>},
+        {"height", read_member<read_pixels, &Composition::height>},
+        {"frame_rate", read_member<read_frame_rate, &Composition::frame_rate>},
+        {"duration", read_member<read_duration, &Composition::duration>},
+        {"time", read_member<read_seconds, &Composition::time>}};
+    read_fields<Composition>(composition, value, path, table);
 }
 
-struct SelectionEntry {
-    bool is_layer;
-    double index;
-};
-
-// Gathers the pieces of a file and makes the scene of them at its end.
-class Reader : public SceneJsonSink {
+// Collects the parts of a file and builds the scene from them at the end.
+class SceneBuilder : public SceneJsonHandler {
   public:
-    explicit Reader(const ReadProgress& progress) : _progress(progress) {}
+    explicit SceneBuilder(const ReadProgress& progress) : _progress(progress) {}
 
-    void member(const std::string& key) override {
-        const FieldPath path{nullptr, key, -1};
+    void on_key(const std::string& key) override {
+        const FieldPath path{nullptr, key};
         const auto name = std::find(std::begin(_names), std::end(_names), key);
-        if (name == std::end(_names)) refuse(path, "unknown field");
+        if (name == std::end(_names)) reject(path, "unknown field");
         bool& seen = _seen[name - std::begin(_names)];
-        if (seen) refuse(path, "given twice");
+        if (seen) reject(path, "given twice");
         seen = true;
     }
 
-    void value(const std::string& key, const JsonValue& value) override {
-        const FieldPath path{nullptr, key, -1};
+    void on_member(const std::string& key, const JsonValue& value) override {
+        const FieldPath path{nullptr, key};
         if (key == "format") read_format(value, path);
         if (key == "composition") read_composition(_scene.composition, value, path);
         if (key == "active") read_active(value, path);
@@ -207,9 +183,9 @@ class Reader : public SceneJsonSink {
         if (key == "undo") read_undo(value, path);
     }
 
-    void layer(std::size_t index, const JsonValue& value) override {
-        const FieldPath layers{nullptr, "layers", -1};
-        const FieldPath path{&layers, "", static_cast<long>(index)};
+    void on_layer(const JsonValue& value) override {
+        const FieldPath layers{nullptr, "layers"};
+        const FieldPath path = element_of(layers, _drafts.size());
         LayerDraft draft;
         read_fields<LayerDraft>(draft, value, path, layer_fields);
         check_kind(draft, path);
@@ -217,21 +193,21 @@ class Reader : public SceneJsonSink {
         if (_progress) _progress(_drafts.size());
     }
 
-    void misshapen(const std::string& key) override {
-        refuse({nullptr, key, -1}, key.empty() ? "a scene must be an object" : "must be an array");
+    void on_wrong_type(const std::string& key) override {
+        reject({nullptr, key}, key.empty() ? "a scene must be an object" : "must be an array");
     }
 
     Scene scene() {
-        if (!_seen[0]) refuse({nullptr, "format", -1}, "missing");
+        if (!_seen[0]) reject({nullptr, "format"}, "missing");
         const Vec3 middle = _scene.composition.middle();
-        for (LayerDraft& draft : _drafts) {
-            Layer& layer = *draft.layer;
-            if (!draft.has_position) layer.transform.position = middle;
-            if (layer.kind == LayerKind::Camera && !draft.has_interest)
-                layer.transform.anchor_point = middle;
-            if (layer.has_source() && !draft.has_anchor)
-                layer.transform.anchor_point = {layer.size.width / 2.0, layer.size.height / 2.0, 0};
-            _scene.insert(std::move(draft.layer), _scene.layer_count());
+        for (auto& [layer, given] : _drafts) {
+            if (!given.position) layer->transform.position = middle;
+            if (layer->kind == LayerKind::Camera && !given.point_of_interest)
+                layer->transform.anchor_point = middle;
+            if (layer->has_source() && !given.anchor_point)
+                layer->transform.anchor_point = {layer->size.width / 2.0, layer->size.height / 2.0,
+                                                 0};
+            _scene.insert(std::move(layer), _scene.layer_count());
         }
         select();
         return std::move(_scene);
@@ -243,52 +219,47 @@ class Reader : public SceneJsonSink {
 
     static void read_format(const JsonValue& value, const FieldPath& path) {
         if (read_text(value, path) != "minihost scene 1")
-            refuse(path, "must be \"minihost scene 1\", not \"" + value.text() + "\"");
+            reject(path, "must be \"minihost scene 1\", not \"" + value.text + "\"");
     }
 
     void read_active(const JsonValue& value, const FieldPath& path) {
         const auto item = active_item(read_text(value, path));
         if (!item)
-            refuse(path, "must be \"composition\", \"footage\" or \"none\", not \"" + value.text() +
-                             "\"");
+            reject(path,
+                   "must be \"composition\", \"footage\" or \"none\", not \"" + value.text + "\"");
         _scene.active = *item;
     }
 
     void read_selection(const JsonValue& value, const FieldPath& path) {
         require_array(value, path);
-        for (const JsonValue entry : value) {
-            const FieldPath place{&path, "", static_cast<long>(_selection.size())};
+        for (const JsonValue& entry : value.items) {
             if (entry.is(JsonValue::Type::Number))
-                _selection.push_back({true, entry.number()});
-            else if (entry.is(JsonValue::Type::String) && entry.text() == "other")
-                _selection.push_back({false, 0});
+                _selection.emplace_back(entry.number);
+            else if (entry.is(JsonValue::Type::String) && entry.text == "other")
+                _selection.emplace_back(std::nullopt);
             else
-                refuse(place, "must be the index of a layer or \"other\"");
+                reject(element_of(path, _selection.size()),
+                       "must be the index of a layer or \"other\"");
         }
     }
 
     void read_undo(const JsonValue& value, const FieldPath& path) {
         require_array(value, path);
-        for (const JsonValue name : value) {
-            const FieldPath place{&path, "", static_cast<long>(_scene.undo_names.size())};
-            _scene.undo_names.push_back(read_text(name, place));
-        }
+        for (const JsonValue& name : value.items)
+            _scene.undo_names.push_back(
+                read_text(name, element_of(path, _scene.undo_names.size())));
     }
 
     void select() {
-        const FieldPath path{nullptr, "selection", -1};
-        const double count = static_cast<double>(_scene.layer_count());
+        const FieldPath path{nullptr, "selection"};
         const std::vector<const Layer*> layers = _scene.layers();
+        const double count = static_cast<double>(layers.size());
         Selection selection;
-        for (const SelectionEntry& entry : _selection) {
-            const FieldPath place{&path, "", static_cast<long>(selection.size())};
-            const bool in_range =
-                entry.index >= 0 && entry.index < count &&
-                entry.index == static_cast<double>(static_cast<std::size_t>(entry.index));
-            if (entry.is_layer && !in_range)
-                refuse(place, "no such layer (there are " + std::to_string(layers.size()) + ")");
-            selection.push_back(entry.is_layer ? layers[static_cast<std::size_t>(entry.index)]->id
-                                               : 0);
+        for (const std::optional<double>& index : _selection) {
+            if (index && !(*index >= 0 && *index < count && *index == std::floor(*index)))
+                reject(element_of(path, selection.size()),
+                       "no such layer (there are " + std::to_string(layers.size()) + ")");
+            selection.push_back(index ? layers[static_cast<std::size_t>(*index)]->id : 0);
         }
         _scene.select(std::move(selection));
     }
@@ -296,7 +267,7 @@ class Reader : public SceneJsonSink {
     const ReadProgress& _progress;
     Scene _scene;
     std::vector<LayerDraft> _drafts;
-    std::vector<SelectionEntry> _selection;
+    std::vector<std::optional<double>> _selection; // indices; none for "other"
     bool _seen[std::size(_names)] = {};
 };
 
@@ -304,15 +275,15 @@ class Reader : public SceneJsonSink {
 
 Scene parse_scene(std::string_view text, const std::string& file, const ReadProgress& progress) {
     try {
-        Reader reader(progress);
-        parse_scene_json(text, reader);
-        return reader.scene();
+        SceneBuilder builder(progress);
+        parse_scene_json(text, builder);
+        return builder.scene();
     } catch (const JsonSyntaxError& error) {
         throw SceneError(
             file, "line " + std::to_string(error.line) + ", column " + std::to_string(error.column),
             error.cause);
     } catch (const FieldError& error) {
-        throw SceneError(file, error.place, error.cause);
+        throw SceneError(file, error.path, error.cause);
     }
 }
 

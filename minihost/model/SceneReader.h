@@ -1,9 +1,9 @@
-// Scene files, read: JSON of the format "minihost scene 1", and nothing else.
+// Reads scene files: JSON of the format "minihost scene 1".
 
 #pragma once
 
+#include "minihost/model/Errors.h"
 #include "minihost/model/Scene.h"
-#include "minihost/model/SceneError.h"
 
 #include <cstddef>
 #include <functional>
@@ -12,20 +12,20 @@
 
 namespace minihost {
 
-// Sizes are from 1 to this many pixels.
+// The greatest width and height, in pixels.
 constexpr int max_size = 30000;
 
-// Gets the number of layers read so far, after each.
+// Receives the number of layers so far, after each.
 using ReadProgress = std::function<void(std::size_t)>;
 
-// Reads a scene file; throws SceneError for a file that cannot be read or is no scene.
+// Throws SceneError for a file that cannot be read or is not a valid scene.
 Scene read_scene(const std::string& path, const ReadProgress& progress = {});
 
-// The same of a text; `file` is the name in the errors.
+// The same for a text; `file` is its name in errors.
 Scene parse_scene(std::string_view text, const std::string& file,
                   const ReadProgress& progress = {});
 
-// The whole content of a file; throws SceneError with the system's reason.
+// The whole content. Throws SceneError with the system's reason.
 std::string read_file(const std::string& path);
 
 } // namespace minihost

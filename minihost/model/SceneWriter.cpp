@@ -1,16 +1,10 @@
 #include "minihost/model/SceneWriter.h"
 
-#include "minihost/model/JsonWriter.h"
-
 #include <cstdio>
 
 namespace minihost {
 
 namespace {
-
-void write(JsonWriter& json, const char* name, const Vec3& value) {
-    json.key(name).begin_array().value(value[0]).value(value[1]).value(value[2]).end_array();
-}
 
 void write(JsonWriter& json, const char* name, const Size& size) {
     json.key(name).begin_object();
@@ -30,7 +24,7 @@ void write_keys(JsonWriter& json, const Keyframes& keys, int numbers) {
         if (numbers == 1)
             json.member("value", key.value[0]);
         else
-            write(json, "value", key.value);
+            json.key("value").array(key.value);
         json.end_object();
     }
     json.end_array();
@@ -46,11 +40,11 @@ void write(JsonWriter& json, const Layer& layer) {
         write(json, "size", layer.size);
     const bool is_camera = layer.kind == LayerKind::Camera;
     json.member("start", layer.start).line(5).key("transform").begin_object();
-    write(json, is_camera ? "point_of_interest" : "anchor_point", layer.transform.anchor_point);
-    write(json, "position", layer.transform.position);
-    write(json, "scale", layer.transform.scale);
-    write(json, "orientation", layer.transform.orientation);
-    write(json, "rotation", layer.transform.rotation);
+    json.key(is_camera ? "point_of_interest" : "anchor_point").array(layer.transform.anchor_point);
+    json.key("position").array(layer.transform.position);
+    json.key("scale").array(layer.transform.scale);
+    json.key("orientation").array(layer.transform.orientation);
+    json.key("rotation").array(layer.transform.rotation);
     json.end_object().line(5).key("keyframes").begin_object();
     for (std::size_t row = 0; row < keyed_streams.size(); ++row) {
         if (layer.keys[row].empty()) continue;
@@ -67,6 +61,8 @@ void write(JsonWriter& json, const Composition& composition) {
     json.member("time", composition.time).end_object();
 }
 
+} // namespace
+
 void write_selection(JsonWriter& json, const Scene& scene) {
     json.key("selection").begin_array();
     for (const LayerId id : scene.selection()) {
@@ -78,8 +74,6 @@ void write_selection(JsonWriter& json, const Scene& scene) {
     json.end_array();
 }
 
-} // namespace
-
 std::string scene_text(const Document& document) {
     const Scene& scene = document.scene();
     std::string text;
@@ -90,9 +84,7 @@ std::string scene_text(const Document& document) {
     for (const Layer* layer : scene.layers()) write(json.line(4), *layer);
     json.end_array().line(2);
     write_selection(json, scene);
-    json.line(2).key("undo").begin_array();
-    for (const std::string& name : document.undo_names()) json.value(std::string_view(name));
-    json.end_array();
+    json.line(2).key("undo").array(document.undo_names());
     text += "\n}\n";
     return text;
 }

@@ -1,16 +1,19 @@
-// Scene files, written: the format that SceneReader reads, with all fields.
+// Writes scene files with all fields.
 
 #pragma once
 
 #include "minihost/model/Document.h"
+#include "minihost/model/JsonWriter.h"
 
 #include <string>
-#include <string_view>
 
 namespace minihost {
 
-// The document's scene as a file's text, with the names of its undo steps. Doubles are the shortest
-// that read back exactly.
+// The text of a scene file, with the names of the undo steps. Doubles have the shortest form that
+// reads back exactly.
 std::string scene_text(const Document& document);
+
+// The member "selection" of a scene: indices, and "other" for an item that is not a layer.
+void write_selection(JsonWriter& json, const Scene& scene);
 
 } // namespace minihost

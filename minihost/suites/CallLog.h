@@ -1,5 +1,4 @@
-// Every call that the plug-in makes of the host, one JSON object a line, in the order in which the
-// calls were begun.
+// The log of the plug-in's calls: one JSON object a line, in the order in which the calls began.
 
 #pragma once
 
@@ -19,24 +18,24 @@ struct CallName {
 
 class CallLog {
   public:
-    // Gets each line, its end with it.
+    // Receives each line with its newline.
     using Sink = std::function<void(const std::string&)>;
 
     void set_sink(Sink sink) { _sink = std::move(sink); }
     bool is_on() const { return static_cast<bool>(_sink); }
 
-    // A call begins; `arguments` is a JSON object. What it gives goes to end(). A call may make the
-    // host enter the plug-in, which calls in turn: lines wait until all before them are whole.
+    // Returns the call's number, for end(); `arguments` is a JSON object. Calls nest, as the host
+    // may enter the plug-in during one: a line is written when all before it are complete.
     std::size_t begin(const CallName& name, std::string arguments);
     void end(std::size_t call, std::int32_t result);
 
   private:
     struct Line {
         std::string text;
-        bool whole = false;
+        bool complete = false;
     };
     Sink _sink;
-    std::deque<Line> _waiting;
+    std::deque<Line> _pending;
     std::size_t _written = 0;
 };
 

@@ -4,12 +4,12 @@ namespace minihost {
 
 namespace {
 
-// A grey, or 0xRRGGBB, from 8 to 16 bits a part.
+// From 8 to 16 bits a component.
 constexpr PF_App_Color color(unsigned rgb) {
-    const auto part = [rgb](int shift) {
+    const auto component = [rgb](int shift) {
         return static_cast<A_u_short>((rgb >> shift & 0xFF) * 257);
     };
-    return {part(16), part(8), part(0)};
+    return {component(16), component(8), component(0)};
 }
 
 struct Row {
@@ -17,7 +17,7 @@ struct Row {
     unsigned dark, light; // 0xRRGGBB
 };
 
-// What the selectors are for, as far as controls ask for them.
+// The comments say what controls use a selector for.
 constexpr Row rows[] = {
     {0, 0x4b4b4b, 0xc4c4c4},                              // frames
     {1, 0x3c3c3c, 0xdedede},                              // fill of a field

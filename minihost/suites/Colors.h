@@ -13,7 +13,7 @@ enum class Palette { Dark, Light };
 
 std::optional<Palette> palette_of_name(std::string_view name);
 
-// Every selector has a colour; those that no control of a dialog is known to use get a grey.
+// Selectors that no control is known to use get a grey.
 PF_App_Color interface_color(Palette palette, PF_App_ColorType selector);
 
 } // namespace minihost

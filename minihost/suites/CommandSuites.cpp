@@ -1,7 +1,7 @@
-// Registering hooks, menus and commands, messages and undo groups.
+// The suites for hooks, the menu, messages and undo groups.
 
-#include "minihost/suites/Serve.h"
-#include "minihost/suites/SuiteTable.h"
+#include "minihost/suites/ServeCall.h"
+#include "minihost/suites/SuiteFunctions.h"
 
 namespace minihost {
 
@@ -18,86 +18,69 @@ CallName utility_call(const char* call) {
 }
 
 void require_entry(const Host& host) {
-    if (!host.is_entering())
-        throw Misuse("called outside of the entry function", FaultKind::LateRegistration);
+    if (!host.is_in_entry())
+        throw Misuse("called outside of the entry function", ViolationKind::LateRegistration);
 }
 
 A_Err RegisterCommandHook(AEGP_PluginID, AEGP_HookPriority priority, AEGP_Command command,
                           AEGP_CommandHook hook, AEGP_CommandRefcon refcon) {
-    return serve(
+    return serve_call(
         register_call("RegisterCommandHook"),
-        [&](Arguments& it) { it.number("priority", priority).number("command", command); },
-        [&](Host& host) -> A_Err {
+        [&](CallArguments& it) { it.number("priority", priority).number("command", command); },
+        [&](Host& host) {
             require_entry(host);
-            need(hook);
+            require(hook);
             host.hooks().command.push_back({command, hook, refcon});
-            return 0;
         });
+}
+
+template <typename Function, typename Refcon>
+A_Err register_hook(const char* call, std::vector<Hook<Function, Refcon>> Hooks::*list,
+                    Function hook, Refcon refcon) {
+    return serve_call(register_call(call), [&](Host& host) {
+        require_entry(host);
+        require(hook);
+        (host.hooks().*list).push_back({hook, refcon});
+    });
 }
 
 A_Err RegisterUpdateMenuHook(AEGP_PluginID, AEGP_UpdateMenuHook hook,
                              AEGP_UpdateMenuRefcon refcon) {
-    return serve(
-        register_call("RegisterUpdateMenuHook"), [](Arguments&) {},
-        [&](Host& host) -> A_Err {
-            require_entry(host);
-            need(hook);
-            host.hooks().update_menu.push_back({hook, refcon});
-            return 0;
-        });
+    return register_hook("RegisterUpdateMenuHook", &Hooks::update_menu, hook, refcon);
 }
 
 A_Err RegisterDeathHook(AEGP_PluginID, AEGP_DeathHook hook, AEGP_DeathRefcon refcon) {
-    return serve(
-        register_call("RegisterDeathHook"), [](Arguments&) {},
-        [&](Host& host) -> A_Err {
-            require_entry(host);
-            need(hook);
-            host.hooks().death.push_back({hook, refcon});
-            return 0;
-        });
+    return register_hook("RegisterDeathHook", &Hooks::death, hook, refcon);
 }
 
 A_Err RegisterIdleHook(AEGP_PluginID, AEGP_IdleHook hook, AEGP_IdleRefcon refcon) {
-    return serve(
-        register_call("RegisterIdleHook"), [](Arguments&) {},
-        [&](Host& host) -> A_Err {
-            require_entry(host);
-            need(hook);
-            host.hooks().idle.push_back({hook, refcon});
-            return 0;
-        });
+    return register_hook("RegisterIdleHook", &Hooks::idle, hook, refcon);
 }
 
 A_Err GetUniqueCommand(AEGP_Command* command) {
-    return serve(
-        command_call("GetUniqueCommand"), [](Arguments&) {},
-        [&](Host& host) -> A_Err {
-            need(command) = host.new_command();
-            return 0;
-        });
+    return serve_call(command_call("GetUniqueCommand"),
+                      [&](Host& host) { require(command) = host.new_command(); });
 }
 
 A_Err InsertMenuCommand(AEGP_Command command, const A_char* name, AEGP_MenuID menu,
                         A_long after_item) {
-    return serve(
+    return serve_call(
         command_call("InsertMenuCommand"),
-        [&](Arguments& it) {
+        [&](CallArguments& it) {
             it.number("command", command).text("name", name).number("menu", menu);
             it.number("after_item", after_item);
         },
-        [&](Host& host) -> A_Err {
+        [&](Host& host) {
             require_entry(host);
-            host.insert_menu_item({command, &need(name), menu});
-            return 0;
+            host.insert_menu_item({command, &require(name), menu});
         });
 }
 
-// The functions that change one menu item.
+// A call that changes one menu item.
 template <typename Change>
 A_Err change_item(const char* call, AEGP_Command command, const Change& change) {
-    return serve(
-        command_call(call), [&](Arguments& it) { it.number("command", command); },
+    return serve_call(
+        command_call(call), [&](CallArguments& it) { it.number("command", command); },
         [&](Host& host) -> A_Err {
             MenuItem* item = host.menu_item(command);
             if (!item) return bad_argument_error;
@@ -115,9 +98,9 @@ A_Err DisableCommand(AEGP_Command command) {
 }
 
 A_Err CheckMarkMenuCommand(AEGP_Command command, A_Boolean check) {
-    return serve(
+    return serve_call(
         command_call("CheckMarkMenuCommand"),
-        [&](Arguments& it) { it.number("command", command).flag("check", check); },
+        [&](CallArguments& it) { it.number("command", command).flag("check", check); },
         [&](Host& host) -> A_Err {
             MenuItem* item = host.menu_item(command);
             if (!item) return bad_argument_error;
@@ -127,37 +110,28 @@ A_Err CheckMarkMenuCommand(AEGP_Command command, A_Boolean check) {
 }
 
 A_Err DoCommand(AEGP_Command command) {
-    return serve(
-        command_call("DoCommand"), [&](Arguments& it) { it.number("command", command); },
+    return serve_call(
+        command_call("DoCommand"), [&](CallArguments& it) { it.number("command", command); },
         [&](Host& host) { return host.choose(command); });
 }
 
 A_Err ReportInfo(AEGP_PluginID, const A_char* text) {
-    return serve(
-        utility_call("ReportInfo"), [&](Arguments& it) { it.text("text", text); },
-        [&](Host& host) -> A_Err {
-            host.alert(&need(text));
-            return 0;
-        });
+    return serve_call(
+        utility_call("ReportInfo"), [&](CallArguments& it) { it.text("text", text); },
+        [&](Host& host) { host.alert(&require(text)); });
 }
 
 A_Err StartUndoGroup(const A_char* name) {
-    return serve(
-        utility_call("StartUndoGroup"), [&](Arguments& it) { it.text("name", name); },
-        [&](Host& host) -> A_Err {
-            host.document.begin_group(&need(name));
-            return 0;
-        });
+    return serve_call(
+        utility_call("StartUndoGroup"), [&](CallArguments& it) { it.text("name", name); },
+        [&](Host& host) { host.document.begin_group(&require(name)); });
 }
 
 A_Err EndUndoGroup() {
-    return serve(
-        utility_call("EndUndoGroup"), [](Arguments&) {},
-        [&](Host& host) -> A_Err {
-            if (!host.document.end_group())
-                throw Misuse("no undo group is open", FaultKind::Unbalanced);
-            return 0;
-        });
+    return serve_call(utility_call("EndUndoGroup"), [&](Host& host) {
+        if (!host.document.end_group())
+            throw Misuse("no undo group is open", ViolationKind::Unbalanced);
+    });
 }
 
 constexpr AEGP_RegisterSuite6 registering{RegisterCommandHook, RegisterUpdateMenuHook,

@@ -1,8 +1,7 @@
 #include "minihost/suites/FailurePlan.h"
 
-#include "minihost/suites/SuiteTable.h"
+#include "minihost/model/ParseNumber.h"
 
-#include <charconv>
 #include <stdexcept>
 
 namespace minihost {
@@ -11,18 +10,16 @@ namespace {
 
 template <typename Number>
 Number whole_number(const std::string& text, const std::string& all) {
-    Number number{};
-    const char* end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, number);
-    if (error != std::errc() || stop != end)
+    const auto number = parse_number<Number>(text);
+    if (!number)
         throw std::invalid_argument("\"" + all + "\": \"" + text + "\" is no whole number");
-    return number;
+    return *number;
 }
 
 } // namespace
 
-Failure parse_failure(const std::string& text) {
-    Failure failure;
+PlannedFailure parse_failure(const std::string& text) {
+    PlannedFailure failure;
     const std::size_t colon = text.find(':');
     failure.call = text.substr(0, colon);
     if (colon != std::string::npos) {
@@ -36,14 +33,11 @@ Failure parse_failure(const std::string& text) {
         throw std::invalid_argument("\"" + text + "\": calls are counted from 1");
     if (const std::size_t prefix = failure.call.find(".AEGP_"); prefix != std::string::npos)
         failure.call.erase(prefix + 1, 5);
-    if (!is_call_of_host(failure.call))
-        throw std::invalid_argument("\"" + text + "\": the host has no such call (one is \"" +
-                                    "AEGP Stream Suite.SetStreamValue\")");
     return failure;
 }
 
-FailurePlan::FailurePlan(const std::vector<Failure>& failures) {
-    for (const Failure& failure : failures)
+FailurePlan::FailurePlan(const std::vector<PlannedFailure>& failures) {
+    for (const PlannedFailure& failure : failures)
         _planned[failure.call].codes[failure.number] = failure.code;
 }
 

@@ -1,4 +1,4 @@
-// Calls that are to fail: the K-th of a name returns a code and does nothing.
+// Calls that fail on request: the K-th call of a name returns a code and does nothing.
 
 #pragma once
 
@@ -12,22 +12,21 @@
 
 namespace minihost {
 
-// Read from "SUITE.CALL[:K[:CODE]]".
-struct Failure {
+struct PlannedFailure {
     std::string call; // "AEGP Stream Suite.SetStreamValue"
     std::int64_t number = 1;
     std::int32_t code = 4;
 };
 
-// Throws std::invalid_argument, with what is wrong, when the text is none, or when the host has no
-// such call.
-Failure parse_failure(const std::string& text);
+// Parses "SUITE.CALL[:K[:CODE]]". Throws std::invalid_argument. Does not check that the host has
+// such a call.
+PlannedFailure parse_failure(const std::string& text);
 
 class FailurePlan {
   public:
-    explicit FailurePlan(const std::vector<Failure>& failures = {});
+    explicit FailurePlan(const std::vector<PlannedFailure>& failures = {});
 
-    // Counts a call; its code when it is to fail. In line, as every call comes by.
+    // Counts a call; returns its code if it has to fail. Inline, as every call comes here.
     std::optional<std::int32_t> next(const CallName& name) {
         if (_planned.empty()) return std::nullopt;
         return count(name);
@@ -37,9 +36,9 @@ class FailurePlan {
     std::optional<std::int32_t> count(const CallName& name);
     struct Calls {
         std::int64_t made = 0;
-        std::map<std::int64_t, std::int32_t> codes;
+        std::map<std::int64_t, std::int32_t> codes; // by number
     };
-    std::map<std::string, Calls> _planned; // only the names that are to fail some time
+    std::map<std::string, Calls> _planned; // only names with a failure
 };
 
 } // namespace minihost

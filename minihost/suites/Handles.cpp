@@ -4,8 +4,8 @@ namespace minihost {
 
 namespace {
 
-// A handle: its kind above, its number below. Numbers leave the low bits free, so that no handle
-// looks like another one's neighbour.
+// A handle has its kind in the high bits and its number below. The lowest bits stay 0, so that a
+// handle plus one is invalid.
 enum class Kind : std::uint64_t { Item = 1, Composition, Layer, Stream, Collection, Panel };
 constexpr const char* kind_names[] = {"nothing",  "an item",      "a composition", "a layer",
                                       "a stream", "a collection", "a panel"};
@@ -20,23 +20,24 @@ Handle encode(Kind kind, std::uint64_t number) {
     return reinterpret_cast<Handle>(static_cast<std::uintptr_t>(value));
 }
 
-// The number of a handle that must be of this kind.
+// The number of a handle, which must be of the wanted kind.
 std::uint64_t decode(Kind wanted, const void* handle) {
     const auto name = std::string(kind_names[static_cast<int>(wanted)]);
     const auto value = static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(handle));
-    if (value == 0) throw Misuse("null instead of " + name, FaultKind::WrongHandle);
+    if (value == 0) throw Misuse("null instead of " + name, ViolationKind::WrongHandle);
     const std::uint64_t kind = value >> kind_shift;
     if (kind == 0 || kind > static_cast<std::uint64_t>(Kind::Panel) ||
         (value & ((1u << number_shift) - 1)) != 0)
-        throw Misuse("what is no handle instead of " + name, FaultKind::WrongHandle);
+        throw Misuse("what is no handle instead of " + name, ViolationKind::WrongHandle);
     if (kind != static_cast<std::uint64_t>(wanted))
-        throw Misuse(std::string(kind_names[kind]) + " instead of " + name, FaultKind::WrongHandle);
+        throw Misuse(std::string(kind_names[kind]) + " instead of " + name,
+                     ViolationKind::WrongHandle);
     return Handles::number_of(handle);
 }
 
 [[noreturn]] void stale(Kind kind) {
     throw Misuse(std::string(kind_names[static_cast<int>(kind)]) + " that is no more",
-                 FaultKind::StaleHandle);
+                 ViolationKind::StaleHandle);
 }
 
 } // namespace
@@ -77,7 +78,7 @@ AEGP_CollectionH Handles::open_collection(Selection items) {
 }
 
 AEGP_PanelH Handles::open_panel() {
-    _panels[_next] = true;
+    _panels.insert(_next);
     return encode<AEGP_PanelH>(Kind::Panel, _next++);
 }
 
@@ -99,7 +100,7 @@ ItemRef Handles::item(AEGP_ItemH handle) const {
     return {ItemRef::Kind::Source, id};
 }
 
-void Handles::composition(AEGP_CompH handle) const {
+void Handles::require_composition(AEGP_CompH handle) const {
     if (decode(Kind::Composition, handle) != _base + 1) stale(Kind::Composition);
 }
 
@@ -107,7 +108,7 @@ StreamRef Handles::stream(AEGP_StreamRefH handle) const {
     const auto found = _streams.find(decode(Kind::Stream, handle));
     if (found == _streams.end()) stale(Kind::Stream);
     if (!_scene.find(found->second.layer))
-        throw Misuse("a stream of a layer that is no more", FaultKind::StaleHandle);
+        throw Misuse("a stream of a layer that is no more", ViolationKind::StaleHandle);
     return found->second;
 }
 
@@ -117,10 +118,8 @@ Selection& Handles::collection(AEGP_CollectionH handle) {
     return found->second;
 }
 
-std::uint64_t Handles::panel(AEGP_PanelH handle) const {
-    const std::uint64_t number = decode(Kind::Panel, handle);
-    if (!_panels.contains(number)) stale(Kind::Panel);
-    return number;
+void Handles::require_panel(AEGP_PanelH handle) const {
+    if (!_panels.contains(decode(Kind::Panel, handle))) stale(Kind::Panel);
 }
 
 void Handles::close(AEGP_StreamRefH handle) {
@@ -137,7 +136,7 @@ void Handles::close(AEGP_PanelH handle) {
 
 void Handles::begin_scene(LayerId used) {
     _base += first_source + used;
-    // They are the plug-in's to dispose of, but there is nothing behind them any more.
+    // The plug-in still has to dispose of them.
     for (auto& [number, stream] : _streams) stream.layer = 0;
     for (auto& [number, items] : _collections) items.clear();
 }

@@ -1,7 +1,5 @@
 #include "minihost/suites/Host.h"
 
-#include "minihost/suites/SuiteTable.h"
-
 #include <utility>
 
 namespace minihost {
@@ -10,28 +8,28 @@ namespace {
 
 thread_local Host* current_host = nullptr;
 
-// A command may choose commands; one that goes on choosing itself must end.
-constexpr int greatest_depth_of_commands = 16;
+// Ends a command that chooses itself.
+constexpr int max_command_depth = 16;
 
 constexpr A_long major_version = 1, minor_version = 0;
 constexpr AEGP_PluginID plugin_id = 1;
-constexpr A_long usual_sleep = 30; // 60ths of a second
+constexpr A_long default_sleep = 30; // 60ths of a second
 
-constexpr std::size_t most_faults = 5000; // that are kept
+constexpr std::size_t max_violations = 5000;
 
-std::string times(std::size_t count, const std::string& what) {
-    return count == 1 ? "one " + what : std::to_string(count) + " " + what + "s";
+std::string counted(std::size_t count, const std::string& noun) {
+    return count == 1 ? "one " + noun : std::to_string(count) + " " + noun + "s";
 }
 
 } // namespace
 
-// Makes a host the current one as long as it is inside the plug-in.
-class Host::Visit {
+// Makes a host the current one.
+class Host::CurrentHostScope {
   public:
-    explicit Visit(Host& host) : _before(std::exchange(current_host, &host)) {}
-    ~Visit() { current_host = _before; }
-    Visit(const Visit&) = delete;
-    Visit& operator=(const Visit&) = delete;
+    explicit CurrentHostScope(Host& host) : _before(std::exchange(current_host, &host)) {}
+    ~CurrentHostScope() { current_host = _before; }
+    CurrentHostScope(const CurrentHostScope&) = delete;
+    CurrentHostScope& operator=(const CurrentHostScope&) = delete;
 
   private:
     Host* _before;
@@ -40,11 +38,11 @@ class Host::Visit {
 Host::Host(Scene scene, HostOptions options, Reporter report, PanelMaker make_panel)
     : document(std::move(scene)),
       handles(document.scene()),
-      failures(options.failures),
-      misbehaviour(options.misdeeds),
-      panels(std::move(make_panel)),
+      failure_plan(options.failures),
+      misbehaviour_plan(options.misbehaviours),
       _options(std::move(options)),
-      _report(std::move(report)) {}
+      _report(std::move(report)),
+      _make_panel(std::move(make_panel)) {}
 
 Host* Host::current() {
     return current_host;
@@ -52,61 +50,62 @@ Host* Host::current() {
 
 template <typename Body>
 A_Err Host::call_hook(const char* name, const Body& body) {
-    const Visit visit(*this);
+    const CurrentHostScope scope(*this);
     A_Err error = host_error;
     try {
         error = body();
         if (error == 0) return 0;
-        report_fault(FaultKind::HookError, std::string("the plug-in's ") + name +
-                                               " returned error " + std::to_string(error));
+        report_violation(ViolationKind::HookError, std::string("the plug-in's ") + name +
+                                                       " returned error " + std::to_string(error));
     } catch (...) {
-        report_fault(FaultKind::HookException,
-                     std::string("the plug-in's ") + name + " threw an exception");
+        report_violation(ViolationKind::HookException,
+                         std::string("the plug-in's ") + name + " threw an exception");
     }
     ++_hook_errors;
     return error;
 }
 
-A_Err Host::enter(AEGP_PluginEntryProc entry) {
-    _entering = true;
+A_Err Host::call_entry(AEGP_PluginEntryProc entry, const SPBasicSuite& basic_suite) {
+    _in_entry = true;
     const A_Err error = call_hook("entry function", [&] {
-        // The interface wants it without const; the table is never written to.
-        return entry(const_cast<SPBasicSuite*>(basic_suite()), major_version, minor_version,
+        // The interface takes it without const, but nobody writes to it.
+        return entry(const_cast<SPBasicSuite*>(&basic_suite), major_version, minor_version,
                      plugin_id, &_global_refcon);
     });
-    _entering = false;
+    _in_entry = false;
     return error;
 }
 
-A_Err Host::update_menu() {
-    for (MenuItem& item : _menu) item.enabled = item.checked = false;
+template <typename List, typename Body>
+A_Err Host::call_hooks(const char* name, const List& hooks, const Body& body) {
     A_Err first = 0;
-    for (const UpdateMenuHook& it : _hooks.update_menu) {
-        const A_Err error =
-            call_hook("menu hook", [&] { return it.hook(_global_refcon, it.refcon, 0); });
+    for (const auto& it : hooks) {
+        const A_Err error = call_hook(name, [&] { return body(it); });
         if (first == 0) first = error;
     }
     return first;
 }
 
+A_Err Host::update_menu() {
+    for (MenuItem& item : _menu) item.enabled = item.checked = false;
+    return call_hooks("menu hook", _hooks.update_menu,
+                      [&](const auto& it) { return it.hook(_global_refcon, it.refcon, 0); });
+}
+
 A_Err Host::choose(AEGP_Command command) {
-    if (_depth_of_commands >= greatest_depth_of_commands) return host_error;
-    ++_depth_of_commands;
+    if (_command_depth >= max_command_depth) return host_error;
+    ++_command_depth;
     A_Boolean handled = 0;
-    A_Err first = 0;
-    for (const CommandHook& it : _hooks.command) {
-        if (it.command != command && it.command != AEGP_Command_ALL) continue;
-        const A_Err error = call_hook("command hook", [&] {
-            A_Boolean handles_it = handled;
-            const A_Err result =
-                it.hook(_global_refcon, it.refcon, command, AEGP_HP_BeforeAE, handled, &handles_it);
-            handled = handled || handles_it;
-            return result;
-        });
-        if (first == 0) first = error;
-    }
-    --_depth_of_commands;
-    if (first != 0 || handled) return first;
+    const A_Err error = call_hooks("command hook", _hooks.command, [&](const CommandHook& it) {
+        if (it.command != command && it.command != AEGP_Command_ALL) return A_Err{0};
+        A_Boolean handles_it = handled;
+        const A_Err result =
+            it.hook(_global_refcon, it.refcon, command, AEGP_HP_BeforeAE, handled, &handles_it);
+        handled = handled || handles_it;
+        return result;
+    });
+    --_command_depth;
+    if (error != 0 || handled) return error;
     if (command == AEGP_Command_DUPLICATE) {
         document.duplicate_selection();
         return 0;
@@ -115,52 +114,80 @@ A_Err Host::choose(AEGP_Command command) {
 }
 
 A_Err Host::idle() {
-    A_Err first = 0;
-    for (const IdleHook& it : _hooks.idle) {
-        A_long sleep = usual_sleep;
-        const A_Err error =
-            call_hook("idle hook", [&] { return it.hook(_global_refcon, it.refcon, &sleep); });
-        if (first == 0) first = error;
-    }
-    return first;
-}
-
-A_Err Host::make_panel(AEGP_CreatePanelHook hook, AEGP_CreatePanelRefcon refcon, PanelView& view,
-                       AEGP_PanelH panel, AEGP_PanelFunctions1& functions, AEGP_PanelRefcon& out) {
-    return call_hook("panel hook", [&] {
-        return hook(_global_refcon, refcon, view.container(), panel, &functions, &out);
+    return call_hooks("idle hook", _hooks.idle, [&](const auto& it) {
+        A_long sleep = default_sleep;
+        return it.hook(_global_refcon, it.refcon, &sleep);
     });
 }
 
-A_Err Host::ask_snap_sizes(const AEGP_PanelFunctions1& functions, AEGP_PanelRefcon refcon,
-                           A_LPoint* sizes, A_long& count) {
+A_Err Host::create_panel(PanelKind& kind) {
+    kind.view = _make_panel();
+    kind.handle = handles.open_panel();
+    AEGP_PanelFunctions1 functions{};
+    AEGP_PanelRefcon refcon = nullptr;
+    const A_Err error = call_hook("panel hook", [&] {
+        return kind.hook(_global_refcon, kind.refcon, kind.view->container(), kind.handle,
+                         &functions, &refcon);
+    });
+    if (error != 0) {
+        handles.close(kind.handle);
+        kind.view.reset();
+        return error;
+    }
     if (!functions.GetSnapSizes) return 0;
-    return call_hook("panel's size function",
-                     [&] { return functions.GetSnapSizes(refcon, sizes, &count); });
+    // The panel takes the first of up to 5 sizes. A failure here leaves its size alone.
+    A_LPoint sizes[5] = {};
+    A_long count = 0;
+    const A_Err no_sizes = call_hook("panel's size function",
+                                     [&] { return functions.GetSnapSizes(refcon, sizes, &count); });
+    if (no_sizes == 0 && count > 0 && sizes[0].x > 0 && sizes[0].y > 0)
+        kind.view->resize(sizes[0].x, sizes[0].y);
+    return 0;
 }
 
-void Host::visit(const std::function<void()>& body) {
-    const Visit visit(*this);
+A_Err Host::toggle_panel(const std::string& match_name) {
+    const auto found = panels.kinds().find(match_name);
+    if (found == panels.kinds().end()) return bad_argument_error;
+    PanelKind& kind = found->second;
+    if (!kind.view)
+        if (const A_Err error = create_panel(kind)) return error;
+    kind.view->show(!kind.view->is_visible());
+    return 0;
+}
+
+bool Host::close_panels() {
+    bool any = false;
+    for (auto& [name, kind] : panels.kinds()) {
+        if (!kind.view) continue;
+        any = true;
+        handles.close(kind.handle);
+        enter([&kind = kind] { kind.view.reset(); });
+    }
+    return any;
+}
+
+void Host::enter(const std::function<void()>& body) {
+    const CurrentHostScope scope(*this);
     body();
 }
 
-std::vector<Fault> Host::holdings() const {
-    std::vector<Fault> held;
+std::vector<Violation> Host::held_objects() const {
+    std::vector<Violation> held;
     for (const auto& [suite, count] : _acquired)
         if (count > 0)
-            held.push_back({FaultKind::HeldSuite, suite.first + " " + std::to_string(suite.second) +
-                                                      ", acquired " + std::to_string(count) +
-                                                      (count == 1 ? " time" : " times") +
-                                                      " more than released"});
+            held.push_back({ViolationKind::HeldSuite,
+                            suite.first + " " + std::to_string(suite.second) + ", acquired " +
+                                std::to_string(count) + (count == 1 ? " time" : " times") +
+                                " more than released"});
     if (const std::size_t count = handles.open_streams().size())
-        held.push_back({FaultKind::HeldStream, times(count, "stream") + " not disposed of"});
+        held.push_back({ViolationKind::HeldStream, counted(count, "stream") + " not disposed of"});
     if (const std::size_t count = handles.open_collections().size())
         held.push_back(
-            {FaultKind::HeldCollection, times(count, "collection") + " not disposed of"});
+            {ViolationKind::HeldCollection, counted(count, "collection") + " not disposed of"});
     if (document.open_groups() > 0)
-        held.push_back(
-            {FaultKind::OpenUndoGroup,
-             times(static_cast<std::size_t>(document.open_groups()), "undo group") + " left open"});
+        held.push_back({ViolationKind::OpenUndoGroup,
+                        counted(static_cast<std::size_t>(document.open_groups()), "undo group") +
+                            " left open"});
     return held;
 }
 
@@ -169,13 +196,13 @@ void Host::open(Scene scene) {
     document = Document(std::move(scene));
 }
 
-std::vector<std::string> Host::bury() {
-    for (const DeathHook& it : _hooks.death)
-        call_hook("death hook", [&] { return it.hook(_global_refcon, it.refcon); });
-    panels.close(*this);
+std::vector<std::string> Host::shut_down() {
+    call_hooks("death hook", _hooks.death,
+               [&](const auto& it) { return it.hook(_global_refcon, it.refcon); });
+    close_panels();
     std::vector<std::string> held;
-    for (const Fault& it : holdings()) {
-        report_fault(it.kind, "the plug-in still holds " + it.text);
+    for (const Violation& it : held_objects()) {
+        report_violation(it.kind, "the plug-in still holds " + it.text);
         held.push_back(it.text);
     }
     while (document.end_group()) {
@@ -183,23 +210,23 @@ std::vector<std::string> Host::bury() {
     _hooks = {};
     _menu.clear();
     _acquired.clear();
-    panels.forget();
+    panels.kinds().clear();
     handles.close_all();
     return held;
 }
 
-void Host::tell_misuse(const CallName& call, const Misuse& misuse) {
+void Host::report_misuse(const CallName& call, const Misuse& misuse) {
     ++_misuses;
-    report_fault(misuse.kind(), std::string("misuse by the plug-in: ") + call.suite + "." +
-                                    call.call + ": " + misuse.what());
+    report_violation(misuse.kind(), std::string("misuse by the plug-in: ") + call.suite + "." +
+                                        call.call + ": " + misuse.what());
 }
 
-void Host::note(FaultKind kind, std::string text) {
-    if (_faults.size() < most_faults) _faults.push_back({kind, std::move(text)});
+void Host::record_violation(ViolationKind kind, std::string text) {
+    if (_violations.size() < max_violations) _violations.push_back({kind, std::move(text)});
 }
 
-void Host::report_fault(FaultKind kind, const std::string& line) {
-    note(kind, line);
+void Host::report_violation(ViolationKind kind, const std::string& line) {
+    record_violation(kind, line);
     report(line);
 }
 
@@ -214,17 +241,8 @@ MenuItem* Host::menu_item(AEGP_Command command) {
     return nullptr;
 }
 
-const void* Host::acquire(const char* name, A_long version) {
-    const Suite* suite = find_suite(name, version);
-    if (!suite) return nullptr;
-    for (const std::string& word : _options.without)
-        if (suite->is_left_out_by(word)) return nullptr;
-    ++_acquired[{name, version}];
-    return misbehaviour.is_on() ? misbehaving_functions(*suite) : suite->functions;
-}
-
-bool Host::release(const char* name, A_long version) {
-    const auto found = _acquired.find({name, version});
+bool Host::count_released(const char* suite, A_long version) {
+    const auto found = _acquired.find({suite, version});
     if (found == _acquired.end() || found->second == 0) return false;
     --found->second;
     return true;

@@ -1,6 +1,5 @@
-// The host: a scene that is edited, and everything that a plug-in is served over it. One object;
-// the suites' functions, which have no context of their own, find it while it calls into the
-// plug-in.
+// The host: a scene and what a plug-in needs to edit it. While it calls into the plug-in it is the
+// current host, by which the suites' functions find it, as they get no context.
 
 #pragma once
 
@@ -9,69 +8,35 @@
 #include "minihost/suites/Colors.h"
 #include "minihost/suites/FailurePlan.h"
 #include "minihost/suites/Handles.h"
-#include "minihost/suites/Misbehaviour.h"
+#include "minihost/suites/Hooks.h"
+#include "minihost/suites/MisbehaviourPlan.h"
 #include "minihost/suites/Panels.h"
+#include "minihost/suites/Violation.h"
 #include "sdk/Host.h"
 
 #include <cstddef>
 #include <functional>
 #include <map>
-#include <memory>
 #include <set>
 #include <string>
 #include <vector>
 
 namespace minihost {
 
-// What a call that makes no sense gets: misuse_error is for handles and pointers that are none.
-constexpr A_Err misuse_error = 3;
-constexpr A_Err bad_argument_error = 5; // an index out of range, a stream that is not there
-constexpr A_Err host_error = 1;         // the host itself could not
+constexpr A_Err host_error = 1;         // the host failed
+constexpr A_Err misuse_error = 3;       // an invalid handle, a null pointer
+constexpr A_Err bad_argument_error = 5; // an index out of range, a stream that does not exist
 
 struct HostOptions {
     std::set<std::string> without; // words of --without
-    std::vector<Failure> failures;
-    std::vector<PlannedMisdeed> misdeeds = {};
+    std::vector<PlannedFailure> failures;
+    std::vector<PlannedMisbehaviour> misbehaviours = {};
     Palette palette = Palette::Dark;
-};
-
-// The plug-in's command in a menu. Enabling and checking last until the next menu update.
-struct MenuItem {
-    AEGP_Command command;
-    std::string text;
-    AEGP_MenuID menu;
-    bool enabled = false;
-    bool checked = false;
-};
-
-// What a plug-in has registered.
-struct CommandHook {
-    AEGP_Command command; // AEGP_Command_ALL for all
-    AEGP_CommandHook hook;
-    AEGP_CommandRefcon refcon;
-};
-struct UpdateMenuHook {
-    AEGP_UpdateMenuHook hook;
-    AEGP_UpdateMenuRefcon refcon;
-};
-struct DeathHook {
-    AEGP_DeathHook hook;
-    AEGP_DeathRefcon refcon;
-};
-struct IdleHook {
-    AEGP_IdleHook hook;
-    AEGP_IdleRefcon refcon;
-};
-struct Hooks {
-    std::vector<CommandHook> command;
-    std::vector<UpdateMenuHook> update_menu;
-    std::vector<DeathHook> death;
-    std::vector<IdleHook> idle;
 };
 
 class Host {
   public:
-    // Gets messages for the user, a line each without its end.
+    // Receives messages for the user, a line each without its newline.
     using Reporter = std::function<void(const std::string&)>;
 
     Host(Scene scene, HostOptions options, Reporter report, PanelMaker make_panel);
@@ -81,42 +46,42 @@ class Host {
     Document document;
     Handles handles;
     CallLog log;
-    FailurePlan failures;
-    Misbehaviour misbehaviour;
+    FailurePlan failure_plan;
+    MisbehaviourPlan misbehaviour_plan;
     Panels panels;
 
-    // Gets the number of calls that the plug-in has made so far, at each.
+    // Receives the number of calls so far, at every call.
     std::function<void(std::size_t)> on_call;
 
     const HostOptions& options() const { return _options; }
-    const SPBasicSuite* basic_suite() const;
     const std::vector<MenuItem>& menu() const { return _menu; }
-    // The texts that the plug-in has reported so far.
+    // The texts of all alerts so far.
     const std::vector<std::string>& alerts() const { return _alerts; }
-    // How many hooks have returned an error so far, or thrown.
+    // How many hooks have returned an error or thrown.
     int hook_errors() const { return _hook_errors; }
-    // How often the plug-in has misused the host so far.
+    // How many calls of the plug-in have returned misuse_error.
     int misuses() const { return _misuses; }
-    // Everything that the plug-in did wrong, in the order in which it was noticed; the first some
-    // thousands.
-    const std::vector<Fault>& faults() const { return _faults; }
-    void note(FaultKind kind, std::string text);
+    // In the order in which they were found; only the first thousands.
+    const std::vector<Violation>& violations() const { return _violations; }
+    void record_violation(ViolationKind kind, std::string text);
 
-    // What the host does with a plug-in that is loaded. Each reports a hook that fails; the first
-    // failing hook's code is the result.
-    A_Err enter(AEGP_PluginEntryProc entry);
+    // Call the plug-in's hooks. Each reports a hook that fails, and returns the first error.
+    A_Err call_entry(AEGP_PluginEntryProc entry, const SPBasicSuite& basic_suite);
     A_Err update_menu();
-    // As if the user had chosen a command: the plug-in's hooks first, then the host itself.
+    // As if the user chose the command: what no hook handles is left to the host.
     A_Err choose(AEGP_Command command);
     A_Err idle();
-    // Another scene instead, with no step to undo. The plug-in stays; what it had of the old scene
-    // is stale.
+    // Shows or hides a panel by its match name, after creating it if there is none.
+    A_Err toggle_panel(const std::string& match_name);
+    // Disposes of all panels; no hook is called. False when there is none.
+    bool close_panels();
+    // Replaces the scene, without an undo step. The plug-in's handles become stale.
     void open(Scene scene);
-    // The plug-in's last call. After it nothing of the plug-in is called any more; what it still
-    // holds is reported, and given as lines.
-    std::vector<std::string> bury();
-    // Runs something that may enter the plug-in by another way (an event, a drawing).
-    void visit(const std::function<void()>& body);
+    // Calls the death hooks and forgets all registrations, so that the plug-in is not called again.
+    // Reports what the plug-in still holds, and returns it, a line each.
+    std::vector<std::string> shut_down();
+    // Runs something else that may call into the plug-in, such as an event or a drawing.
+    void enter(const std::function<void()>& body);
 
     // For the suites' functions. Null outside the calls above.
     static Host* current();
@@ -124,45 +89,45 @@ class Host {
     void count_call() {
         ++_calls;
         if (on_call) on_call(_calls);
-        if (misbehaviour.is_on()) misbehaviour.before_call(document);
+        if (misbehaviour_plan.is_on()) misbehaviour_plan.before_call(document);
     }
-    void tell_misuse(const CallName& call, const Misuse& misuse);
+    void report_misuse(const CallName& call, const Misuse& misuse);
     void alert(const std::string& text);
-    bool is_entering() const { return _entering; }
+    bool is_in_entry() const { return _in_entry; }
     Hooks& hooks() { return _hooks; }
     AEGP_Command new_command() { return _next_command++; }
-    // A panel's hook fills its view.
-    A_Err make_panel(AEGP_CreatePanelHook hook, AEGP_CreatePanelRefcon refcon, PanelView& view,
-                     AEGP_PanelH panel, AEGP_PanelFunctions1& functions, AEGP_PanelRefcon& out);
-    // Up to 5 sizes; none when the panel has no such function.
-    A_Err ask_snap_sizes(const AEGP_PanelFunctions1& functions, AEGP_PanelRefcon refcon,
-                         A_LPoint* sizes, A_long& count);
     void insert_menu_item(MenuItem item) { _menu.push_back(std::move(item)); }
+    // Null when there is none.
     MenuItem* menu_item(AEGP_Command command);
-    const void* acquire(const char* name, A_long version);
-    bool release(const char* name, A_long version);
+    void count_acquired(const char* suite, A_long version) { ++_acquired[{suite, version}]; }
+    // False when the suite is not acquired.
+    bool count_released(const char* suite, A_long version);
 
   private:
-    class Visit;
-    void report_fault(FaultKind kind, const std::string& line);
+    class CurrentHostScope;
+    void report_violation(ViolationKind kind, const std::string& line);
     template <typename Body>
     A_Err call_hook(const char* name, const Body& body);
-    std::vector<Fault> holdings() const;
+    template <typename List, typename Body>
+    A_Err call_hooks(const char* name, const List& hooks, const Body& body);
+    A_Err create_panel(PanelKind& kind);
+    std::vector<Violation> held_objects() const;
 
     HostOptions _options;
     Reporter _report;
+    PanelMaker _make_panel;
     Hooks _hooks;
     std::vector<MenuItem> _menu;
     std::vector<std::string> _alerts;
     std::map<std::pair<std::string, int>, int> _acquired; // by name and version
     AEGP_GlobalRefcon _global_refcon = nullptr;
     AEGP_Command _next_command = 5001;
-    bool _entering = false;
-    int _depth_of_commands = 0;
+    bool _in_entry = false;
+    int _command_depth = 0;
     std::size_t _calls = 0;
     int _hook_errors = 0;
     int _misuses = 0;
-    std::vector<Fault> _faults;
+    std::vector<Violation> _violations;
 };
 
 } // namespace minihost

@@ -1,7 +1,7 @@
-// Collections, items, and the composition with its selection.
+// The suites for collections, items, and the composition with its selection.
 
-#include "minihost/suites/Serve.h"
-#include "minihost/suites/SuiteTable.h"
+#include "minihost/suites/ServeCall.h"
+#include "minihost/suites/SuiteFunctions.h"
 
 namespace minihost {
 
@@ -18,41 +18,34 @@ CallName comp_call(const char* call) {
 }
 
 A_Err NewCollection(AEGP_PluginID, AEGP_CollectionH* collection) {
-    return serve(
-        collection_call("NewCollection"), [](Arguments&) {},
-        [&](Host& host) -> A_Err {
-            need(collection) = host.handles.open_collection({});
-            return 0;
-        });
+    return serve_call(collection_call("NewCollection"),
+                      [&](Host& host) { require(collection) = host.handles.open_collection({}); });
 }
 
 A_Err DisposeCollection(AEGP_CollectionH collection) {
-    return serve(
-        collection_call("DisposeCollection"), [&](Arguments& it) { it.collection(collection); },
-        [&](Host& host) -> A_Err {
-            host.handles.close(collection);
-            return 0;
-        });
+    return serve_call(
+        collection_call("DisposeCollection"), [&](CallArguments& it) { it.collection(collection); },
+        [&](Host& host) { host.handles.close(collection); });
 }
 
 A_Err GetCollectionNumItems(AEGP_CollectionH collection, A_u_long* count) {
-    return serve(
-        collection_call("GetCollectionNumItems"), [&](Arguments& it) { it.collection(collection); },
-        [&](Host& host) -> A_Err {
-            A_u_long& result = need(count);
+    return serve_call(
+        collection_call("GetCollectionNumItems"),
+        [&](CallArguments& it) { it.collection(collection); },
+        [&](Host& host) {
+            A_u_long& result = require(count);
             result = static_cast<A_u_long>(host.handles.collection(collection).size());
-            return 0;
         });
 }
 
 A_Err GetCollectionItemByIndex(AEGP_CollectionH collection, A_u_long index,
                                AEGP_CollectionItem* item) {
-    return serve(
+    return serve_call(
         collection_call("GetCollectionItemByIndex"),
-        [&](Arguments& it) { it.collection(collection).number("index", index); },
+        [&](CallArguments& it) { it.collection(collection).number("index", index); },
         [&](Host& host) -> A_Err {
             const Selection& items = host.handles.collection(collection);
-            AEGP_CollectionItem& result = need(item);
+            AEGP_CollectionItem& result = require(item);
             if (index >= items.size()) return bad_argument_error;
             const LayerId layer = items[index];
             result = layer ? AEGP_CollectionItem{AEGP_CollectionItemType_LAYER,
@@ -63,102 +56,93 @@ A_Err GetCollectionItemByIndex(AEGP_CollectionH collection, A_u_long index,
 }
 
 A_Err CollectionPushBack(AEGP_CollectionH collection, const AEGP_CollectionItem* item) {
-    return serve(
+    return serve_call(
         collection_call("CollectionPushBack"),
-        [&](Arguments& it) {
+        [&](CallArguments& it) {
             it.collection(collection);
             if (item && item->type == AEGP_CollectionItemType_LAYER) it.layer(item->layerH);
         },
-        [&](Host& host) -> A_Err {
+        [&](Host& host) {
             Selection& items = host.handles.collection(collection);
-            const bool is_layer = need(item).type == AEGP_CollectionItemType_LAYER;
+            const bool is_layer = require(item).type == AEGP_CollectionItemType_LAYER;
             items.push_back(is_layer ? host.handles.layer(item->layerH) : 0);
-            return 0;
         });
 }
 
 A_Err GetActiveItem(AEGP_ItemH* item) {
-    return serve(
-        item_call("GetActiveItem"), [](Arguments&) {},
-        [&](Host& host) -> A_Err {
-            AEGP_ItemH& result = need(item);
-            switch (host.document.scene().active) {
-            case ActiveItem::Composition:
-                result = host.handles.of_item({ItemRef::Kind::Composition});
-                break;
-            case ActiveItem::Footage:
-                result = host.handles.of_item({ItemRef::Kind::Footage});
-                break;
-            case ActiveItem::None:
-                result = nullptr;
-                break;
-            }
-            return 0;
-        });
+    return serve_call(item_call("GetActiveItem"), [&](Host& host) {
+        AEGP_ItemH& result = require(item);
+        switch (host.document.scene().active) {
+        case ActiveItem::Composition:
+            result = host.handles.of_item({ItemRef::Kind::Composition});
+            break;
+        case ActiveItem::Footage:
+            result = host.handles.of_item({ItemRef::Kind::Footage});
+            break;
+        case ActiveItem::None:
+            result = nullptr;
+            break;
+        }
+    });
 }
 
 A_Err GetItemType(AEGP_ItemH item, AEGP_ItemType* type) {
-    return serve(
-        item_call("GetItemType"), [&](Arguments& it) { it.item(item); },
-        [&](Host& host) -> A_Err {
+    return serve_call(
+        item_call("GetItemType"), [&](CallArguments& it) { it.item(item); },
+        [&](Host& host) {
             const bool is_comp = host.handles.item(item).kind == ItemRef::Kind::Composition;
-            need(type) = is_comp ? AEGP_ItemType_COMP : AEGP_ItemType_FOOTAGE;
-            return 0;
+            require(type) = is_comp ? AEGP_ItemType_COMP : AEGP_ItemType_FOOTAGE;
         });
 }
 
 A_Err GetItemDimensions(AEGP_ItemH item, A_long* width, A_long* height) {
-    return serve(
-        item_call("GetItemDimensions"), [&](Arguments& it) { it.item(item); },
-        [&](Host& host) -> A_Err {
+    return serve_call(
+        item_call("GetItemDimensions"), [&](CallArguments& it) { it.item(item); },
+        [&](Host& host) {
             const Scene& scene = host.document.scene();
             const ItemRef ref = host.handles.item(item);
             // The footage item that may be active is of the composition's size.
             Size size{scene.composition.width, scene.composition.height};
             if (ref.kind == ItemRef::Kind::Source) size = scene.find(ref.layer)->size;
-            A_long &wide = need(width), &high = need(height);
+            A_long &wide = require(width), &high = require(height);
             wide = size.width;
             high = size.height;
-            return 0;
         });
 }
 
 A_Err GetCompFromItem(AEGP_ItemH item, AEGP_CompH* comp) {
-    return serve(
-        comp_call("GetCompFromItem"), [&](Arguments& it) { it.item(item); },
-        [&](Host& host) -> A_Err {
+    return serve_call(
+        comp_call("GetCompFromItem"), [&](CallArguments& it) { it.item(item); },
+        [&](Host& host) {
             const bool is_comp = host.handles.item(item).kind == ItemRef::Kind::Composition;
-            need(comp) = is_comp ? host.handles.of_composition() : nullptr;
-            return 0;
+            require(comp) = is_comp ? host.handles.of_composition() : nullptr;
         });
 }
 
 A_Err GetNewCollectionFromCompSelection(AEGP_PluginID, AEGP_CompH comp,
                                         AEGP_CollectionH* collection) {
-    return serve(
+    return serve_call(
         comp_call("GetNewCollectionFromCompSelection"),
-        [&](Arguments& it) { it.composition(comp); },
-        [&](Host& host) -> A_Err {
-            host.handles.composition(comp);
-            AEGP_CollectionH& result = need(collection);
+        [&](CallArguments& it) { it.composition(comp); },
+        [&](Host& host) {
+            host.handles.require_composition(comp);
+            AEGP_CollectionH& result = require(collection);
             result = host.handles.open_collection(host.document.scene().selection());
-            return 0;
         });
 }
 
 A_Err SetSelection(AEGP_CompH comp, AEGP_CollectionH collection) {
-    return serve(
+    return serve_call(
         comp_call("SetSelection"),
-        [&](Arguments& it) { it.composition(comp).collection(collection); },
-        [&](Host& host) -> A_Err {
-            host.handles.composition(comp);
+        [&](CallArguments& it) { it.composition(comp).collection(collection); },
+        [&](Host& host) {
+            host.handles.require_composition(comp);
             const Selection& items = host.handles.collection(collection);
             for (const LayerId layer : items)
                 if (layer && !host.document.scene().find(layer))
                     throw Misuse("a collection with a layer that is no more",
-                                 FaultKind::StaleHandle);
+                                 ViolationKind::StaleHandle);
             host.document.select(items);
-            return 0;
         });
 }
 

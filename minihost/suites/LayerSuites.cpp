@@ -1,8 +1,8 @@
-// Layers: which there are, what they are, in which order.
+// The layer suites.
 
-#include "minihost/suites/Serve.h"
-#include "minihost/suites/SuiteTable.h"
-#include "minihost/suites/Times.h"
+#include "minihost/suites/ServeCall.h"
+#include "minihost/suites/SuiteFunctions.h"
+#include "minihost/suites/TimeConversion.h"
 
 #include <algorithm>
 #include <cstring>
@@ -15,17 +15,15 @@ CallName layer_call(const char* call) {
     return {kAEGPLayerSuite, kAEGPLayerSuiteVersion, call};
 }
 
-// The functions that look at one layer.
+// A call that looks at one layer.
 template <typename Body>
 A_Err look_at_layer(const char* call, AEGP_LayerH handle, const Body& body) {
-    return serve(
-        layer_call(call), [&](Arguments& it) { it.layer(handle); },
-        [&](Host& host) -> A_Err {
-            return body(host, *host.document.scene().find(host.handles.layer(handle)));
-        });
+    return serve_call(
+        layer_call(call), [&](CallArguments& it) { it.layer(handle); },
+        [&](Host& host) { body(host, *host.document.scene().find(host.handles.layer(handle))); });
 }
 
-// A name in its buffer, cut before the character that no longer fits.
+// Truncates a name that is too long before an incomplete character.
 void copy_name(A_char* buffer, const std::string& name) {
     std::size_t length = name.size();
     if (length >= AEGP_MAX_LAYER_NAME_SIZE) {
@@ -37,22 +35,21 @@ void copy_name(A_char* buffer, const std::string& name) {
 }
 
 A_Err GetCompNumLayers(AEGP_CompH comp, A_long* count) {
-    return serve(
-        layer_call("GetCompNumLayers"), [&](Arguments& it) { it.composition(comp); },
-        [&](Host& host) -> A_Err {
-            host.handles.composition(comp);
-            need(count) = static_cast<A_long>(host.document.scene().layer_count());
-            return 0;
+    return serve_call(
+        layer_call("GetCompNumLayers"), [&](CallArguments& it) { it.composition(comp); },
+        [&](Host& host) {
+            host.handles.require_composition(comp);
+            require(count) = static_cast<A_long>(host.document.scene().layer_count());
         });
 }
 
 A_Err GetCompLayerByIndex(AEGP_CompH comp, A_long index, AEGP_LayerH* layer) {
-    return serve(
+    return serve_call(
         layer_call("GetCompLayerByIndex"),
-        [&](Arguments& it) { it.composition(comp).number("index", index); },
+        [&](CallArguments& it) { it.composition(comp).number("index", index); },
         [&](Host& host) -> A_Err {
-            host.handles.composition(comp);
-            AEGP_LayerH& result = need(layer);
+            host.handles.require_composition(comp);
+            AEGP_LayerH& result = require(layer);
             const Scene& scene = host.document.scene();
             if (index < 0 || static_cast<std::size_t>(index) >= scene.layer_count())
                 return bad_argument_error;
@@ -62,38 +59,34 @@ A_Err GetCompLayerByIndex(AEGP_CompH comp, A_long index, AEGP_LayerH* layer) {
 }
 
 A_Err GetLayerIndex(AEGP_LayerH handle, A_long* index) {
-    return look_at_layer("GetLayerIndex", handle, [&](Host& host, const Layer& layer) -> A_Err {
-        need(index) = static_cast<A_long>(host.document.scene().index_of(layer.id));
-        return 0;
+    return look_at_layer("GetLayerIndex", handle, [&](Host& host, const Layer& layer) {
+        require(index) = static_cast<A_long>(host.document.scene().index_of(layer.id));
     });
 }
 
 A_Err GetLayerSourceItem(AEGP_LayerH handle, AEGP_ItemH* item) {
-    return look_at_layer(
-        "GetLayerSourceItem", handle, [&](Host& host, const Layer& layer) -> A_Err {
-            AEGP_ItemH& result = need(item);
-            result = layer.has_source() ? host.handles.of_item({ItemRef::Kind::Source, layer.id})
-                                        : nullptr;
-            return 0;
-        });
+    return look_at_layer("GetLayerSourceItem", handle, [&](Host& host, const Layer& layer) {
+        AEGP_ItemH& result = require(item);
+        result =
+            layer.has_source() ? host.handles.of_item({ItemRef::Kind::Source, layer.id}) : nullptr;
+    });
 }
 
 A_Err GetLayerName(AEGP_LayerH handle, A_char* layer_name, A_char* source_name) {
-    return look_at_layer("GetLayerName", handle, [&](Host&, const Layer& layer) -> A_Err {
+    return look_at_layer("GetLayerName", handle, [&](Host&, const Layer& layer) {
         if (layer_name) copy_name(layer_name, layer.name);
         if (source_name) copy_name(source_name, layer.has_source() ? layer.name : "");
-        return 0;
     });
 }
 
 A_Err GetLayerCurrentTime(AEGP_LayerH handle, AEGP_LTimeMode mode, A_Time* time) {
-    return serve(
+    return serve_call(
         layer_call("GetLayerCurrentTime"),
-        [&](Arguments& it) { it.layer(handle).number("time_mode", mode); },
+        [&](CallArguments& it) { it.layer(handle).number("time_mode", mode); },
         [&](Host& host) -> A_Err {
             const Scene& scene = host.document.scene();
             const Layer& layer = *scene.find(host.handles.layer(handle));
-            A_Time& result = need(time);
+            A_Time& result = require(time);
             if (!is_time_mode(mode)) return bad_argument_error;
             result = host_time(scene.composition.time -
                                (mode == AEGP_LTimeMode_CompTime ? 0 : layer.start));
@@ -102,15 +95,15 @@ A_Err GetLayerCurrentTime(AEGP_LayerH handle, AEGP_LTimeMode mode, A_Time* time)
 }
 
 A_Err GetLayerOffset(AEGP_LayerH handle, A_Time* offset) {
-    return look_at_layer("GetLayerOffset", handle, [&](Host&, const Layer& layer) -> A_Err {
-        need(offset) = host_time(layer.start);
-        return 0;
+    return look_at_layer("GetLayerOffset", handle, [&](Host&, const Layer& layer) {
+        require(offset) = host_time(layer.start);
     });
 }
 
 A_Err ReorderLayer(AEGP_LayerH handle, A_long index) {
-    return serve(
-        layer_call("ReorderLayer"), [&](Arguments& it) { it.layer(handle).number("index", index); },
+    return serve_call(
+        layer_call("ReorderLayer"),
+        [&](CallArguments& it) { it.layer(handle).number("index", index); },
         [&](Host& host) -> A_Err {
             const LayerId layer = host.handles.layer(handle);
             if (index < 0 || static_cast<std::size_t>(index) >= host.document.scene().layer_count())
@@ -121,8 +114,8 @@ A_Err ReorderLayer(AEGP_LayerH handle, A_long index) {
 }
 
 A_Err GetLayerObjectType(AEGP_LayerH handle, AEGP_ObjectType* type) {
-    return look_at_layer("GetLayerObjectType", handle, [&](Host&, const Layer& layer) -> A_Err {
-        AEGP_ObjectType& result = need(type);
+    return look_at_layer("GetLayerObjectType", handle, [&](Host&, const Layer& layer) {
+        AEGP_ObjectType& result = require(type);
         switch (layer.kind) {
         case LayerKind::Light:
             result = AEGP_ObjectType_LIGHT;
@@ -140,26 +133,22 @@ A_Err GetLayerObjectType(AEGP_LayerH handle, AEGP_ObjectType* type) {
             result = AEGP_ObjectType_AV;
             break;
         }
-        return 0;
     });
 }
 
 A_Err IsLayer3D(AEGP_LayerH handle, A_Boolean* is_3d) {
-    return look_at_layer("IsLayer3D", handle, [&](Host&, const Layer& layer) -> A_Err {
-        need(is_3d) = layer.is_3d();
-        return 0;
-    });
+    return look_at_layer("IsLayer3D", handle,
+                         [&](Host&, const Layer& layer) { require(is_3d) = layer.is_3d(); });
 }
 
 A_Err DuplicateLayer(AEGP_LayerH original, AEGP_LayerH* duplicate) {
-    return serve(
+    return serve_call(
         {kAEGPLayerSuite, kAEGPLayerSuite10Version, "DuplicateLayer"},
-        [&](Arguments& it) { it.layer(original); },
-        [&](Host& host) -> A_Err {
+        [&](CallArguments& it) { it.layer(original); },
+        [&](Host& host) {
             const LayerId layer = host.handles.layer(original);
-            AEGP_LayerH& result = need(duplicate);
+            AEGP_LayerH& result = require(duplicate);
             result = host.handles.of_layer(host.document.duplicate_layer(layer));
-            return 0;
         });
 }
 

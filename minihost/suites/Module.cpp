@@ -1,5 +1,7 @@
 #include "minihost/suites/Module.h"
 
+#include "minihost/suites/BasicSuite.h"
+
 #include <dlfcn.h>
 #include <utility>
 
@@ -30,7 +32,7 @@ LoadError::LoadError(LoadStage stage, const std::string& path, const std::string
     : std::runtime_error(path + ": the plug-in " + words(stage) + ": " + cause), _stage(stage) {}
 
 Module::Module(Host& host, const std::string& path) : _host(host) {
-    // A bare name would be looked for in the system's folders.
+    // dlopen searches the system's folders for a bare name.
     const std::string file = path.find('/') == std::string::npos ? "./" + path : path;
     _library = ::dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (!_library) throw LoadError(LoadStage::Open, path, loader_message());
@@ -40,9 +42,10 @@ Module::Module(Host& host, const std::string& path) : _host(host) {
         ::dlclose(_library);
         throw LoadError(LoadStage::Find, path, cause);
     }
-    const A_Err error = _host.enter(reinterpret_cast<AEGP_PluginEntryProc>(entry));
+    const A_Err error =
+        _host.call_entry(reinterpret_cast<AEGP_PluginEntryProc>(entry), basic_suite);
     if (error == 0) return;
-    // What it has registered so far stays registered: the death hook with the rest.
+    // Hooks registered so far count, so this calls the death hook.
     unload();
     throw LoadError(LoadStage::Enter, path,
                     std::string(kAEGPEntryName) + " failed with error " + std::to_string(error));
@@ -55,7 +58,7 @@ Module::~Module() {
 std::vector<std::string> Module::unload() {
     void* library = std::exchange(_library, nullptr);
     if (!library) return {};
-    std::vector<std::string> held = _host.bury();
+    std::vector<std::string> held = _host.shut_down();
     ::dlclose(library);
     return held;
 }

@@ -1,5 +1,5 @@
-// A plug-in module, loaded step by step; a step that fails undoes those before it and says which it
-// was, on which file, and why.
+// A plug-in module. Loading takes three steps; a step that fails undoes those before it, and its
+// error names the step, the file and the cause.
 
 #pragma once
 
@@ -21,18 +21,17 @@ class LoadError : public std::runtime_error {
     LoadStage _stage;
 };
 
-// From loading to unloading. The host must live longer.
+// A loaded module. The host must outlive it.
 class Module {
   public:
-    // Opens the file, finds its entry function, enters it. Throws LoadError, with the host as it
-    // was before but for what the entry function told it.
+    // Opens the file, finds its entry function and calls it. Throws LoadError, with the host
+    // unchanged except for its messages.
     Module(Host& host, const std::string& path);
-    // Unloads unless unload() did.
-    ~Module();
+    ~Module(); // unloads
     Module(const Module&) = delete;
     Module& operator=(const Module&) = delete;
 
-    // Calls the death hooks and closes the file. What the plug-in still held, as lines.
+    // Calls the death hooks and closes the file. Returns what the plug-in still held, a line each.
     std::vector<std::string> unload();
 
   private:

@@ -1,7 +1,7 @@
-// Panels, and the interface colours.
+// The suites for panels and interface colours.
 
-#include "minihost/suites/Serve.h"
-#include "minihost/suites/SuiteTable.h"
+#include "minihost/suites/ServeCall.h"
+#include "minihost/suites/SuiteFunctions.h"
 
 namespace minihost {
 
@@ -13,47 +13,42 @@ CallName panel_call(const char* call) {
 
 A_Err RegisterCreatePanelHook(AEGP_PluginID, const A_char* match_name, AEGP_CreatePanelHook hook,
                               AEGP_CreatePanelRefcon refcon, A_Boolean paint_background) {
-    return serve(
+    return serve_call(
         panel_call("RegisterCreatePanelHook"),
-        [&](Arguments& it) {
+        [&](CallArguments& it) {
             it.text("match_name", match_name);
             it.flag("paint_background", paint_background);
         },
-        [&](Host& host) -> A_Err {
-            if (!host.is_entering())
-                throw Misuse("called outside of the entry function", FaultKind::LateRegistration);
-            need(hook);
-            host.panels.register_hook(&need(match_name), hook, refcon);
-            return 0;
+        [&](Host& host) {
+            if (!host.is_in_entry())
+                throw Misuse("called outside of the entry function",
+                             ViolationKind::LateRegistration);
+            require(hook);
+            host.panels.register_hook(&require(match_name), hook, refcon);
         });
 }
 
 A_Err ToggleVisibility(const A_char* match_name) {
-    return serve(
-        panel_call("ToggleVisibility"), [&](Arguments& it) { it.text("match_name", match_name); },
-        [&](Host& host) -> A_Err {
-            if (!host.panels.is_registered(&need(match_name))) return bad_argument_error;
-            return host.panels.toggle(host, match_name);
-        });
+    return serve_call(
+        panel_call("ToggleVisibility"),
+        [&](CallArguments& it) { it.text("match_name", match_name); },
+        [&](Host& host) { return host.toggle_panel(&require(match_name)); });
 }
 
 A_Err SetTitle(AEGP_PanelH panel, const A_char* title) {
-    return serve(
-        panel_call("SetTitle"), [&](Arguments& it) { it.panel(panel).text("title", title); },
+    return serve_call(
+        panel_call("SetTitle"), [&](CallArguments& it) { it.panel(panel).text("title", title); },
         [&](Host& host) -> A_Err {
-            const std::uint64_t number = host.handles.panel(panel);
-            return host.panels.set_title(number, &need(title)) ? 0 : bad_argument_error;
+            host.handles.require_panel(panel);
+            return host.panels.set_title(panel, &require(title)) ? 0 : bad_argument_error;
         });
 }
 
 A_Err AppGetColor(PF_App_ColorType selector, PF_App_Color* color) {
-    return serve(
+    return serve_call(
         {kPFAppSuite, kPFAppSuiteVersion, "PF_AppGetColor"},
-        [&](Arguments& it) { it.number("selector", selector); },
-        [&](Host& host) -> A_Err {
-            need(color) = interface_color(host.options().palette, selector);
-            return 0;
-        });
+        [&](CallArguments& it) { it.number("selector", selector); },
+        [&](Host& host) { require(color) = interface_color(host.options().palette, selector); });
 }
 
 constexpr AEGP_PanelSuite1 panels{RegisterCreatePanelHook, ToggleVisibility, SetTitle};

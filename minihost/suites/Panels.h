@@ -1,5 +1,5 @@
-// The host's panels: which hooks make them, which are open. What a panel looks like is behind
-// PanelView, so that a host can do without a display.
+// The kinds of panel that the plug-in has registered, and those panels that exist. The display is
+// behind PanelView, so that a host works without one.
 
 #pragma once
 
@@ -13,8 +13,6 @@
 
 namespace minihost {
 
-class Host;
-
 // The view that a plug-in fills, and the frame around it.
 class PanelView {
   public:
@@ -27,43 +25,31 @@ class PanelView {
     virtual bool is_visible() const = 0;
 };
 
-// Makes an empty, hidden one.
+// Makes an empty, hidden view.
 using PanelMaker = std::function<std::unique_ptr<PanelView>()>;
-// Of panels without a display: no view, only a title.
+// Makes panels without a display, which have only a title.
 PanelMaker blind_panels();
+
+struct PanelKind {
+    AEGP_CreatePanelHook hook;
+    AEGP_CreatePanelRefcon refcon;
+    AEGP_PanelH handle = nullptr;
+    std::unique_ptr<PanelView> view; // null when there is no such panel
+};
 
 class Panels {
   public:
-    explicit Panels(PanelMaker make) : _make(std::move(make)) {}
-
     void register_hook(const std::string& match_name, AEGP_CreatePanelHook hook,
                        AEGP_CreatePanelRefcon refcon);
-    bool is_registered(const std::string& match_name) const { return _kinds.contains(match_name); }
-    std::vector<std::string> match_names() const;
-    // Shows or hides the panel; makes it first if need be, through its hook. The hook's error, with
-    // no panel then.
-    A_Err toggle(Host& host, const std::string& match_name);
-    // Whether there was such a panel.
-    bool set_title(std::uint64_t panel, const std::string& title);
-
-    // The panel that is open, the first by match name; null without one.
+    // By match name.
+    std::map<std::string, PanelKind>& kinds() { return _kinds; }
+    // False when there is no such panel.
+    bool set_title(AEGP_PanelH panel, const std::string& title);
+    // The first panel by match name; null without one.
     PanelView* view() const;
-    // The host disposes of all panels; the plug-in is not told. False when there was none.
-    bool close(Host& host);
-    // No hook is called any more. All panels are closed before.
-    void forget() { _kinds.clear(); }
 
   private:
-    struct Kind {
-        AEGP_CreatePanelHook hook;
-        AEGP_CreatePanelRefcon refcon;
-        AEGP_PanelH handle = nullptr;
-        std::unique_ptr<PanelView> view;
-    };
-    A_Err create(Host& host, Kind& kind);
-
-    PanelMaker _make;
-    std::map<std::string, Kind> _kinds; // by match name
+    std::map<std::string, PanelKind> _kinds;
 };
 
 } // namespace minihost

@@ -1,5 +1,6 @@
 #include "minihost/suites/SuiteTable.h"
 
+#include "minihost/suites/SuiteFunctions.h"
 #include "sdk/Host.h"
 
 namespace minihost {
@@ -78,7 +79,7 @@ const Suite* find_suite(std::string_view name, int version) {
     return nullptr;
 }
 
-bool is_call_of_host(std::string_view suite_and_call) {
+bool is_host_call(std::string_view suite_and_call) {
     if (suite_and_call == "SPBasic.AcquireSuite" || suite_and_call == "SPBasic.ReleaseSuite")
         return true;
     for (const Suite& suite : all_suites)
@@ -87,7 +88,7 @@ bool is_call_of_host(std::string_view suite_and_call) {
     return false;
 }
 
-bool gives_back(std::string_view suite_and_call) {
+bool is_release_call(std::string_view suite_and_call) {
     for (const char* call : {"SPBasic.ReleaseSuite", "AEGP Collection Suite.DisposeCollection",
                              "AEGP Stream Suite.DisposeStream", "AEGP Utility Suite.EndUndoGroup"})
         if (suite_and_call == call) return true;
@@ -98,7 +99,7 @@ bool Suite::is_left_out_by(std::string_view word) const {
     return (without && word == without) || word == name + (" " + std::to_string(version));
 }
 
-bool is_missing_part(std::string_view word) {
+bool is_without_word(std::string_view word) {
     for (const Suite& suite : all_suites)
         if (suite.is_left_out_by(word)) return true;
     return false;

@@ -1,5 +1,4 @@
-// The suites that the host can serve, as one table: their names and versions, the words by which
-// they can be left out, their calls.
+// The table of the suites that the host serves.
 
 #pragma once
 
@@ -13,41 +12,26 @@ namespace minihost {
 struct Suite {
     const char* name;
     int version;
-    const char* without; // the word of --without that leaves it out; null when nothing does
+    const char* without; // the word of --without for it; null for a suite that is not optional
     const void* functions;
     std::initializer_list<const char*> calls; // without "AEGP_"
 
+    // By that word, or by its name and version.
     bool is_left_out_by(std::string_view word) const;
 };
 
 std::span<const Suite> suites();
 
-// Null when there is none.
+// Null for a suite that the host does not have.
 const Suite* find_suite(std::string_view name, int version);
 
-// Whether "SUITE.CALL" is something that a plug-in can call.
-bool is_call_of_host(std::string_view suite_and_call);
+// Whether the host has a call "SUITE.CALL".
+bool is_host_call(std::string_view suite_and_call);
 
-// Whether the call gives something back that was taken before: when it fails, the host still counts
-// that as taken.
-bool gives_back(std::string_view suite_and_call);
+// Whether the call releases something, which the host counts as held when the call fails.
+bool is_release_call(std::string_view suite_and_call);
 
-// Whether it is a word of --without: that of an optional suite, or any suite's name and version.
-bool is_missing_part(std::string_view word);
-
-// The function tables, each made where its functions are.
-extern const void* const register_suite;
-extern const void* const command_suite;
-extern const void* const utility_suite;
-extern const void* const collection_suite;
-extern const void* const item_suite;
-extern const void* const comp_suite;
-extern const void* const layer_suite_5;
-extern const void* const layer_suite_8;
-extern const void* const layer_suite_10;
-extern const void* const stream_suite;
-extern const void* const keyframe_suite;
-extern const void* const panel_suite;
-extern const void* const app_suite;
+// Whether any suite is left out by the word.
+bool is_without_word(std::string_view word);
 
 } // namespace minihost

@@ -156,7 +156,7 @@ void MainWindow::run(Session& session) {
     [state.window makeKeyAndOrderFront:nil];
     [state.window makeFirstResponder:[state.main_view layerList]];
     try {
-        run_step(session, make_step({"open"}, "show"));
+        run_action(session, parse_action({"open"}, "show"));
     } catch (const std::exception& error) {
         session.host().report(error.what());
     }

@@ -44,7 +44,7 @@ void SceneEditor::export_picture(const std::string& path) {
 }
 
 void SceneEditor::perform(const char* action) {
-    run_step(_session, make_step({action}, "window"));
+    run_action(_session, parse_action({action}, "window"));
 }
 
 std::string SceneEditor::step_title(const char* what, const std::string* name) {

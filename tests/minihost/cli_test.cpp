@@ -1,4 +1,4 @@
-// The program itself: verbs, options, files and exit statuses, with a small plug-in of the tests'.
+// The program: verbs, options, files and exit statuses, with a small test plug-in.
 
 #include "minihost/actions/ActionFile.h"
 #include "minihost/actions/ControlNames.h"
@@ -31,14 +31,15 @@ class Program : public testing::Test {
   protected:
     Program() { write_file(folder / "scene.json", sample); }
 
-    // Runs the program in the folder; standard output and error go to `printed` and `told`.
+    // Runs the program in the folder. Standard output goes to `printed`, standard error to
+    // `errors`.
     int run(const std::string& arguments, const std::string& actions = "") {
         write_file(folder / "actions.txt", actions);
         const std::string command = "cd '" + folder.string() + "' && " + MINIHOST " " + arguments +
-                                    " >printed 2>told <actions.txt";
+                                    " >printed 2>errors <actions.txt";
         const int status = std::system(command.c_str());
         printed = read_file(folder / "printed");
-        told = read_file(folder / "told");
+        errors = read_file(folder / "errors");
         return WEXITSTATUS(status);
     }
     int run_actions(const std::string& actions, const std::string& options = "") {
@@ -51,7 +52,7 @@ class Program : public testing::Test {
 
     TemporaryFolder temporary;
     const fs::path& folder = temporary.path;
-    std::string printed, told;
+    std::string printed, errors;
 };
 
 TEST_F(Program, BadArgumentsAndBadScenesEndWithTwoAndTouchNothing) {
@@ -64,6 +65,7 @@ TEST_F(Program, BadArgumentsAndBadScenesEndWithTwoAndTouchNothing) {
         {"apply scene.json --set angle", "NAME=VALUE"},
         {"apply scene.json --without panels --without legs", "legs"},
         {"apply scene.json --fail Walk", "Walk"},
+        {"apply scene.json --fail 'AEGP Item Suite.Get'", "no such call"},
         {"apply scene.json --misbehave lies", "lies"},
         {"apply scene.json --palette blue", "blue"},
         {"apply scene.json --scale 0", "--scale"},
@@ -82,7 +84,7 @@ TEST_F(Program, BadArgumentsAndBadScenesEndWithTwoAndTouchNothing) {
         const std::string outputs =
             std::string(arguments).empty() ? "" : " --out out.json --calls calls.txt";
         EXPECT_EQ(run(arguments + outputs), 2) << arguments;
-        EXPECT_THAT(told, HasSubstr(cause)) << arguments;
+        EXPECT_THAT(errors, HasSubstr(cause)) << arguments;
         EXPECT_EQ(read_file(folder / "out.json"), "before") << arguments;
         EXPECT_FALSE(exists("calls.txt")) << arguments;
     }
@@ -92,7 +94,7 @@ TEST_F(Program, BadArgumentsAndBadScenesEndWithTwoAndTouchNothing) {
                                       {"set x", "is used as: set NAME=VALUE"},
                                       {"rename A \"B", "a quote is not closed"}}) {
         EXPECT_EQ(run_actions(std::string("# two\n\n  ") + line + "\n", "--out out.json"), 2);
-        EXPECT_THAT(told, AllOf(HasSubstr("actions.txt:3: "), HasSubstr(cause)));
+        EXPECT_THAT(errors, AllOf(HasSubstr("actions.txt:3: "), HasSubstr(cause)));
         EXPECT_EQ(read_file(folder / "out.json"), "before");
     }
 }
@@ -101,14 +103,14 @@ TEST_F(Program, ShowsAWindowForSoManyFrames) {
     ::setenv("SDL_VIDEODRIVER", "dummy", 1);
     const std::string options = "show scene.json --plugin " MODULES "/arranger.plugin --scale 1.5 "
                                 "--window 901x600 --frames ";
-    EXPECT_EQ(run(options + "3 --screenshot shot.png --out out.json"), 0) << told;
+    EXPECT_EQ(run(options + "3 --screenshot shot.png --out out.json"), 0) << errors;
     EXPECT_EQ(png_size(read_file(folder / "shot.png")), std::pair(1352, 900)); // 1351.5, rounded
     EXPECT_EQ(output()["selection"], json({0}));
     EXPECT_EQ(run(options + "1 --screenshot no/shot.png"), 1);
-    EXPECT_THAT(told, HasSubstr("no/shot.png"));
+    EXPECT_THAT(errors, HasSubstr("no/shot.png"));
     ::setenv("SDL_VIDEODRIVER", "none of this name", 1);
     EXPECT_EQ(run(options + "1"), 1);
-    EXPECT_THAT(told, HasSubstr("no desktop"));
+    EXPECT_THAT(errors, HasSubstr("no desktop"));
     ::unsetenv("SDL_VIDEODRIVER");
 }
 
@@ -119,14 +121,14 @@ TEST_F(Program, HelpAndVersionArePrinted) {
     for (const Action& action : actions()) EXPECT_THAT(printed, HasSubstr(action.sentence));
     EXPECT_EQ(run("run --help"), 0);
     EXPECT_THAT(printed, HasSubstr("--without"));
-    for (const Misdeed& it : misdeeds()) EXPECT_THAT(printed, HasSubstr(it.sentence));
+    for (const Misbehaviour& it : misbehaviours()) EXPECT_THAT(printed, HasSubstr(it.sentence));
 }
 
 TEST_F(Program, TheCommandIsOneStepThatUndoTakesBack) {
     EXPECT_EQ(run_actions("menu\nsave after.json\nundo\nstate\nredo\n",
                           "--out out.json --calls calls.txt --preview p.svg"),
               0);
-    EXPECT_THAT(told, IsEmpty());
+    EXPECT_THAT(errors, IsEmpty());
     EXPECT_EQ(output(), json::parse(read_file(folder / "after.json")));
     EXPECT_EQ(output()["layers"][0]["transform"]["position"], json({1, 2, 3}));
     EXPECT_EQ(output()["undo"], json({"Arrange"}));
@@ -146,7 +148,7 @@ TEST_F(Program, ActionsEditTheComposition) {
                           "move C 2\ntime 2.5\nactive footage\nstate\n# done\n",
                           "--out out.json"),
               0)
-        << told;
+        << errors;
     EXPECT_EQ(state()["selection"], json({1, 2}));
     EXPECT_EQ(state()["undo"], json({"Add Layer", "Rename Layer", "Move Layer"}));
     const json layers = output()["layers"];
@@ -159,7 +161,7 @@ TEST_F(Program, ActionsEditTheComposition) {
     EXPECT_EQ(run_actions("rename A D\nload out.json\nstate\nload none.json\n"), 1);
     EXPECT_EQ(state()["undo"], json({"Add Layer", "Rename Layer", "Move Layer"})) << "the file's";
     EXPECT_EQ(state()["selection"], json({1, 2}));
-    EXPECT_THAT(told, HasSubstr("none.json: cannot be read"));
+    EXPECT_THAT(errors, HasSubstr("none.json: cannot be read"));
     EXPECT_EQ(run_actions("select-all\nremove #0\nstate\n"), 0);
     EXPECT_EQ(state()["selection"], json({0}));
     EXPECT_EQ(run("run out.json - --plugin " MODULES "/arranger.plugin", "deselect\nstate\n"), 0);
@@ -173,18 +175,18 @@ TEST_F(Program, WhatCannotBeDoneEndsWithOneAndTheSceneAsItIsThen) {
           "panel p.gif", "save /nowhere/s.json", "preview p.gif"}) {
         EXPECT_EQ(run_actions(std::string("time 3\n") + action + "\ntime 4\n", "--out out.json"), 1)
             << action;
-        EXPECT_THAT(told, HasSubstr("actions.txt:2: ")) << action;
+        EXPECT_THAT(errors, HasSubstr("actions.txt:2: ")) << action;
         EXPECT_EQ(output()["composition"]["time"], 3) << action;
     }
     EXPECT_EQ(run("apply scene.json --plugin ./none.plugin"), 1);
-    EXPECT_THAT(told, HasSubstr("./none.plugin: the plug-in cannot be opened"));
+    EXPECT_THAT(errors, HasSubstr("./none.plugin: the plug-in cannot be opened"));
     EXPECT_EQ(run_actions("idle", "--calls /nowhere/c"), 1);
 }
 
-TEST_F(Program, ErrorsOfThePluginAreToldAndEndWithOne) {
+TEST_F(Program, ErrorsOfThePluginAreReportedAndEndWithOne) {
     EXPECT_EQ(
         run_actions("menu\ntime 3", "--out out.json --fail 'AEGP Stream Suite.SetStreamValue'"), 1);
-    EXPECT_THAT(told, HasSubstr("command hook returned error 4"));
+    EXPECT_THAT(errors, HasSubstr("command hook returned error 4"));
     EXPECT_EQ(output()["composition"]["time"], 3) << "the host goes on";
     EXPECT_EQ(output()["undo"], json::array());
     EXPECT_EQ(run_actions("active none\nmenu\nstate"), 0) << "a message is no error";
@@ -193,11 +195,11 @@ TEST_F(Program, ErrorsOfThePluginAreToldAndEndWithOne) {
     EXPECT_EQ(
         run("apply scene.json --set size.x=1 --set size.y=1 --plugin " MODULES "/arranger.plugin"),
         1);
-    EXPECT_THAT(told, HasSubstr("set: control 'size.x': the dialog is not there"));
+    EXPECT_THAT(errors, HasSubstr("set: control 'size.x': the dialog is not there"));
     ::setenv("TEST_PLUGIN_HOLDS", "1", 1);
     EXPECT_EQ(run_actions("idle"), 0);
     ::unsetenv("TEST_PLUGIN_HOLDS");
-    EXPECT_THAT(told, HasSubstr("the plug-in still holds one collection"));
+    EXPECT_THAT(errors, HasSubstr("the plug-in still holds one collection"));
 }
 
 TEST(ActionFile, WordsAreSplitAtBlanksOutsideQuotes) {

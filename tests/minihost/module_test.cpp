@@ -1,4 +1,4 @@
-// Modules: loaded step by step, a file for every step that can fail; what they hold at the end.
+// Modules: a file for each step of loading that can fail, and what a module holds at the end.
 
 #include "minihost/suites/Module.h"
 
@@ -38,14 +38,14 @@ class Modules : public testing::Test {
               blind_panels()};
 };
 
-TEST_F(Modules, ThatCannotBeLoadedLeaveTheHostAsItWas) {
+TEST_F(Modules, ThatCannotBeLoadedLeaveTheHostUnchanged) {
     expect_failure(LoadStage::Open, "/nowhere/x.plugin", "No such file");
     expect_failure(LoadStage::Open, __FILE__, "cannot be opened");
     expect_failure(LoadStage::Find, path("no_entry"), "PluginEntry");
     EXPECT_THAT(messages, IsEmpty());
     expect_failure(LoadStage::Enter, path("failing_entry"), "error 7");
     EXPECT_THAT(messages, ElementsAre(HasSubstr("entry function returned error 7")))
-        << "its death hook has given the suite back";
+        << "its death hook released the suite";
     ::setenv("TEST_PLUGIN_THROWS", "1", 1);
     expect_failure(LoadStage::Enter, path("failing_entry"), "could not start");
     EXPECT_THAT(messages.back(), HasSubstr("threw an exception"));
@@ -53,7 +53,7 @@ TEST_F(Modules, ThatCannotBeLoadedLeaveTheHostAsItWas) {
     EXPECT_EQ(host.menu().size(), 1u) << "and another can still be loaded";
 }
 
-TEST_F(Modules, TellWhatTheyStillHold) {
+TEST_F(Modules, ReportWhatTheyStillHold) {
     {
         Module module(host, path("arranger"));
         EXPECT_THAT(module.unload(), IsEmpty());

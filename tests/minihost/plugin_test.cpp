@@ -1,5 +1,5 @@
-// The host with the real plug-in: its panel and its window, controls used as a user would, Apply as
-// one step, what the command line gives.
+// The host with the real plug-in: its panel and window, its controls used as by a user, Apply as
+// one step.
 
 #include "minihost/actions/Actions.h"
 #include "minihost/model/SceneReader.h"
@@ -29,12 +29,12 @@ const char* const scene = R"({"format": "minihost scene 1",
 class Plugin : public testing::Test {
   protected:
     void start(HostOptions options = {}) {
-        session.emplace(parse_scene(scene, "test"), std::move(options), make_dialog_driver(),
-                        printed, [this](const std::string& line) { told.push_back(line); });
+        session.emplace(parse_scene(scene, "test"), std::move(options), make_dialog_driver(), printed,
+                        [this](const std::string& line) { messages.push_back(line); });
         session->load(PLUGIN);
     }
     void act(std::initializer_list<Words> lines) {
-        for (const Words& words : lines) run_step(*session, make_step(words, "test"));
+        for (const Words& words : lines) run_action(*session, parse_action(words, "test"));
     }
     json state() {
         printed.str("");
@@ -59,11 +59,11 @@ class Plugin : public testing::Test {
     }
 
     std::ostringstream printed;
-    std::vector<std::string> told;
+    std::vector<std::string> messages;
     std::optional<Session> session;
 };
 
-TEST_F(Plugin, ShowsItsPanelWithTheMenuAndBuildsItAnewWhenItWasClosed) {
+TEST_F(Plugin, TogglesItsPanelAndRebuildsAClosedOne) {
     start();
     EXPECT_EQ(state()["menu"], json({{"text", "Tamborel"}, {"enabled", true}, {"checked", false}}));
     EXPECT_EQ(state()["dialog"]["exists"], false);
@@ -81,9 +81,9 @@ TEST_F(Plugin, ShowsItsPanelWithTheMenuAndBuildsItAnewWhenItWasClosed) {
     act({{"menu"}});
     EXPECT_EQ(control("angle.max")["value"], 30) << "hidden and shown again it is the same";
     act({{"close-panel"}, {"menu"}, {"idle"}});
-    EXPECT_EQ(control("angle.max")["value"], 50) << "built anew";
+    EXPECT_EQ(control("angle.max")["value"], 50) << "rebuilt";
     EXPECT_THAT(session->unload(), IsEmpty());
-    EXPECT_THAT(told, IsEmpty());
+    EXPECT_THAT(messages, IsEmpty());
 }
 
 TEST_F(Plugin, ShowsAWindowOnAHostWithoutPanels) {
@@ -132,7 +132,7 @@ TEST_F(Plugin, ControlsAreUsedAsAUserWould) {
     EXPECT_THAT(refusal({"set", "camera=Cam 9"}), HasSubstr("no entry 'Cam 9'"));
 }
 
-TEST_F(Plugin, RawEventsWaitForWhatFollowsAndAreAnsweredTogether) {
+TEST_F(Plugin, EventsAreHandledTogetherBeforeTheNextAction) {
     start();
     act({{"add-camera", "Cam 2"}, {"open"}, {"set", "orientation.towards-camera=on"}});
     const auto at = [&](const std::string& name, Words words) {
@@ -167,10 +167,10 @@ TEST_F(Plugin, RawEventsWaitForWhatFollowsAndAreAnsweredTogether) {
     act({camera, camera_up, {"key", "end"}, {"key", "return"}});
     EXPECT_EQ(control("camera")["value"], "Cam");
     act({camera, camera_up, {"key", "home"}});
-    EXPECT_EQ(control("camera")["value"], "Cam") << "a list that nobody answers closes";
+    EXPECT_EQ(control("camera")["value"], "Cam") << "a list without an answer closes";
     act({{"wheel", "20", "20", "0", "-3"}, camera});
     EXPECT_THAT(session->unload(), IsEmpty());
-    EXPECT_THAT(told, IsEmpty());
+    EXPECT_THAT(messages, IsEmpty());
 
     start();
     EXPECT_THAT(refusal({"key", "x"}), HasSubstr("not there"));
@@ -186,7 +186,7 @@ TEST_F(Plugin, RawEventsWaitForWhatFollowsAndAreAnsweredTogether) {
         EXPECT_THAT(refusal(words), HasSubstr(cause)) << words[0];
 }
 
-TEST_F(Plugin, ApplyIsOneStepThatUndoTakesBackWhole) {
+TEST_F(Plugin, ApplyIsOneUndoStep) {
     start();
     const json before = scene_now();
     act({{"open"},
@@ -207,7 +207,7 @@ TEST_F(Plugin, ApplyIsOneStepThatUndoTakesBackWhole) {
     EXPECT_EQ(scene_now(), before);
     act({{"redo"}});
     EXPECT_EQ(scene_now(), after);
-    EXPECT_THAT(told, IsEmpty());
+    EXPECT_THAT(messages, IsEmpty());
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// Scene files: what is read, what is refused and where, and that what is written reads back.
+// Scene files: what is read, what is rejected and where, and what is written.
 
 #include "minihost/model/OutputFile.h"
 #include "minihost/model/SceneReader.h"
@@ -17,7 +17,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-std::string refusal(std::string_view text) {
+std::string error_of(std::string_view text) {
     try {
         parse_scene(text, "bad.json");
     } catch (const SceneError& error) {
@@ -33,9 +33,9 @@ std::string one_layer(const std::string& members) {
     return scene_with(R"("layers": [{"name": "A", )" + members + "}]");
 }
 
-TEST(SceneReader, RefusesWhatIsNoSceneAndNamesThePlace) {
+TEST(SceneReader, RejectsBadFilesWithThePath) {
     struct Case {
-        std::string text, place, cause;
+        std::string text, path, cause;
     };
     const std::string solid = R"("kind": "solid", "source": {"width": 9, "height": 9})";
     const Case cases[] = {
@@ -114,8 +114,8 @@ TEST(SceneReader, RefusesWhatIsNoSceneAndNamesThePlace) {
         {scene_with(R"("undo": [1])"), "undo[0]", "must be a text"},
     };
     for (const Case& it : cases) {
-        const std::string message = refusal(it.text);
-        EXPECT_THAT(message, StartsWith("bad.json: " + it.place)) << it.text;
+        const std::string message = error_of(it.text);
+        EXPECT_THAT(message, StartsWith("bad.json: " + it.path)) << it.text;
         EXPECT_THAT(message, HasSubstr(it.cause)) << it.text;
         EXPECT_EQ(message.find('\n'), std::string::npos) << message;
     }
@@ -188,7 +188,7 @@ TEST(SceneWriter, WritesWhatReadsBackExactly) {
     EXPECT_THAT(*footage.keys_of(Stream::Position),
                 ElementsAre(Keyframe{-1, {1, 2, 3}}, Keyframe{0.1, {4, 5, 6}}));
     EXPECT_THAT(*footage.keys_of(Stream::RotationY), ElementsAre(Keyframe{1.5, {7.25, 0, 0}}));
-    EXPECT_EQ(scene.layer_at(2).size, (Size{5, 6})); // for pictures alone
+    EXPECT_EQ(scene.layer_at(2).size, (Size{5, 6})); // for previews only
     EXPECT_EQ(scene.layer_at(2).transform.anchor_point, (Vec3{0, 0, 0}));
     EXPECT_THAT(scene.selection(), ElementsAre(0u, scene.layer_at(3).id, footage.id, footage.id));
     EXPECT_THAT(again.undo_names(), ElementsAre("One", "Two"));
@@ -224,14 +224,14 @@ TEST_F(OutputFile, ReplacesAFileWholeAndKeepsItsModeAndLinks) {
     EXPECT_EQ(temporary.entries(), 2u);
 }
 
-TEST_F(OutputFile, ThatCannotBeWrittenLeavesNothingBehind) {
+TEST_F(OutputFile, LeavesNothingBehindIfItCannotBeWritten) {
     EXPECT_THROW(write_file(folder / "none" / "a.json", "x"), OutputError);
     EXPECT_THROW(write_file(folder, "x"), OutputError);
     EXPECT_EQ(temporary.entries(), 0u);
     EXPECT_THROW(write_file("/dev/full", "x"), OutputError);
 }
 
-TEST_F(OutputFile, FilesThatCannotBeReadAreToldByTheSystemsReason) {
+TEST_F(OutputFile, ErrorsOfReadingHaveTheReasonOfTheSystem) {
     try {
         read_scene(folder / "none.json");
         FAIL();

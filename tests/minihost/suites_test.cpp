@@ -1,4 +1,4 @@
-// What a plug-in is served: every suite over a scene, its handles, and what misuse gets.
+// The suites over a scene: results, handles, and answers to misuse.
 
 #include "minihost/suites/SuiteTable.h"
 #include "tests/minihost/support/Suites.h"
@@ -16,7 +16,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-TEST_F(Suites, TellWhatTheLayersAre) {
+TEST_F(Suites, DescribeTheLayers) {
     inside([&] {
         struct Case {
             A_long index;
@@ -60,7 +60,7 @@ TEST_F(Suites, TellWhatTheLayersAre) {
     EXPECT_THAT(messages, IsEmpty());
 }
 
-TEST_F(Suites, CutNamesBeforeTheCharacterThatDoesNotFit) {
+TEST_F(Suites, TruncateNamesBeforeAnIncompleteCharacter) {
     const LayerId id = host.document.scene().layer_at(0).id;
     inside([&] {
         A_char name[AEGP_MAX_LAYER_NAME_SIZE + 1], source[AEGP_MAX_LAYER_NAME_SIZE];
@@ -82,7 +82,7 @@ TEST_F(Suites, CutNamesBeforeTheCharacterThatDoesNotFit) {
     });
 }
 
-TEST_F(Suites, ReadStreamsAndWriteOnlyTheNumbersThatThereAre) {
+TEST_F(Suites, ReadOnlyTheNumbersThatAStreamHas) {
     inside([&] {
         const A_Time one_second{30, 30};
         const auto read = [&](A_long index, AEGP_LayerStream stream) {
@@ -99,7 +99,7 @@ TEST_F(Suites, ReadStreamsAndWriteOnlyTheNumbersThatThereAre) {
         EXPECT_THAT(read(0, AEGP_LayerStream_ROTATE_Y), ElementsAre(0, 20, -1, -1, -1));
         EXPECT_THAT(read(0, AEGP_LayerStream_ROTATE_Z), ElementsAre(0, 30, -1, -1, -1));
         EXPECT_THAT(read(4, AEGP_LayerStream_ANCHORPOINT), ElementsAre(0, 7, 8, 9, -1));
-        // Streams that are not there leave everything untouched.
+        // A stream that does not exist leaves the value alone.
         EXPECT_THAT(read(4, AEGP_LayerStream_SCALE), ElementsAre(5, -1, -1, -1, -1));
         EXPECT_THAT(read(1, AEGP_LayerStream_ORIENTATION), ElementsAre(5, -1, -1, -1, -1));
         EXPECT_THAT(read(0, 4), ElementsAre(5, -1, -1, -1, -1));
@@ -185,7 +185,7 @@ TEST_F(Suites, DuplicateAndReorderLayers) {
     });
 }
 
-TEST_F(Suites, OfAnotherSceneKnowNothingOfTheOldOne) {
+TEST_F(Suites, MakeHandlesOfAnOldSceneStale) {
     inside([&] {
         const AEGP_LayerH card = layer(0), last = layer(5);
         const AEGP_CompH old = comp();
@@ -222,7 +222,7 @@ TEST_F(Suites, OfAnotherSceneKnowNothingOfTheOldOne) {
     });
 }
 
-TEST_F(Suites, AnswerMisuseWithThreeAndTellOfIt) {
+TEST_F(Suites, AnswerMisuseWithThreeAndReportIt) {
     inside([&] {
         const AEGP_LayerH card = layer(0);
         AEGP_StreamRefH stream = nullptr;
@@ -255,7 +255,7 @@ TEST_F(Suites, AnswerMisuseWithThreeAndTellOfIt) {
                 suite<AEGP_UtilitySuite3>(kAEGPUtilitySuite, 3).AEGP_ReportInfo(1, nullptr),
                 suite<AEGP_RegisterSuite6>(kAEGPRegisterSuite, 6)
                     .AEGP_RegisterIdleHook(1, nullptr, nullptr),
-                host.basic_suite()->ReleaseSuite("No Suite", 1)}),
+                basic_suite.ReleaseSuite("No Suite", 1)}),
             Each(misuse_error));
         EXPECT_EQ(messages.size(), 15u);
         EXPECT_EQ(host.misuses(), 15);
@@ -273,12 +273,12 @@ TEST_F(Suites, AnswerMisuseWithThreeAndTellOfIt) {
     EXPECT_EQ(table->AEGP_GetCompNumLayers(nullptr, &count), misuse_error) << "no hook is running";
 }
 
-TEST_F(Suites, AreLoggedInTheOrderInWhichCallsBegin) {
+TEST_F(Suites, LogCallsInTheOrderInWhichTheyBegin) {
     std::vector<std::string> lines;
     host.log.set_sink([&](const std::string& line) { lines.push_back(line); });
     inside([&] {
         const void* table = nullptr;
-        host.basic_suite()->AcquireSuite("No \"Suite\"", 2, &table);
+        basic_suite.AcquireSuite("No \"Suite\"", 2, &table);
         AEGP_StreamRefH rotation = nullptr;
         AEGP_StreamValue value{};
         value.val.one_d = 0.25;
@@ -307,7 +307,7 @@ TEST_F(Suites, AreLoggedInTheOrderInWhichCallsBegin) {
             "\"time\": 0.25, \"pre_expression\": true}, \"result\": 3}\n"));
 }
 
-TEST(CallLog, HoldsBackWhatIsInsideACallThatGoesOn) {
+TEST(CallLog, HoldsBackLinesInsideAnIncompleteCall) {
     std::string text;
     CallLog log;
     log.set_sink([&](const std::string& line) { text += line.substr(0, 7); });

@@ -18,7 +18,8 @@ PluginHost::~PluginHost() {
 }
 
 void PluginHost::play(const std::string& actions) {
-    for (const Step& step : parse_actions(actions, "actions")) run_step(session, step);
+    for (const ParsedAction& action : parse_actions(actions, "actions"))
+        run_action(session, action);
 }
 
 Json PluginHost::state() {

@@ -35,7 +35,7 @@ std::vector<std::string> order(PluginHost& host, int count) {
     return names;
 }
 
-TEST(Apply, MakesItsCallsInOrder) {
+TEST(Apply, RefreshesCollectsAndWritesInThisOrder) {
     PluginHost host(scene_of({solid("Card")}));
     host.play("open");
     host.new_calls();

@@ -36,7 +36,7 @@ TEST(Entry, RegistersItsHooksInOrder) {
                             "Register.RegisterCommandHook", "Register.RegisterUpdateMenuHook",
                             "Register.RegisterIdleHook",
                             "Workspace Panel.RegisterCreatePanelHook"));
-    EXPECT_TRUE(host.session.host().panels.is_registered("DE_Tamborel v1.4"));
+    EXPECT_TRUE(host.session.host().panels.kinds().contains("DE_Tamborel v1.4"));
     ASSERT_EQ(host.session.host().menu().size(), 1u);
     EXPECT_EQ(host.session.host().menu()[0].menu, 8);
     EXPECT_EQ(host.session.host().menu()[0].text, "Tamborel");

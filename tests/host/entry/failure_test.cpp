@@ -10,8 +10,8 @@
 
 namespace {
 
-using minihost::gives_back;
 using minihost::HostOptions;
+using minihost::is_release_call;
 using testing::IsEmpty;
 
 // A session that makes every kind of call; skips actions that a failure has made impossible.
@@ -43,7 +43,7 @@ void run_actions(PluginHost& host) {
         return;
     }
     const auto& failures = host.session.host().options().failures;
-    const bool must_close = failures.empty() || !gives_back(failures[0].call);
+    const bool must_close = failures.empty() || !is_release_call(failures[0].call);
     for (const char* action : actions) {
         try {
             host.play(action);
@@ -86,7 +86,7 @@ void fail_each_call(std::set<std::string> without, int step) {
             PluginHost host(scene, failing, false);
             run_actions(host);
             const auto held = host.session.unload();
-            if (!gives_back(call)) {
+            if (!is_release_call(call)) {
                 EXPECT_THAT(held, IsEmpty());
             }
             EXPECT_EQ(host.session.host().misuses(), 0) << host.messages.back();
@@ -100,16 +100,16 @@ void fail_each_call(std::set<std::string> without, int step) {
 // is enough, since each place makes several.
 TEST(NullHandles, AreNotPassedOn) {
     HostOptions options;
-    options.misdeeds = {minihost::parse_misdeed("null-handles:1000000")};
+    options.misbehaviours = {minihost::parse_misbehaviour("null-handles:1000000")};
     std::int64_t answers = 0;
     {
         PluginHost plain(scene, options, false);
         run_actions(plain);
-        answers = plain.session.host().misbehaviour.answers(minihost::AnswerKind::Handle);
+        answers = plain.session.host().misbehaviour_plan.count(minihost::MisbehaviourKind::Handle);
     }
     ASSERT_GT(answers, 50);
     for (std::int64_t number = 1; number <= answers; number += 5) {
-        options.misdeeds[0].number = number;
+        options.misbehaviours[0].number = number;
         PluginHost host(scene, options, false);
         run_actions(host);
         EXPECT_THAT(host.session.unload(), IsEmpty()) << number;

@@ -1,7 +1,7 @@
-// The proof that each check can fail: for every one a module that does just what it looks for, of
-// which the program must tell that check and no other.
+// Proves that each check can fail: for each there is a module that does what the check looks for,
+// and only that check may report it.
 
-#include "minihost/check/Check.h"
+#include "minihost/check/Checks.h"
 #include "minihost/model/SceneReader.h"
 #include "tests/minihost/support/files.h"
 
@@ -20,7 +20,7 @@ using nlohmann::json;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-// Runs the program and gives its exit status; its output is in the folder's "printed".
+// Returns the exit status; the output goes to "printed" in the folder.
 int run_program(const TemporaryFolder& folder, const std::string& arguments) {
     const std::string command = "cd '" + folder.path.string() + "' && " MINIHOST " check " +
                                 arguments + " >printed 2>&1 </dev/null";
@@ -44,10 +44,10 @@ std::set<std::string> ids_with(const json& report, const std::set<std::string>& 
 
 class BrokenModule : public testing::TestWithParam<const Check*> {};
 
-TEST_P(BrokenModule, IsToldByItsCheckAlone) {
+TEST_P(BrokenModule, IsReportedByItsCheckAlone) {
     const std::string id = GetParam()->id;
     const TemporaryFolder folder;
-    // Under the sanitizers, ten times as slow, only whether it is told at all.
+    // Sanitizers are ten times as slow; only its own check is run then.
     const std::string only = sanitizer_factor > 1 ? " --only " + id : "";
     const int status =
         run_program(folder, "--level 1 --json report.json --plugin " + file_of(id) + only);
@@ -100,7 +100,8 @@ TEST(Checks, AreChosenByTheirIds) {
     EXPECT_EQ(run_program(folder, "--only load.entry --json /nowhere/r.json" + sound), 1);
     EXPECT_EQ(run_program(folder, "--plugin nowhere.plugin --json r.json"), 1);
     const json report = json::parse(read_file(folder.path / "r.json"));
-    EXPECT_EQ(ids_with(report, {"skip"}).size() + 2, checks().size()) << "what needs no module";
+    EXPECT_EQ(ids_with(report, {"skip"}).size() + 2, checks().size())
+        << "those that need no loaded module";
 }
 
 } // namespace

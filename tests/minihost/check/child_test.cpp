@@ -1,4 +1,4 @@
-// Work in a process of its own.
+// Work in a child process.
 
 #include "minihost/check/Child.h"
 
@@ -14,7 +14,7 @@ namespace {
 
 constexpr Limits limits{std::chrono::seconds(20), std::chrono::seconds(10)};
 
-TEST(Children, FindNoLockHeldByAThreadThatTheyDoNotHave) {
+TEST(Children, DoNotInheritALockOfAnotherThread) {
     std::mutex lock;
     std::atomic<bool> is_held = false;
     std::thread holder([&] {
@@ -23,65 +23,66 @@ TEST(Children, FindNoLockHeldByAThreadThatTheyDoNotHave) {
         std::this_thread::sleep_for(std::chrono::milliseconds(100));
     });
     while (!is_held) std::this_thread::yield();
-    const Ending ending = run_in_child(
-        [&](Place&) {
+    const ChildResult result = run_in_child(
+        [&](ChildProgress&) {
             const std::scoped_lock held(lock);
             return std::string("done");
         },
         limits, Child::Exit::Quick);
     holder.join();
-    EXPECT_EQ(ending.result, "done") << ending.cause;
+    EXPECT_EQ(result.output, "done") << result.cause;
 }
 
-TEST(Children, ReachTheLimitOfAStepByWorkingAndNotByWaiting) {
+TEST(Children, ReachTheLimitBetweenCheckpointsByWorkingAndNotByWaiting) {
     constexpr Limits short_limits{std::chrono::seconds(20), std::chrono::milliseconds(300)};
-    const Ending waited = run_in_child(
-        [](Place&) {
+    const ChildResult waited = run_in_child(
+        [](ChildProgress&) {
             std::this_thread::sleep_for(std::chrono::seconds(1));
             return std::string("done");
         },
         short_limits, Child::Exit::Quick);
-    EXPECT_EQ(waited.kind, Ending::Kind::Done) << waited.cause;
+    EXPECT_EQ(waited.kind, ChildResult::Kind::Done) << waited.cause;
 
-    const Ending worked = run_in_child(
-        [](Place& place) {
-            place.enter("a loop");
+    const ChildResult worked = run_in_child(
+        [](ChildProgress& progress) {
+            progress.checkpoint("a loop");
             for (volatile bool forever = true; forever;) {
             }
             return std::string();
         },
         short_limits, Child::Exit::Quick);
-    EXPECT_EQ(worked.kind, Ending::Kind::TimedOut);
-    EXPECT_EQ(worked.step, "a loop");
+    EXPECT_EQ(worked.kind, ChildResult::Kind::TimedOut);
+    EXPECT_EQ(worked.last_checkpoint, "a loop");
 
     constexpr Limits shorter{std::chrono::seconds(20), std::chrono::milliseconds(20)};
-    const Ending stuck = run_in_child(
-        [](Place&) {
+    const ChildResult stuck = run_in_child(
+        [](ChildProgress&) {
             for (;;) ::pause();
             return std::string();
         },
         shorter, Child::Exit::Quick);
-    EXPECT_EQ(stuck.kind, Ending::Kind::TimedOut) << "it waited twenty times as long";
+    EXPECT_EQ(stuck.kind, ChildResult::Kind::TimedOut) << "after waiting twenty times as long";
 }
 
-TEST(Children, GiveResultsOfAnySizeAndTheLastThatTheySaid) {
+TEST(Children, ReturnOutputOfAnySizeAndTheLastErrorLines) {
     const std::string large(3 << 20, 'x');
-    const Ending done = run_in_child([&](Place&) { return large; }, limits, Child::Exit::Quick);
-    EXPECT_EQ(done.kind, Ending::Kind::Done);
-    EXPECT_TRUE(done.result == large);
+    const ChildResult done =
+        run_in_child([&](ChildProgress&) { return large; }, limits, Child::Exit::Quick);
+    EXPECT_EQ(done.kind, ChildResult::Kind::Done);
+    EXPECT_TRUE(done.output == large);
 
-    const Ending crashed = run_in_child(
-        [&](Place& place) -> std::string {
-            place.enter("a step");
+    const ChildResult crashed = run_in_child(
+        [&](ChildProgress& progress) -> std::string {
+            progress.checkpoint("a step");
             for (int i = 0; i < 20; ++i) std::fprintf(stderr, "line %i\n", i);
             throw std::runtime_error("the reason");
         },
         limits, Child::Exit::Quick);
-    EXPECT_EQ(crashed.kind, Ending::Kind::Crashed);
-    EXPECT_EQ(crashed.step, "a step");
-    EXPECT_THAT(crashed.said, testing::SizeIs(12));
-    EXPECT_EQ(crashed.said.back(), "the reason");
-    EXPECT_EQ(crashed.result, "");
+    EXPECT_EQ(crashed.kind, ChildResult::Kind::Crashed);
+    EXPECT_EQ(crashed.last_checkpoint, "a step");
+    EXPECT_THAT(crashed.error_lines, testing::SizeIs(12));
+    EXPECT_EQ(crashed.error_lines.back(), "the reason");
+    EXPECT_EQ(crashed.output, "");
 }
 
 } // namespace

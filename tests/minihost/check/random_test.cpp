@@ -1,4 +1,4 @@
-// What a random user finds is made short and can be repeated.
+// What a random user finds is reduced to few steps and can be repeated.
 
 #include "minihost/actions/ActionFile.h"
 #include "minihost/model/OutputFile.h"
@@ -20,7 +20,7 @@ class RandomUsers : public testing::Test {
   protected:
     int run(const std::string& command) {
         const int status = std::system(
-            ("cd '" + folder.string() + "' && " + command + " >printed 2>told").c_str());
+            ("cd '" + folder.string() + "' && " + command + " >printed 2>errors").c_str());
         printed = read_file(folder / "printed");
         return WEXITSTATUS(status);
     }
@@ -34,7 +34,7 @@ class RandomUsers : public testing::Test {
     std::string printed;
 };
 
-TEST_F(RandomUsers, FindWhatTakesSeveralStepsAndTellAShortWayToIt) {
+TEST_F(RandomUsers, FindWhatTakesSeveralStepsAndReportFewThatRepeatIt) {
     struct Case {
         const char *id, *module;
         int lines;
@@ -52,7 +52,7 @@ TEST_F(RandomUsers, FindWhatTakesSeveralStepsAndTellAShortWayToIt) {
         const std::string actions = read_file(folder / words[3]);
         const auto lines = static_cast<int>(parse_actions(actions, "actions").size());
         EXPECT_LE(lines, it.lines) << actions;
-        // The shell tells the signal.
+        // The status of a signal.
         EXPECT_EQ(run("PATH=$(dirname " MINIHOST "):$PATH " + command), 134) << actions;
         const std::string first = printed;
         check(it.id, it.module);

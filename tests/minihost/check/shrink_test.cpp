@@ -1,4 +1,4 @@
-// Long lists of steps are made short.
+// Long lists of steps are shortened.
 
 #include "minihost/check/Shrink.h"
 
@@ -27,7 +27,7 @@ TEST(Shrink, LeavesWhatIsNeededAndTriesLittle) {
     };
     EXPECT_THAT(shrink(1000, far_apart, later), ElementsAre(3, 500, 997));
     EXPECT_LT(tries, 150);
-    // 8 goes wrong with 2 alone, and hides behind 5 as long as 6 is not there.
+    // 2 and 8 fail together, but 5 hides that without 6.
     const auto entangled = [](const StepIndices& steps) {
         return has(steps, 2) && has(steps, 8) && (!has(steps, 5) || has(steps, 6));
     };

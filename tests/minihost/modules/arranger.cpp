@@ -1,6 +1,5 @@
-// A small plug-in without a dialog, for what a host does with one. Its command moves every selected
-// layer to (1, 2, 3) in one undo step. When the environment asks for it, it leaves a suite, a
-// stream, a collection and an undo group behind.
+// A small plug-in without a dialog. Its command moves every selected layer to (1, 2, 3) in one undo
+// step. With TEST_PLUGIN_HOLDS in the environment it keeps a suite, a collection and an undo group.
 
 #include "sdk/Host.h"
 
@@ -18,7 +17,7 @@ const Suite* acquire(const char* name, A_long version) {
     return basic->AcquireSuite(name, version, &table) ? nullptr : static_cast<const Suite*>(table);
 }
 
-// The suites that are used, given back at the end of a hook.
+// Acquires the suites for the duration of a hook.
 struct Suites {
     const AEGP_RegisterSuite6* hooks =
         acquire<AEGP_RegisterSuite6>(kAEGPRegisterSuite, kAEGPRegisterSuiteVersion);

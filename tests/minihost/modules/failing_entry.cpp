@@ -1,5 +1,5 @@
-// A plug-in whose entry function acquires a suite, registers a death hook, and fails with 7, or,
-// when the environment says so, by an exception.
+// A plug-in whose entry function acquires a suite, registers a death hook and fails with 7, or
+// throws with TEST_PLUGIN_THROWS in the environment.
 
 #include "sdk/Host.h"
 

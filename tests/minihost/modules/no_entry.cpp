@@ -1,4 +1,4 @@
-// A module that is no plug-in: it exports no entry function.
+// A module without an entry function.
 
 extern "C" int nothing_of_use() {
     return 0;

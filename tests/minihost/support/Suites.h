@@ -1,8 +1,9 @@
-// A host whose suites are called as if from a plug-in's hook.
+// A host whose suites a test calls as a plug-in's hook would.
 
 #pragma once
 
 #include "minihost/model/SceneReader.h"
+#include "minihost/suites/BasicSuite.h"
 #include "minihost/suites/Host.h"
 
 #include <functional>
@@ -32,11 +33,11 @@ class Suites : public testing::Test {
               parse_scene(sample_scene, "test"), std::move(options),
               [this](const std::string& line) { messages.push_back(line); }, blind_panels()) {}
 
-    void inside(const std::function<void()>& body) { host.visit(body); }
+    void inside(const std::function<void()>& body) { host.enter(body); }
     template <typename Table>
     const Table& suite(const char* name, A_long version) {
         const void* table = nullptr;
-        EXPECT_EQ(host.basic_suite()->AcquireSuite(name, version, &table), 0) << name;
+        EXPECT_EQ(basic_suite.AcquireSuite(name, version, &table), 0) << name;
         return *static_cast<const Table*>(table);
     }
     const AEGP_LayerSuite5& layers() { return suite<AEGP_LayerSuite5>(kAEGPLayerSuite, 5); }

@@ -1,4 +1,4 @@
-// Files of a test's own.
+// Files for a test.
 
 #pragma once
 
@@ -11,12 +11,12 @@
 
 namespace minihost {
 
-// Gone when the test is over.
+// Removed at the end of the test.
 class TemporaryFolder {
   public:
     TemporaryFolder() : path(make()) {}
     ~TemporaryFolder() {
-        std::error_code ignored; // what a test has made unreadable stays
+        std::error_code ignored; // files that the test made unreadable stay
         std::filesystem::remove_all(path, ignored);
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
@@ -36,7 +36,7 @@ class TemporaryFolder {
     }
 };
 
-// Width and height in pixels as the head of a PNG file tells them; below 65,536.
+// Width and height in pixels, below 65,536, from the header of a PNG file.
 inline std::pair<int, int> png_size(const std::string& file) {
     const auto number = [&](std::size_t at) { // big-endian
         return static_cast<unsigned char>(file.at(at + 2)) << 8 |

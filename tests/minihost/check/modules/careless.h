@@ -1,4 +1,4 @@
-// What the modules of the failing calls do at the wrong moment.
+// Shared by the modules that do something wrong when a call fails.
 
 #pragma once
 

@@ -1,5 +1,5 @@
-// The small plug-in with a dialog of its own in the host's panel: a check box, a field, a pop-up
-// and a push button, which arranges.
+// The small plug-in with a dialog in the host's panel: a check box, a field, a pop-up and a button,
+// which arranges the layers.
 
 #pragma once
 
@@ -16,7 +16,7 @@ enum { check_box_id = 1, field_id, popup_id, button_id };
 class DialogPlugin : public Plugin {
   public:
     bool has_panel() const override { return true; }
-    // The button's action; nobody else may let anything out of it.
+    // The button's action.
     virtual void on_press() { arrange(); }
 
     void fill(NSView* container) override {

@@ -1,4 +1,5 @@
-// Forgets its undo group when its button is pressed and a call fails; a missing suite it minds.
+// Leaves its undo group open when its button is pressed and a call fails, except for a missing
+// suite.
 
 #include "dialog.h"
 

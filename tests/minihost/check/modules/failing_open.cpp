@@ -1,4 +1,4 @@
-// When its command is chosen first, it keeps a suite if a call fails in between.
+// Its command, chosen for the first time, keeps a suite when a call fails in between.
 
 #include "careless.h"
 

@@ -1,4 +1,4 @@
-// Forgets what it has allocated.
+// Leaks memory.
 
 #include "plugin.h"
 

@@ -1,4 +1,4 @@
-// Its idle hook never comes back.
+// Its idle hook never returns.
 
 #include "plugin.h"
 

@@ -1,4 +1,4 @@
-// Takes it for granted that the top layer stays the same while it works.
+// Assumes that the top layer stays the same while it works.
 
 #include "plugin.h"
 

@@ -1,4 +1,4 @@
-// Makes room for as many layers as it is told, whatever that is.
+// Allocates memory for as many layers as the host reports.
 
 #include "plugin.h"
 

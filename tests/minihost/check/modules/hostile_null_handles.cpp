@@ -1,4 +1,4 @@
-// Takes it for granted that a layer that was given with success is there.
+// Assumes that a handle from a successful call is not null.
 
 #include "plugin.h"
 

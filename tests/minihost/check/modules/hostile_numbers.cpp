@@ -1,11 +1,11 @@
-// Is sure that a position is a number.
+// Assumes that a position is finite.
 
 #include "plugin.h"
 
 #include <cstdlib>
 
 struct Broken : Plugin {
-    void take(const A_char*, A_long, A_FpLong x) override {
+    void on_inspected(const A_char*, A_long, A_FpLong x) override {
         if (x != x) std::abort();
     }
 };

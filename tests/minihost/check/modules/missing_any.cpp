@@ -1,4 +1,4 @@
-// Asks once more for a suite that it did not get, and then takes it for granted.
+// Tries to acquire a missing suite twice, then assumes that it has it.
 
 #include "plugin.h"
 

@@ -1,4 +1,4 @@
-// Takes an optional suite for granted.
+// Assumes that the host has an optional suite.
 
 #include "plugin.h"
 

@@ -1,4 +1,4 @@
-// Has nowhere to put a result.
+// Passes a null pointer for a result.
 
 #include "plugin.h"
 

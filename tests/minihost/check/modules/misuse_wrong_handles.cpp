@@ -1,4 +1,4 @@
-// Asks a stream for the index that layers have.
+// Passes a stream's handle for a layer's.
 
 #include "plugin.h"
 

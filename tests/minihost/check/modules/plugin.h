@@ -1,5 +1,5 @@
-// A small plug-in that does nothing wrong: its command moves the selected layers in one undo step,
-// a panel can be filled. Each module includes it and overrides the one thing that it does wrong.
+// A small plug-in that does nothing wrong: its command moves the selected layers in one undo step.
+// Each module includes it and overrides what it does wrong.
 
 #pragma once
 
@@ -12,7 +12,7 @@ inline AEGP_PluginID plugin_id;
 inline AEGP_Command command;
 constexpr const char* panel_name = "Small";
 
-// A suite from here to the end of the block; null on a host that lacks it.
+// Acquires a suite for the rest of the block; null on a host without it.
 template <typename Table>
 class Suite {
   public:
@@ -82,7 +82,7 @@ class Plugin {
         return 0;
     }
     virtual A_Err on_death() {
-        const Utility goodbye;
+        const Utility utility;
         return 0;
     }
     virtual A_Err on_menu() {
@@ -94,7 +94,7 @@ class Plugin {
     virtual bool has_panel() const { return false; }
     virtual void fill(NSView*) {}
 
-    // Gives every selected layer place(), in one undo step.
+    // Moves every selected layer to position(), in one undo step.
     virtual A_Err arrange() {
         const AEGP_CompH comp = active_comp();
         const Utility utility;
@@ -129,13 +129,13 @@ class Plugin {
     virtual A_Err move(AEGP_LayerH layer) {
         const Streams streams;
         if (!streams || !layer) return 1;
-        if (const A_Err error = look(layer)) return error;
+        if (const A_Err error = inspect(layer)) return error;
         AEGP_StreamValue value{};
         if (const A_Err error = streams->AEGP_GetNewLayerStream(
                 plugin_id, layer, AEGP_LayerStream_POSITION, &value.streamH))
             return error;
         if (!value.streamH) return 1;
-        value.val.three_d = place();
+        value.val.three_d = position();
         const A_Err error = streams->AEGP_SetStreamValue(plugin_id, value.streamH, &value);
         dispose(streams, value.streamH);
         return error;
@@ -143,10 +143,10 @@ class Plugin {
     virtual void dispose(const Streams& streams, AEGP_StreamRefH stream) {
         streams->AEGP_DisposeStream(stream);
     }
-    virtual AEGP_ThreeDVal place() { return {1, 2, 3}; }
+    virtual AEGP_ThreeDVal position() { return {1, 2, 3}; }
 
-    // Asks for what there is to know of a layer, and hands it over.
-    virtual A_Err look(AEGP_LayerH layer) {
+    // Reads the data of a layer.
+    virtual A_Err inspect(AEGP_LayerH layer) {
         const Layers layers;
         const Items items;
         const Streams streams;
@@ -162,10 +162,10 @@ class Plugin {
         if (!error)
             error = streams->AEGP_GetLayerStreamValue(layer, AEGP_LayerStream_POSITION,
                                                       AEGP_LTimeMode_CompTime, &now, 0, &position);
-        if (!error) take(name, width, position.three_d.x);
+        if (!error) on_inspected(name, width, position.three_d.x);
         return error;
     }
-    virtual void take(const A_char* /*name*/, A_long /*width*/, A_FpLong /*x*/) {}
+    virtual void on_inspected(const A_char* /*name*/, A_long /*width*/, A_FpLong /*x*/) {}
 
   private:
     A_Err toggle_panel() {
@@ -174,7 +174,7 @@ class Plugin {
     }
 };
 
-// The module's own.
+// Defined by the module, with PLUGIN_IS.
 Plugin& plugin();
 
 inline A_Err register_all() {
@@ -232,7 +232,7 @@ EXPORTED A_Err PluginEntry(SPBasicSuite* given, A_long, A_long, AEGP_PluginID id
     return error ? error : plugin().on_entry();
 }
 
-// The last line of a module: its plug-in.
+// The last line of a module.
 #define PLUGIN_IS(Type)                                                                            \
     Plugin& plugin() {                                                                             \
         static Type it;                                                                            \

@@ -1,4 +1,4 @@
-// Does not live through its command after the user has looked at a footage item twice.
+// Its command crashes after the active item was footage twice.
 
 #include "plugin.h"
 

@@ -1,4 +1,4 @@
-// Its button does not live through the Escape key.
+// Its button crashes at the Escape key.
 
 #include "plugin.h"
 

@@ -1,4 +1,4 @@
-#include "minihost/check/Subject.h"
+#include "minihost/check/Target.h"
 
 #include "minihost/model/SceneReader.h"
 #include "minihost/model/SceneWriter.h"
@@ -9,28 +9,27 @@ namespace minihost {
 
 namespace {
 
-// How many layers stay for what takes calls times runs.
-constexpr std::size_t most_kept = 5;
+constexpr std::size_t small_scene_layers = 5;
 
-// The first selected layers, and the first layers of a kind that has none among them; nothing when
-// the scene is as small already.
-std::set<LayerId> layers_to_keep(const Scene& scene, std::size_t most) {
-    if (scene.layer_count() <= most + 2) return {};
+// The first selected layers, and the first layer of each kind that none of them has; empty for a
+// scene that is small already.
+std::set<LayerId> layers_to_keep(const Scene& scene, std::size_t count) {
+    if (scene.layer_count() <= count + 2) return {};
     std::set<LayerId> kept;
     std::set<LayerKind> kinds;
     for (const LayerId id : scene.selection())
-        if (id && kept.size() < most && kept.insert(id).second) kinds.insert(scene.find(id)->kind);
+        if (id && kept.size() < count && kept.insert(id).second) kinds.insert(scene.find(id)->kind);
     for (const Layer* it : scene.layers())
         if (kinds.insert(it->kind).second) kept.insert(it->id);
     return kept;
 }
 
-void cut_scene(Subject& subject) {
-    Scene scene = parse_scene(subject.scene, "the scene");
+void make_small_scene(Target& target) {
+    Scene scene = parse_scene(target.scene, "the scene");
     const std::size_t all = scene.layer_count();
-    const std::set<LayerId> kept = layers_to_keep(scene, most_kept);
+    const std::set<LayerId> kept = layers_to_keep(scene, small_scene_layers);
     if (kept.empty()) {
-        subject.small_scene = subject.scene;
+        target.small_scene = target.scene;
         return;
     }
     Selection selection = scene.selection();
@@ -38,13 +37,12 @@ void cut_scene(Subject& subject) {
     scene.select(std::move(selection));
     for (const Layer* it : scene.layers())
         if (!kept.contains(it->id)) scene.remove(it->id);
-    subject.small_scene = scene_text(Document(std::move(scene)));
-    subject.cut = std::to_string(kept.size()) + " of the scene's " + std::to_string(all) +
-                  " layers were kept for these runs";
+    target.small_scene = scene_text(Document(std::move(scene)));
+    target.small_scene_note = std::to_string(kept.size()) + " of the scene's " +
+                              std::to_string(all) + " layers were kept for these runs";
 }
 
-// A composition with something of everything: 3D solids, a text, a shape and a camera selected, a
-// layer in the plane, a light, keys.
+// All kinds of layers, with keyframes, most of them selected.
 constexpr const char* built_in_scene = R"({"format": "minihost scene 1",
   "composition": {"name": "Comp 1", "width": 1280, "height": 720, "frame_rate": 25, "duration": 8, "time": 1},
   "layers": [
@@ -63,21 +61,21 @@ constexpr const char* built_in_scene = R"({"format": "minihost scene 1",
 
 } // namespace
 
-Limits Subject::limits() const {
+Limits Target::limits() const {
     using std::chrono::seconds;
-    const std::size_t layers = small_scene.empty() ? 0 : scene.size() / 400; // about so many
+    const std::size_t layers = small_scene.empty() ? 0 : scene.size() / 400; // about
     const seconds step{(2 + level + static_cast<int>(layers / 100)) * sanitizer_factor};
     return {20 * step, step};
 }
 
-void read_scenes(Subject& subject) {
-    if (subject.scene_file.empty()) {
-        subject.scene = built_in_scene;
+void read_scenes(Target& target) {
+    if (target.scene_file.empty()) {
+        target.scene = built_in_scene;
     } else {
-        subject.scene = read_file(subject.scene_file);
-        parse_scene(subject.scene, subject.scene_file); // for its errors, by the file's name
+        target.scene = read_file(target.scene_file);
+        parse_scene(target.scene, target.scene_file); // for errors with the file's name
     }
-    cut_scene(subject);
+    make_small_scene(target);
 }
 
 } // namespace minihost

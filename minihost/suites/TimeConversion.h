@@ -1,4 +1,4 @@
-// Times between host and plug-in: 600ths of a second from the host, any scale to it.
+// Times between host and plug-in: the host hands out 600ths of a second and accepts any scale.
 
 #pragma once
 
