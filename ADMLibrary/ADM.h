@@ -1,4 +1,4 @@
-// The dialog toolkit's interface, whole: what a dialog or an object wrapper includes.
+// The whole interface of the dialog toolkit: the one header that dialogs and wrappers include.
 
 #pragma once
 

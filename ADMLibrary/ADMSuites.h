@@ -1,8 +1,8 @@
 // The suites for screens, dialogs and notifiers.
 //
 // A suite is a struct of static functions; a call through its pointer, sADMDialog->Show(...), binds
-// statically. A null handle makes a function do nothing and return 0, false or null. A function
-// marked "stops" is not provided: it says so on standard error and aborts.
+// statically. With a null handle a function does nothing and returns 0, false or null. A function
+// marked "stops" is not provided: it reports that on standard error and aborts.
 
 #pragma once
 
@@ -10,8 +10,8 @@
 
 struct ADMBasicSuite8 {
     // The main screen without menu bar and Dock, in the platform's screen coordinates (y upwards,
-    // `top` is the lower edge), if `where` lies in it; false otherwise, with `out` untouched. Both
-    // pointers must be given.
+    // `top` is the lower edge), if `where` lies in it; false otherwise, with `out` untouched.
+    // Neither pointer may be null.
     static bool GetScreenDimensions(const Point* where, Rect* out);
 };
 
@@ -22,8 +22,8 @@ struct ADMDialogSuite9 {
     static _Opaque_ADMDialog* Create(SPPlugin* plugin, const char* name, int id,
                                      ADMDialogStyle style, ADMDialogInitProc init, void* userData,
                                      int options);
-    // Makes a dialog inside `hostView`, fills the host's function table and stores what the table's
-    // functions are called with through `refcon`, then runs `init`. Null if `init` fails.
+    // Makes a dialog inside `hostView`, fills in the host's function table and its `refcon`, then
+    // runs `init`. Null if `init` fails.
     static _Opaque_ADMDialog* CreatePanel(SPPlugin* plugin, const char* name, int id,
                                           ADMDialogInitProc init, void* userData,
                                           AEGP_PanelSuite1* panelSuite, _AEGP_PanelH* panelH,
@@ -31,7 +31,7 @@ struct ADMDialogSuite9 {
                                           _AEGP_PanelRefcon** refcon);
     static int Modal(SPPlugin*, const char*, int, ADMDialogStyle, ADMDialogInitProc, void*,
                      int); // stops
-    // Calls the destroy procedure while all items still stand, then frees the dialog with them.
+    // Calls the destroy procedure while all items still exist, then frees the dialog with them.
     // Inside that procedure it does nothing.
     static void Destroy(_Opaque_ADMDialog*);
 
@@ -53,11 +53,11 @@ struct ADMDialogSuite9 {
     // The item made after `item`, an item of this dialog; null after the last.
     static _Opaque_ADMItem* GetNextItem(_Opaque_ADMDialog*, _Opaque_ADMItem* item);
 
-    // The title of the window (Mac Roman) or of the host's panel (bytes handed on unchanged).
+    // The title of the window (Mac Roman) or of the host's panel (bytes passed on unchanged).
     static void SetText(_Opaque_ADMDialog*, const char* text);
-    // Brings the window to the front or sends it behind the others. Panels are the host's to show.
+    // Brings the window to the front or sends it behind the others. The host shows panels.
     static void Show(_Opaque_ADMDialog*, unsigned char show);
-    // Whether the window, the dialog's own or the one that its panel stands in, is visible.
+    // Whether the dialog's own window, or the one that contains its panel, is visible.
     static bool IsVisible(_Opaque_ADMDialog*);
     // Whether the dialog's own window is visible.
     static bool IsEnabled(_Opaque_ADMDialog*);
@@ -76,9 +76,9 @@ struct ADMNotifierSuite2 {
 
 namespace adm {
 
-// The item made first, or null: where a walk with GetNextItem starts.
+// The item made first, or null: the start of a walk with GetNextItem.
 _Opaque_ADMItem* first_item(_Opaque_ADMDialog*);
-// A living dialog with this user data, or null if there is none.
+// A dialog with this user data that is not being destroyed, or null.
 _Opaque_ADMDialog* dialog_of(const void* userData);
 
 } // namespace adm

@@ -1,7 +1,7 @@
-// The toolkit's vocabulary: handles, points and rectangles, type strings, procedures.
+// The types of the toolkit: handles, points and rectangles, type strings, procedures.
 //
-// All coordinates are a dialog's own: origin at the top left, y growing downwards, in points. All
-// of the toolkit is called on the main thread only.
+// All coordinates are relative to the dialog: origin at the top left, y downwards, in points. Call
+// the toolkit on the main thread only.
 
 #pragma once
 
@@ -9,11 +9,11 @@
 
 #include <cstdint>
 
-// Handles. Each is the address of a record of the toolkit and means nothing else to its holder.
+// Handles: addresses of the toolkit's records, valid as long as the comments say.
 struct _Opaque_ADMDialog;        // from Create or CreatePanel until Destroy
 struct _Opaque_ADMItem;          // as long as its dialog
 struct _Opaque_ADMList;          // as long as its item
-struct _Opaque_ADMEntry;         // the entry that its list named last; as long as the list
+struct _Opaque_ADMEntry;         // as long as its list, see ADMListSuite4
 struct _Opaque_ADMNotifier;      // during the notify procedure
 struct _Opaque_ADMDrawer;        // during the draw procedure; an image's, as long as the image
 struct _Opaque_ADMImage;         // from CreateOffscreen until Destroy
@@ -21,7 +21,7 @@ struct _Opaque_ADMTracker;       // nothing makes one
 struct _Opaque_ADMListEntry;     // nothing makes one
 struct _Opaque_ADMHierarchyList; // nothing makes one
 
-struct SPPlugin; // the caller's own reference, never looked at
+struct SPPlugin; // not used by the toolkit
 
 struct Point {
     std::int16_t v; // vertical, first
@@ -38,7 +38,7 @@ using ADMUnits = int;       // accepted and ignored
 using ADMFrameStyle = int;  // accepted and ignored
 using ADMColor = int;       // see ADMDrawerSuite5::SetADMColor
 
-// What an item can be. The toolkit keeps the pointer, so a type outlives its items.
+// The types of items. The toolkit keeps the pointer.
 constexpr const char* kADMTextPushButtonType = "ADM Text Push Button Type";
 constexpr const char* kADMTextCheckBoxType = "ADM Text Check Box Type";
 constexpr const char* kADMTextRadioButtonType = "ADM Text Radio Button Type";
@@ -51,7 +51,7 @@ constexpr const char* kADMSliderType = "ADM Slider Type";
 constexpr const char* kADMPictureStaticType = "ADM Picture Static Type";
 constexpr const char* kADMPicturePushButtonType = "ADM Picture Push Button Type";
 
-// The one kind of notification: the user clicked, picked, dragged or ended editing.
+// The only notification: the user clicked, picked, dragged or ended editing.
 constexpr const char* kADMUserChangedNotifier = "ADM User Changed Notifier";
 
 // An init procedure returns 0, or an error code that makes the creation fail.

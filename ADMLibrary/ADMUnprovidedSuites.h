@@ -1,4 +1,4 @@
-// Suites that are there so that code written against them builds: every operation stops.
+// Suites that exist only so that code written against them builds: every operation stops.
 
 #pragma once
 

@@ -6,7 +6,7 @@ BaseADMDialog* wrapper_of(_Opaque_ADMDialog* dialog) {
     return static_cast<BaseADMDialog*>(ADMDialogSuite9::GetUserData(dialog));
 }
 
-// Takes the way back to the wrapper from the dialog before it is destroyed.
+// Destroys the dialog without calling its wrapper back.
 void unbind_and_destroy(_Opaque_ADMDialog* dialog) {
     ADMDialogSuite9::SetUserData(dialog, nullptr);
     ADMDialogSuite9::SetDrawProc(dialog, nullptr);
@@ -21,7 +21,7 @@ BaseADMDialog::~BaseADMDialog() {
     if (_modal) return;
     if (_handle) unbind_and_destroy(_handle);
     _handle = nullptr;
-    // A host may have made its panel several times; the dialogs of the earlier ones still name this
+    // A host may have made its panel several times; the earlier dialogs still refer to this
     // wrapper.
     while (_Opaque_ADMDialog* earlier = adm::dialog_of(this)) unbind_and_destroy(earlier);
 }
@@ -76,8 +76,8 @@ int BaseADMDialog::InitProc(_Opaque_ADMDialog* dialog) {
     self->_handle = dialog;
     const int error = self->Init();
     if (error != 0) {
-        // The dialog is given up. Whoever is creating it still holds the wrapper, which therefore
-        // lets go of it here instead of deleting itself when it is destroyed.
+        // The toolkit will destroy the dialog. The caller of Create still holds the wrapper, so it
+        // must not delete itself then.
         ADMDialogSuite9::SetDestroyProc(dialog, nullptr);
         self->Destroy();
     }
@@ -101,8 +101,8 @@ void BaseADMDialog::DestroyProc(_Opaque_ADMDialog* dialog) {
     BaseADMDialog* self = wrapper_of(dialog);
     if (!self) return;
     self->Destroy();
-    // A wrapper that deletes itself asks the toolkit to destroy the dialog, which knows by then
-    // that it is being destroyed.
+    // The wrapper's destructor asks the toolkit to destroy the dialog, which ignores that: it is
+    // being destroyed already.
     if (!self->_modal && self->_delete_on_destroy)
         delete self;
     else

@@ -3,9 +3,9 @@
 //
 // 1. Create or CreatePanel makes the toolkit dialog, which runs Init before they return.
 // 2. Init installs the callbacks; a subclass calls it first and then makes its items.
-// 3. The owner deletes the wrapper, and the toolkit dialog goes with it; or the toolkit dialog is
-//    destroyed, Destroy is called, and the wrapper deletes itself unless it was told to stay. One
-//    that stayed can be created anew.
+// 3. Either the owner deletes the wrapper, which destroys the toolkit dialog; or the toolkit dialog
+//    is destroyed, which calls Destroy and then deletes the wrapper. After
+//    SetDeleteOnDestroy(false) the wrapper is kept and can be created anew.
 
 #pragma once
 
@@ -24,10 +24,10 @@ class BaseADMDialog : public IADMDialog {
     virtual bool Track(IADMTracker tracker);
     // The user acted on an item that has no notify procedure of its own.
     virtual void Notify(IADMNotifier notifier);
-    // The toolkit dialog is about to go; all its items still stand.
+    // The toolkit dialog is about to be destroyed; all its items still exist.
     virtual void Destroy();
     virtual ~BaseADMDialog();
-    // Both return the toolkit dialog, null if it could not be made. See ADMDialogSuite9.
+    // Both return the toolkit dialog, or null if it could not be made. See ADMDialogSuite9.
     virtual _Opaque_ADMDialog* Create(SPPlugin* plugin, char* name, int dialogID,
                                       ADMDialogStyle style, int options);
     virtual _Opaque_ADMDialog* CreatePanel(SPPlugin* plugin, const char* name, int dialogID,
@@ -37,11 +37,10 @@ class BaseADMDialog : public IADMDialog {
     virtual int Modal(SPPlugin* plugin, char* name, int dialogID, ADMDialogStyle style,
                       int options);
 
-    // Whether the wrapper deletes itself when the toolkit destroys its dialog. True at first; an
-    // owner that keeps the wrapper longer clears it.
+    // Whether the wrapper deletes itself when the toolkit destroys its dialog. True at first.
     void SetDeleteOnDestroy(bool deletes) { _delete_on_destroy = deletes; }
 
-    // What the toolkit calls. Without a wrapper as the dialog's user data they do nothing.
+    // The toolkit's callbacks. Without a wrapper as the dialog's user data they do nothing.
     static int InitProc(_Opaque_ADMDialog* dialog);
     static void DrawProc(_Opaque_ADMDialog* dialog, _Opaque_ADMDrawer* drawer);
     static unsigned char TrackProc(_Opaque_ADMDialog* dialog, _Opaque_ADMTracker* tracker);

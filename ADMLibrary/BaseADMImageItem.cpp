@@ -3,15 +3,15 @@
 BaseADMImageItem::BaseADMImageItem(IADMItem item, void* userData) : BaseADMItem(item, userData) {}
 
 BaseADMImageItem::~BaseADMImageItem() {
-    if (_image && sADMImage) forget_image();
+    if (_image && sADMImage) discard_image();
 }
 
-void BaseADMImageItem::forget_image() {
+void BaseADMImageItem::discard_image() {
     ADMImageSuite2::Destroy(_image);
     _image = nullptr;
 }
 
-bool BaseADMImageItem::UseImage() {
+bool BaseADMImageItem::UseImage() const {
     return true;
 }
 
@@ -24,7 +24,7 @@ void BaseADMImageItem::BaseDraw(IADMDrawer drawer) {
     const int height = bounds.bottom - bounds.top;
     if (_image &&
         (ADMImageSuite2::GetWidth(_image) != width || ADMImageSuite2::GetHeight(_image) != height))
-        forget_image();
+        discard_image();
     if (!_image) _image = ADMImageSuite2::CreateOffscreen(width, height, 0);
     if (!_image) return Draw(drawer);
 

@@ -1,5 +1,5 @@
-// An item that is drawn through an offscreen image of its own size: what Draw paints appears at
-// once, and the image is kept for the next time.
+// An item that is double-buffered: Draw paints into an offscreen image of the item's size, which is
+// kept for the next time.
 
 #pragma once
 
@@ -12,11 +12,11 @@ class BaseADMImageItem : public BaseADMItem {
 
     void BaseDraw(IADMDrawer drawer) override;
     ~BaseADMImageItem() override;
-    // Whether to draw through an image; without, Draw gets the item's own drawer.
-    virtual bool UseImage();
+    // Whether to draw through an image; if not, Draw gets the item's own drawer.
+    virtual bool UseImage() const;
 
   private:
-    void forget_image();
+    void discard_image();
 
     _Opaque_ADMImage* _image = nullptr;
 };

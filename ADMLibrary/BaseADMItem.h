@@ -1,6 +1,6 @@
-// An item as an object: binds itself to an item of a dialog, made here or before, and turns its
-// callbacks into virtual calls. It does not own the item, which stays as long as its dialog;
-// whoever made the wrapper deletes it, before the dialog goes.
+// An item as an object: binds itself to a new or an existing item of a dialog and turns its
+// callbacks into virtual calls. It does not own the item, which lives as long as its dialog; the
+// maker of the wrapper deletes it before the dialog is destroyed.
 
 #pragma once
 
@@ -12,7 +12,7 @@ class BaseADMItem : public IADMItem {
   public:
     // Not bound to an item yet.
     BaseADMItem() = default;
-    // Takes over an existing item, if it is not null. `userData` is kept here and not looked at.
+    // Binds itself to an existing item, if it is not null. `userData` is stored but not used.
     BaseADMItem(IADMItem item, void* userData);
     BaseADMItem(const BaseADMItem&) = delete;
     BaseADMItem& operator=(const BaseADMItem&) = delete;
@@ -25,14 +25,14 @@ class BaseADMItem : public IADMItem {
     // Both return whether they succeeded.
     virtual bool TextToFloat(const char* text, float& value);
     virtual bool FloatToText(float value, char* text, int maxLength);
-    // What the toolkit's draw procedure comes to; calls Draw.
+    // Called by the toolkit's draw procedure; calls Draw.
     virtual void BaseDraw(IADMDrawer drawer);
     virtual ~BaseADMItem();
     // `bounds` is a true rectangle in the dialog's coordinates. Null if no item could be made.
     virtual _Opaque_ADMItem* Create(_Opaque_ADMDialog* dialog, const IASRect& bounds,
                                     const char* itemType, int itemID);
 
-    // What the toolkit calls. Without a wrapper as the item's user data they do nothing.
+    // The toolkit's callbacks. Without a wrapper as the item's user data they do nothing.
     static int InitProc(_Opaque_ADMItem* item);
     static void DrawProc(_Opaque_ADMItem* item, _Opaque_ADMDrawer* drawer);
     static unsigned char TrackProc(_Opaque_ADMItem* item, _Opaque_ADMTracker* tracker);

@@ -18,11 +18,7 @@ void size_to_best(_Opaque_ADMItem* item) {
     ADMItemSuite10::SetLocalRect(item, &local);
 }
 
-void enable_item(_Opaque_ADMItem* item, bool enable) {
-    if (ADMItemSuite10::IsEnabled(item) != enable) ADMItemSuite10::Enable(item, enable);
-}
-
-// Where a length is centred within another one, which starts at 0.
+// The start of a length centred within another one that starts at 0.
 std::int16_t centred(int outer, int inner) {
     return std::max<std::int16_t>(0, static_cast<std::int16_t>((outer - inner) / 2));
 }
@@ -30,8 +26,6 @@ std::int16_t centred(int outer, int inner) {
 } // namespace
 
 BaseDlg::BaseDlg() : _enabled(ADMDialogSuite9::IsEnabled(_handle)), _suites(sSPBasic) {}
-
-BaseDlg::~BaseDlg() = default;
 
 void BaseDlg::Destroy() {
     _icons.clear();
@@ -48,8 +42,12 @@ void BaseDlg::Enable(unsigned char enable) {
     _enabled = wanted;
 }
 
-bool BaseDlg::IsEnabled() {
+bool BaseDlg::IsEnabled() const {
     return _enabled;
+}
+
+void BaseDlg::enable_item(_Opaque_ADMItem* item, bool enable) {
+    if (ADMItemSuite10::IsEnabled(item) != enable) ADMItemSuite10::Enable(item, enable);
 }
 
 void BaseDlg::SetLocalRect(const IASRect& rect) {

@@ -3,8 +3,6 @@
 CustomIcon::CustomIcon(IADMItem item, ADMItemDrawProc drawProc)
     : BaseADMImageItem(item, nullptr), _draw_proc(drawProc) {}
 
-CustomIcon::~CustomIcon() = default;
-
 void CustomIcon::Draw(IADMDrawer drawer) {
     if (_draw_proc) _draw_proc(_handle, drawer);
 }

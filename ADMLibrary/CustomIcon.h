@@ -6,11 +6,10 @@
 
 class CustomIcon : public BaseADMImageItem {
   public:
-    // Takes over `item`; `drawProc` may be null, which paints nothing.
+    // Binds itself to `item`. A null `drawProc` paints nothing.
     CustomIcon(IADMItem item, ADMItemDrawProc drawProc);
 
     void Draw(IADMDrawer drawer) override;
-    ~CustomIcon() override;
 
   private:
     ADMItemDrawProc _draw_proc;

@@ -1,4 +1,4 @@
-// The host's suites that the plug-in keeps from entry to unloading, and how they are had.
+// The host's suites that the plug-in keeps from entry to unloading.
 
 #pragma once
 
@@ -6,13 +6,13 @@
 
 extern SPBasicSuite* sSPBasic;            // set by the plug-in's entry function
 extern AEGP_PanelSuite1* sAEGPPanelSuite; // null on a host without workspace panels
-extern PFAppSuite6* sPFAppSuite; // null on a host that tells no colours: all are black then
+extern PFAppSuite6* sPFAppSuite; // null on a host without interface colours: all are black then
 
 namespace adm {
 
-// Acquires the panel suite, then the app suite, from sSPBasic. What the host lacks stays null.
+// Acquires the panel suite, then the app suite, from sSPBasic. Suites that the host lacks are null.
 void acquireSuites();
-// Gives back what was acquired, the panel suite first, and nulls the pointers.
+// Releases the acquired suites, the panel suite first, and nulls the pointers.
 void releaseSuites();
 
 } // namespace adm
@@ -21,12 +21,12 @@ void releaseSuites();
 struct _AcquireList {
     const char* name;
     std::int32_t version;
-    const void** suite; // where its pointer goes
+    const void** suite; // receives its table
 };
 
 // Acquires the suites in order, up to the first error, which it returns; all pointers are nulled
 // first. 0 when all succeeded, 0x21416371 without a basic suite.
 A_Err PIUSuitesAcquire(SPBasicSuite* basic, _AcquireList* list, int count);
-// Gives back, in the list's order, every suite whose pointer is set, and nulls it. Does nothing
+// Releases, in the list's order, every suite whose pointer is set, and nulls it. Does nothing
 // without a basic suite.
 void PIUSuitesRelease(SPBasicSuite* basic, _AcquireList* list, int count);

@@ -1,4 +1,4 @@
-// Holders: one handle each, passed by value, converted to and from the bare handle.
+// Holders of one handle each: passed by value, converted to and from the bare handle.
 
 #pragma once
 
@@ -6,14 +6,14 @@
 
 namespace adm {
 
-template <typename Record>
+template <typename Opaque>
 class HandleHolder {
   public:
-    HandleHolder(Record* handle = nullptr) : _handle(handle) {}
-    operator Record*() const { return _handle; }
+    HandleHolder(Opaque* handle = nullptr) : _handle(handle) {}
+    operator Opaque*() const { return _handle; }
 
   protected:
-    Record* _handle;
+    Opaque* _handle;
 };
 
 } // namespace adm

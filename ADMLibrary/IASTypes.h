@@ -1,5 +1,4 @@
-// The points and rectangles of wrappers and builder: the toolkit's own, made where they are needed
-// and handed on unchanged.
+// The points and rectangles of wrappers and builder: the toolkit's own, with constructors.
 
 #pragma once
 

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "minihost/view/Controls.h"
-#include "minihost/view/Panel.h"
+#include "minihost/dialog/Controls.h"
+#include "minihost/dialog/Picture.h"
 
 #include <vector>
 

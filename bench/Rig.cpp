@@ -62,10 +62,10 @@ double processor_seconds() {
 }
 
 Rig::Rig(minihost::Scene scene, Plugin plugin)
-    : _screen(minihost::make_screen()),
+    : _driver(minihost::make_dialog_driver()),
       _host(
           std::move(scene), {}, [](const std::string& line) { throw std::runtime_error(line); },
-          [this] { return _screen->make_panel(); }) {
+          [this] { return _driver->make_panel(); }) {
     if (plugin == Plugin::none) return;
     visit([&] {
         check(_host.call_entry(plugin == Plugin::recorded ? enter_by_way_of_recording
@@ -83,7 +83,7 @@ Rig::~Rig() {
 }
 
 void Rig::visit(const std::function<void()>& body) {
-    _screen->with_pool([&] { _host.enter(body); });
+    _driver->with_pool([&] { _host.enter(body); });
 }
 
 void Rig::check(A_Err error) {
@@ -110,7 +110,7 @@ const minihost::PanelView& Rig::panel() const {
 }
 
 void Rig::set(int id, const std::string& value) {
-    visit([&] { _screen->set(&panel(), id, std::to_string(id), value); });
+    visit([&] { _driver->set(&panel(), id, std::to_string(id), value); });
 }
 
 void Rig::apply() {

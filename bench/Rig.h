@@ -2,8 +2,8 @@
 
 #pragma once
 
+#include "minihost/dialog/DialogDriver.h"
 #include "minihost/suites/Host.h"
-#include "minihost/view/Screen.h"
 
 #include <memory>
 #include <string>
@@ -38,7 +38,7 @@ class Rig {
     Rig& operator=(const Rig&) = delete;
 
     minihost::Host& host() { return _host; }
-    minihost::Screen& screen() { return *_screen; }
+    minihost::DialogDriver& dialog_driver() { return *_driver; }
 
     // What a user does. Opening is the menu's command and one idle call.
     void open();
@@ -58,7 +58,7 @@ class Rig {
 
   private:
     void check(A_Err error);
-    std::unique_ptr<minihost::Screen> _screen;
+    std::unique_ptr<minihost::DialogDriver> _driver;
     minihost::Host _host;
 };
 

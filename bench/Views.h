@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "minihost/view/Controls.h"
+#include "minihost/dialog/Controls.h"
 
 #include <vector>
 

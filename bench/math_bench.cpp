@@ -1,8 +1,8 @@
 // Times the math library beside Eigen, glm, libnoise and the standard generator, all in double
 // precision and in one run, and prints how the times compare.
 //
-// Each case is "what/who" and works on arrays that fit into the first-level cache; the table at the
-// end tells nanoseconds for one operation, the best of all repetitions.
+// Each case is "operation/library" and works on arrays that fit into the first-level cache; the
+// table at the end shows nanoseconds per operation, the best of all repetitions.
 
 #include "math/matrix.h"
 #include "math/noise.h"
@@ -58,7 +58,7 @@ std::vector<M3> rigid_matrices() {
     return all;
 }
 
-// The same numbers for the peers.
+// The same numbers in the peers' types.
 template <typename Matrix>
 Matrix converted(const M3& m) {
     Matrix result;
@@ -79,8 +79,8 @@ std::vector<Matrix> converted(const std::vector<M3>& all) {
     return result;
 }
 
-// Applies `work` to every element, with another one for operations on two. A function of its own,
-// so that every case is compiled alike.
+// Applies `work` to every element, with another one for operations on two. Not inlined, so that
+// every case is compiled the same way.
 template <typename Result, typename In, typename Work>
 [[gnu::noinline]] void apply(const In* in, Result* out, std::size_t count, Work work) {
     for (std::size_t i = 0; i < count; ++i) out[i] = work(in[i], in[count - 1 - i]);
@@ -195,8 +195,8 @@ void add_inverses(const std::string& name, const std::vector<M3>& all) {
 }
 
 // libnoise has no value noise of the plane. Its value noise of space blends eight lattice points
-// by the same smoothstep, as many as our two lattices have together; its Perlin module with one
-// octave is the nearest among its modules.
+// by the same smoothstep, as many as our two lattices together; of its modules, Perlin with one
+// octave is the nearest.
 void add_noise() {
     add("value noise/ours", [](benchmark::State& state) {
         each<double>(state, random_points(),
@@ -215,7 +215,7 @@ void add_noise() {
     });
 }
 
-// Keeps the best time of every case beside printing it.
+// Keeps the best time of every case, for the table.
 class Comparison : public benchmark::ConsoleReporter {
   public:
     void ReportRuns(const std::vector<Run>& runs) override {

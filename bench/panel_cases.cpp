@@ -21,13 +21,13 @@ struct Shown {
 
     Shown() {
         rig.open();
-        controls = rig.screen().controls(&rig.panel());
+        controls = rig.dialog_driver().controls(&rig.panel());
         const minihost::Picture picture = draw();
         width = picture.width / scale, height = picture.height / scale;
     }
     minihost::Picture draw() {
         minihost::Picture picture;
-        rig.visit([&] { picture = rig.screen().picture(&rig.panel(), scale); });
+        rig.visit([&] { picture = rig.dialog_driver().picture(&rig.panel(), scale); });
         return picture;
     }
 };

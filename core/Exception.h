@@ -1,5 +1,5 @@
-// The exceptions that carry a text. A host error is thrown as a plain int instead; every hook
-// turns the one into its code and the other into 1, so that none of them leaves the plug-in.
+// The exceptions that carry a text. A host error is thrown as a plain int instead. Every hook
+// catches both, and returns the int or, for an exception, 1.
 
 #pragma once
 
@@ -7,23 +7,23 @@
 
 namespace core {
 
-// A failure that a person can read. All exceptions of the system with a text derive from it.
+// The base of all exceptions that carry a text.
 class Exception {
   public:
     explicit Exception(std::string text) : _message(std::move(text)) {}
     explicit Exception(const char* text) : _message(text ? text : "") {}
-    // Texts are not kept as resources, so that every identifier stands for the same words. (A
-    // literal 0 would be a text as well as a long: it is an identifier.)
+    // There are no text resources: every identifier gives the same fixed text. (The overload for
+    // int makes a literal 0 an identifier and not a null text.)
     explicit Exception(unsigned long /*resourceID*/) : _message(_resource_text) {}
     explicit Exception(int resourceID) : Exception(static_cast<unsigned long>(resourceID)) {}
     virtual ~Exception() = default;
 
-    // Replaces the text by the format itself; the arguments are accepted and not formatted.
+    // Replaces the text by the format itself; the arguments are ignored.
     template <typename... Values>
     void message(const char* format, const Values&...) {
         _message = format ? format : "";
     }
-    // Replaces the text by the fixed words for a resource.
+    // Replaces the text by the fixed one.
     template <typename... Values>
     void message(unsigned long /*resourceID*/, const Values&...) {
         _message = _resource_text;
@@ -40,7 +40,6 @@ class Exception {
     std::string _message;
 };
 
-// Memory that could not be had.
 class OutOfMemoryException : public Exception {
   public:
     explicit OutOfMemoryException(unsigned long resourceID) : Exception(resourceID) {}

@@ -1,5 +1,5 @@
-// The failures of the math library. Each is made from a resource identifier (throwers pass 0) and
-// carries the fixed text of core::Exception. Only SingularMatrix3DException and
+// The failures of the math library. Each is constructed from a resource identifier (throwers pass
+// 0) and carries the fixed text of core::Exception. Only SingularMatrix3DException and
 // VectorInFocusException are ever thrown, by value.
 
 #pragma once
@@ -16,7 +16,8 @@ class MatrixException : public MathException {
     explicit MatrixException(unsigned long resourceID) : MathException(resourceID) {}
 };
 
-// An element was addressed that the matrix does not have; the three numbers tell the access.
+// Access to an element that the matrix does not have; the three numbers that describe it are
+// ignored.
 class MatrixIndexOutOfRangeException : public MatrixException {
   public:
     explicit MatrixIndexOutOfRangeException(unsigned long resourceID, long = 0, long = 0, long = 0)
@@ -43,30 +44,17 @@ class NoMultiplyableMatrixException : public MatrixException {
     using MatrixException::MatrixException;
 };
 
-// A matrix that has no inverse was to be inverted.
+// The matrix to invert has no inverse.
 class SingularMatrix3DException : public MatrixException {
   public:
     using MatrixException::MatrixException;
 };
 
-// A point lies in the plane that a projective matrix sends to infinity.
+// The point lies in the plane that a projective matrix sends to infinity.
 class VectorInFocusException : public MatrixException {
   public:
     using MatrixException::MatrixException;
-    // The sixteen values of the offending matrix may be told; they are not kept.
+    // The sixteen values of the offending matrix are ignored.
     VectorInFocusException(unsigned long resourceID, const float* /*values*/)
         : MatrixException(resourceID) {}
 };
-
-// The library that throws them offers them under its own name too.
-namespace math {
-using ::InvalidMatrixSizeException;
-using ::MathException;
-using ::MatrixDifferentSizesException;
-using ::MatrixException;
-using ::MatrixIndexOutOfRangeException;
-using ::NoMultiplyableMatrixException;
-using ::NotSquareMatrixException;
-using ::SingularMatrix3DException;
-using ::VectorInFocusException;
-} // namespace math

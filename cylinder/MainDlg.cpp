@@ -74,7 +74,7 @@ std::string MainDlg::get_name() const {
     return product_name;
 }
 
-bool MainDlg::is_distributor() {
+bool MainDlg::is_distributor() const {
     return true;
 }
 
@@ -130,15 +130,11 @@ void MainDlg::enable_distance() {
     for (int id : regular_placement_items) enable_item(id, regular);
 }
 
-void MainDlg::get_dims(double* x, double* y, double* z) const {
-    constexpr double smallest = 9.999999974752427e-07; // the float nearest 1e-6: no divisor is 0
-    *x = std::max<double>(smallest, number(item_size_x));
-    *y = std::max<double>(smallest, number(item_size_y));
-    *z = std::max<double>(smallest, number(item_size_z));
-}
-
 void MainDlg::get_dims(math::TGeomVector3D<double>* dims) const {
-    get_dims(&dims->x, &dims->y, &dims->z);
+    constexpr double smallest = 9.999999974752427e-07; // the float nearest 1e-6: no divisor is 0
+    dims->x = std::max<double>(smallest, number(item_size_x));
+    dims->y = std::max<double>(smallest, number(item_size_y));
+    dims->z = std::max<double>(smallest, number(item_size_z));
 }
 
 CylinderOptions MainDlg::read_options() const {
@@ -164,43 +160,15 @@ CylinderOptions MainDlg::read_options() const {
 A_Err MainDlg::get_layers_pos() {
     if (layers.empty()) return A_Err_NONE;
     constrain_layers();
-    struct Pass { // over, whatever ends it
-        std::optional<CylinderOptions>& options;
-        ~Pass() { options.reset(); }
-    } pass{_options};
-    _options = read_options();
-    if (_options->distribute_randomly)
-        pos_randomly();
-    else
-        pos_use_dist();
-    orient_layers();
-    if (_options->scale_to_fit) scale_layers_to_fit();
-    if (_options->scale_to_size) scale_layers_conform();
+    const CylinderOptions options = read_options();
+    if (options.distribute_randomly) {
+        math::SetRand(std::time(nullptr));
+        pos_randomly(layers, options);
+    } else {
+        pos_use_dist(layers, options);
+    }
+    orient_layers(layers, options, camera_orient);
+    if (options.scale_to_fit) scale_layers_to_fit(layers, options);
+    if (options.scale_to_size) scale_layers_conform(layers, options);
     return A_Err_NONE;
-}
-
-void MainDlg::pos_use_dist() {
-    ::pos_use_dist(layers, options());
-}
-
-void MainDlg::pos_randomly() {
-    math::SetRand(std::time(nullptr));
-    ::pos_randomly(layers, options());
-}
-
-void MainDlg::orient_layers() {
-    ::orient_layers(layers, options(), camera_orient);
-}
-
-void MainDlg::scale_layers_to_fit() {
-    ::scale_layers_to_fit(layers, options());
-}
-
-void MainDlg::scale_layers_conform() {
-    ::scale_layers_conform(layers, options());
-}
-
-double MainDlg::downscale(const math::TGeomVector3D<double>& p1,
-                          const math::TGeomVector3D<double>& p2) const {
-    return ::downscale(p1, p2, options().size);
 }

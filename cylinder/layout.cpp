@@ -10,8 +10,8 @@ namespace {
 
 enum class Kind { button, popup, text, edit, check, radio, frame };
 
-// Places are told as the builder takes them: top, left, height, width. Texts are sized by their
-// words, check boxes and radio buttons by their label, so that only their corner counts.
+// Rectangles are in the builder's order: top, left, height, width. Texts, check boxes and radio
+// buttons take the size of their words, so that only their corner counts.
 struct Row {
     Kind kind;
     int id;
@@ -157,6 +157,7 @@ void build_layout(BaseDlg& dialog) {
     for (const Row& row : rows) build(dialog, row);
 
     char label[64]; // the blanks make room for a longer version
-    std::snprintf(label, sizeof label, "%s v%s          ", product_name, product_version);
+    std::snprintf(label, sizeof label, "%s v%d.%d          ", product_name, product_version_major,
+                  product_version_minor);
     sADMItem->SetFont(dialog.add_static({420, 8}, label, item_version_label), bold_system_font);
 }

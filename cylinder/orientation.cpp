@@ -10,38 +10,17 @@ namespace {
 using Matrix = math::TMatrix3D<double>;
 using Vector = math::TGeomVector3D<double>;
 
-constexpr double pi = 3.141592653589793;
 constexpr double tiny = 1e-12;
 
-// The three angles that turn a layer's face (its z axis) into the direction `n`, in degrees; turned
-// round by half a turn about y for `inward`. `n` lies in the x-z plane, of length 1 or 0.
+// The angles in degrees that turn a layer's face (its z axis) into the direction `n`; turned round
+// by half a turn about y for `inward`. `n` lies in the x-z plane and has length 1 or 0.
 void orient_layer(const Vector& n, AEGP_StreamValue* out, bool inward) {
-    const Vector ex(1, 0, 0), ez(0, 0, 1);
-    const double heading_length = std::sqrt(n.x * n.x + n.z * n.z);
-    double theta = 0;
-    if (heading_length >= tiny) {
-        theta = math::acos(n.z / heading_length);
-        if (n.x < 0) theta = full_turn - theta;
-    }
-    const Vector a(std::cos(theta), 0, -std::sin(theta)); // the x axis after the heading
-    const Vector b = cross(n, a);
-    const Vector c = cross(n, ex);
-
-    double alpha = 0, beta, gamma = 0;
-    if (length(c) <= tiny) {
-        beta = signed_angle(a, ex, dot(b, cross(a, ex)));
-    } else {
-        const Vector p = cross(c, n).Normalized(); // the part of x across n
-        gamma = signed_angle(a, p, dot(cross(a, p), n));
-        const Vector turned_b = Matrix::BuildRotate(n, gamma) * b;
-        beta = signed_angle(ex, p, dot(cross(p, ex), turned_b));
-        alpha = ez ^ (Matrix::BuildRotate(turned_b, beta) * n);
-    }
+    const FacingAngles facing = facing_angles(n);
     AEGP_ThreeDVal& angles = out->val.three_d;
-    angles.x = -alpha * 180.0 / pi;
-    angles.y = beta * 180.0 / pi;
+    angles.x = -facing.x * 180.0 / pi;
+    angles.y = facing.y * 180.0 / pi;
     if (inward) angles.y += 180.0;
-    angles.z = gamma * 180.0 / pi;
+    angles.z = facing.z * 180.0 / pi;
 }
 
 // The direction away from the axis, in a frame whose z points towards the viewer.

@@ -1,11 +1,11 @@
 // Any text as a file of actions: refused with its place, or carried out on a small scene, where an
-// action that cannot be done tells so. What would write files is left out.
+// action that cannot be done is reported. What would write files is left out.
 
 #include "fuzz/Bytes.h"
 #include "minihost/actions/ActionFile.h"
+#include "minihost/dialog/Picture.h"
 #include "minihost/model/SceneReader.h"
-#include "minihost/view/PictureFile.h"
-#include "minihost/view/preview.h"
+#include "minihost/preview/Preview.h"
 
 #include <sstream>
 
@@ -16,10 +16,34 @@ namespace minihost {
 std::string encode_png(const Picture&) {
     return {};
 }
-void render_preview(const Scene&, const std::string&, double) {}
+void write_preview(const Scene&, const std::string&, double) {}
 } // namespace minihost
 
 namespace {
+
+// Of a host without a display: panels have no view, and there is never a dialog.
+class NullDialogDriver : public DialogDriver {
+  public:
+    std::unique_ptr<PanelView> make_panel() override { return blind_panels()(); }
+    bool has_floating_dialog() const override { return false; }
+    bool floating_dialog_is_visible() const override { return false; }
+    std::string floating_dialog_title() const override { return {}; }
+    std::vector<Control> controls(const PanelView*) override { return {}; }
+    Picture picture(const PanelView*, double) override { return {}; }
+    void set(const PanelView*, int, const std::string& name, const std::string&) override {
+        throw ControlError("control '" + name + "': the host has no display");
+    }
+    void click(const PanelView* panel, int id, const std::string& name) override {
+        set(panel, id, name, "");
+    }
+    void post(const PanelView*, const RawEvent&) override {
+        throw ControlError("the host has no display");
+    }
+    void settle() override {}
+    void answer_next_alert(int) override {}
+    std::vector<std::string> new_alerts() override { return {}; }
+    void with_pool(const std::function<void()>& body) override { body(); }
+};
 
 bool writes_files(const ParsedAction& step) {
     const std::string_view name = step.action->name;
@@ -32,7 +56,7 @@ void carry_out(const std::vector<ParsedAction>& steps) {
                         {"name": "A", "kind": "shape", "three_d": true},
                         {"name": "B C", "kind": "camera"}], "selection": [0]})",
                                 "small"),
-                    {}, make_blind_screen(), out, [](const std::string&) {});
+                    {}, std::make_unique<NullDialogDriver>(), out, [](const std::string&) {});
     for (const ParsedAction& step : steps) {
         if (writes_files(step)) continue;
         try {

@@ -41,14 +41,14 @@ void clip_polygon(fuzz::Bytes& bytes, const Rectangle& r) {
     for (Point& p : points) p = {bytes.number(), bytes.number()};
 
     std::vector<Point> clipped = points;
-    clipped.resize(std::max(given, math::most_clipped_vertices)); // and not one more
+    clipped.resize(std::max(given, math::max_clipped_vertices)); // and not one more
     int count = given;
     const bool is_left = math::polygon_clip(r.a, r.b, r.c, r.d, clipped.data(), count);
-    if (given < 0 || given > math::most_vertices_to_clip) {
+    if (given < 0 || given > math::max_vertices_to_clip) {
         fuzz::require(!is_left && count == given, "refused, nothing is changed");
         return;
     }
-    fuzz::require(0 <= count && count <= math::most_clipped_vertices, "as many as can be");
+    fuzz::require(0 <= count && count <= math::max_clipped_vertices, "as many as can be");
     fuzz::require(is_left == (count > 0), "told whether something is left");
     if (!tame(r, points)) return;
 

@@ -6,9 +6,9 @@
 namespace {
 
 void show_and_read(float shown) {
-    char text[adm::most_number_text];
+    char text[adm::max_number_text];
     std::memset(text, 'x', sizeof text);
-    fuzz::require(adm::float_to_text(shown, text), "every number has a text");
+    adm::float_to_text(shown, text);
     fuzz::require(std::memchr(text, 0, sizeof text), "the text fits its place");
     const std::string_view whole = text;
     if (std::isfinite(shown) && whole.find('.') != whole.npos)

@@ -10,11 +10,11 @@ namespace math {
 namespace {
 
 using Point = TGeomVector2D<double>;
-using Buffer = std::array<Point, most_clipped_vertices>;
+using Buffer = std::array<Point, max_clipped_vertices>;
 
 constexpr double vertical = 1e-12; // a segment narrower than this has no slope
 
-// x and y ranges of the rectangle. It is handed on, so that clipping is re-entrant.
+// The x and y ranges of the rectangle. Passed as an argument, so that clipping is re-entrant.
 struct ClipRectangle {
     double rxg1, rxg2, ryg1, ryg2;
 
@@ -47,7 +47,7 @@ void intersect(const ClipRectangle& r, double& x, double& y, double x1, double y
                                       : r.ryg2;
     (x_edge ? x : y) = at;
     if (std::fabs(x2 - x1) < vertical) {
-        // An x edge is only crossed by a segment with a side to either hand, however narrow.
+        // Only a segment with an end on either side, however narrow, crosses an x edge.
         if (x_edge)
             y = x1 == x2 ? y1 : y1 + (y2 - y1) * ((at - x1) / (x2 - x1));
         else
@@ -61,8 +61,8 @@ void intersect(const ClipRectangle& r, double& x, double& y, double x1, double y
         x = k == 0 ? x1 : (at - m) / k;
 }
 
-// One pass: what of the polygon lies inside one edge. `out` is large enough for three vertices
-// from every two.
+// One pass: the part of the polygon inside one edge. `out` has room for three vertices from every
+// two.
 void clip_edge(const ClipRectangle& r, const Buffer& in, Buffer& out, int count, int& out_count,
                Edge edge) {
     out_count = 0;
@@ -80,8 +80,8 @@ void clip_edge(const ClipRectangle& r, const Buffer& in, Buffer& out, int count,
 } // namespace
 
 bool polygon_clip(double a, double b, double c, double d, Point* vertices, int& count) {
-    if (count > most_vertices_to_clip || count < 0) return false;
-    // What a pass makes may be more than the result: it stays out of the caller's array.
+    if (count > max_vertices_to_clip || count < 0) return false;
+    // A pass may make more vertices than the result has, so it does not use the caller's array.
     const ClipRectangle rectangle(a, b, c, d);
     Buffer here, there;
     std::copy_n(vertices, count, here.begin());
@@ -98,7 +98,7 @@ bool polygon_clip(double a, double b, double c, double d, Point* vertices, int& 
 bool line_clip(double a, double b, double c, double d, const Point& p, const Point& v, Point* out,
                int& count) {
     const ClipRectangle r(a, b, c, d);
-    const Point at = p; // may be one of those that are written
+    const Point at = p; // p may lie in `out`
     if (std::fabs(v.x) < vertical) {
         if (!(r.rxg1 <= at.x && at.x <= r.rxg2)) return false;
         out[0] = {at.x, r.ryg1};

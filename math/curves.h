@@ -1,4 +1,4 @@
-// Interpolation, and the search for a root. Curves take vectors of either kind or plain numbers.
+// Interpolation, and the search for a root. Curves take vectors of either kind or doubles.
 
 #pragma once
 
@@ -7,18 +7,13 @@
 
 namespace math {
 
-// The point at the share s of the way from a to b; s beyond [0, 1] goes beyond them.
+// The point that far on the way from a (s = 0) to b (s = 1); s may lie beyond [0, 1].
 template <typename V>
 V LinApprox(const V& a, const V& b, double s) {
     return a + (b - a) * s;
 }
 
-inline double LinApprox(double a, double b, double s) {
-    return LinApprox<double>(a, b, s);
-}
-
-// The cubic that runs from p0 at s = 0 to p1 at s = 1 with the tangents t0 and t1 there (Hermite's
-// form).
+// The cubic from p0 at s = 0 to p1 at s = 1 with the tangents t0 and t1 there (Hermite's form).
 template <typename V>
 V HermitSpline(const V& p0, const V& p1, const V& t0, const V& t1, double s) {
     const double r = 1 - s;
@@ -26,21 +21,17 @@ V HermitSpline(const V& p0, const V& p1, const V& t0, const V& t1, double s) {
            LinApprox(t0, V(-t1), s) * (s * r);
 }
 
-inline double HermitSpline(double p0, double p1, double t0, double t1, double s) {
-    return HermitSpline<double>(p0, p1, t0, t1, s);
-}
-
-// A root of f in [a, b], where f(a) and f(b) differ in sign, to within 1e-12 |root| + tol / 2:
-// zeroin of Forsythe, Malcolm and Moler, Computer Methods for Mathematical Computations, 1977,
-// after Brent. f is called with a and b first. Without a change of sign, some point of [a, b]
-// comes out; the search ends in any case.
+// A root of f in [a, b], where f(a) and f(b) differ in sign, to within 2e-12 |root| + tol: zeroin
+// of Forsythe, Malcolm and Moler, Computer Methods for Mathematical Computations, 1977, after
+// Brent. f is called with a and b first. Without a change of sign the result is some point of
+// [a, b]; the search always ends.
 template <typename Function>
 double Zeroin(double a, double b, Function&& f, double tol) {
-    constexpr int most_steps = 10000; // bisection alone needs some 2100 for all doubles
+    constexpr int max_steps = 10000; // bisection alone needs some 2100 for all doubles
     double fa = f(a);
     double fb = f(b);
     double c = a, fc = fa, d = b - a, e = d; // the root lies between b, the best so far, and c
-    for (int step = 0; step < most_steps; ++step) {
+    for (int step = 0; step < max_steps; ++step) {
         if (std::fabs(fc) < std::fabs(fb)) {
             a = b, b = c, c = a;
             fa = fb, fb = fc, fc = fa;

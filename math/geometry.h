@@ -1,10 +1,10 @@
 // Clipping and point tests of the plane; measures, intersections and a displacement step in space.
 // Interpolation and the search for a root, in math/curves.h, come along.
 //
-// Polygons are arrays of vertices with a count, closed by the edge from the last to the first. A
-// count too small for what is asked is answered, never read beyond. Intersections return false and
-// leave their results untouched when there is none, and when an input is not a number. Lengths up
-// to 1e-12 count as none. No function throws, and all but Fract may run side by side.
+// Polygons are arrays of vertices with a count, closed by the edge from the last to the first; any
+// count is safe. Intersections return false and leave their results untouched when there is none,
+// and when an input is NaN. Lengths up to 1e-12 count as 0. No function throws, and all but Fract
+// are thread-safe.
 
 #pragma once
 
@@ -19,23 +19,23 @@ namespace math {
 // A rectangle is given as (a, b, c, d) = top, left, bottom, right, or with opposite sides
 // exchanged: x runs from min(b, d) to max(b, d), y from min(a, c) to max(a, c).
 
-// The most vertices that polygon_clip takes, and that it can make of them: a pass adds at most one
-// to every two.
-inline constexpr int most_vertices_to_clip = 19;
-inline constexpr int most_clipped_vertices = 94;
+// The most vertices that polygon_clip takes, and the most that it can make of them: a pass adds at
+// most one to every two.
+inline constexpr int max_vertices_to_clip = 19;
+inline constexpr int max_clipped_vertices = 94;
 
 // Clips the polygon to the rectangle (Sutherland and Hodgman, Reentrant Polygon Clipping, 1974),
 // against y >= min, y <= max, x >= min and x <= max in turn; points on the boundary stay. The
 // vertices and their count are replaced: there must be room for the result, which for a convex
-// polygon has at most 4 vertices more, and never more than most_clipped_vertices. False when
+// polygon has at most 4 vertices more, and never more than max_clipped_vertices. False when
 // nothing is left (a count of 0), and, with nothing changed, for more than 19 vertices or a
 // negative count.
 bool polygon_clip(double a, double b, double c, double d, TGeomVector2D<double>* vertices,
                   int& count);
 
-// Clips the line p + t * v, infinite to both sides. One along an axis gives the two points on the
-// sides of the rectangle; of any other the points on the left and the right side are clipped as a
-// polygon of two, in which a point where the line enters or leaves comes twice: give `out` room
+// Clips the line p + t * v, infinite in both directions. One along an axis gives the two points on
+// the sides of the rectangle; for any other the points on the left and the right side are clipped
+// as a polygon of two, in which points where the line enters or leaves come twice: give `out` room
 // for 9. False when the line misses; for one along an axis, `out` and `count` are untouched then.
 bool line_clip(double a, double b, double c, double d, const TGeomVector2D<double>& p,
                const TGeomVector2D<double>& v, TGeomVector2D<double>* out, int& count);
@@ -53,18 +53,18 @@ struct Pyramid3D {
 };
 
 // Whether the point lies in the pyramid's outline seen along x and along z: (z, y) in the triangle
-// of V1, V2, V0 and (x, y) in that of V2, V3, V0. Right for an upright pyramid on a rectangle along
+// of V1, V2, V0 and (x, y) in that of V2, V3, V0. Exact for an upright pyramid on a rectangle along
 // the axes.
 bool PyramidContainsPoint(const Pyramid3D& pyramid, const TGeomVector3D<double>& point);
 
 // -- Measures ---------------------------------------------------------------------------------
 
-// The mean of n points; of none, NaN.
+// The mean of n points; NaN for n = 0.
 TGeomVector3D<double> compute_center(const TGeomVector3D<double>* points, int n);
 
-// The unit normal of a polygon, also of one that is not quite plane (Newell's method: Sutherland,
-// Sproull and Schumacker, 1974). It points to the viewer who sees the vertices clockwise; (0, 0, 0)
-// when there is no area.
+// The unit normal of a polygon, which need not be quite plane (Newell's method: Sutherland, Sproull
+// and Schumacker, 1974). It points to the viewer who sees the vertices clockwise; (0, 0, 0) when
+// there is no area.
 TGeomVector3D<double> compute_normal(const TGeomVector3D<double>* points, int n);
 
 // The distance of b from the plane through a with the unit normal n.
@@ -86,18 +86,18 @@ bool intersect(const TGeomVector3D<double>& p, const TGeomVector3D<double>& v,
                const TGeomVector3D<double>& q, const TGeomVector3D<double>& n,
                TGeomVector3D<double>& out);
 
-// The same for the ray t >= 0, also telling t.
+// The same for the ray t >= 0; also returns t.
 bool intersect(const TGeomVector3D<double>& p, const TGeomVector3D<double>& v,
                const TGeomVector3D<double>& q, const TGeomVector3D<double>& n,
                TGeomVector3D<double>& out, double& t);
 
-// The ray p + t * v with the ellipsoid of the radii r around the origin: the nearest hit ahead,
-// from inside the one on the way out. A ray that only touches misses.
+// The ray p + t * v with the ellipsoid of the radii r around the origin: the nearest hit ahead;
+// from inside, the one on the way out. A ray that only touches misses.
 bool intersect(const TGeomVector3D<double>& p, const TGeomVector3D<double>& v,
                const TGeomVector3D<double>& r, TGeomVector3D<double>& out);
 
-// The line in which the plane through pA with normal nA meets the one through pB with normal nB: a
-// point of it and its unit direction nA x nB. False when they are parallel.
+// The line in which the plane through pA with normal nA meets the one through pB with normal nB:
+// one of its points and its unit direction nA x nB. False when they are parallel.
 bool intersect(const TGeomVector3D<double>& pA, const TGeomVector3D<double>& nA,
                const TGeomVector3D<double>& pB, const TGeomVector3D<double>& nB,
                TGeomVector3D<double>& point, TGeomVector3D<double>& direction);

@@ -16,7 +16,7 @@ using Point = TGeomVector2D<double>;
 
 constexpr double parallel = 1e-12;
 
-// How far along p + t * v the plane is; nothing when they are parallel.
+// The t where the line p + t * v meets the plane; false when they are parallel.
 bool reach_plane(const Vector& p, const Vector& v, const Vector& q, const Vector& n, double& t) {
     const double along = dot(v, n);
     if (!(std::fabs(along) >= parallel)) return false;
@@ -32,8 +32,7 @@ Vector first_direction(const Vector* polygon, int count) {
     return direction;
 }
 
-// A frame from BuildHMatrix leads outward; its columns are at right angles, so that they lead
-// inward by products with them.
+// The plane coordinates of p in a frame from BuildHMatrix, whose columns are at right angles.
 Point in_frame(const TMatrix3D<double>& frame, const Vector& p) {
     const Vector from_origin = p - Vector(frame(0, 3), frame(1, 3), frame(2, 3));
     return {dot(Vector(frame(0, 0), frame(1, 0), frame(2, 0)), from_origin),
@@ -45,8 +44,8 @@ struct Span {
 };
 
 // The parts of a line in the plane of a polygon that lie inside it, or on its boundary, as ranges
-// of t. By the even-odd rule with the line moved hardly to one side, then to the other: together
-// they have the edges along the line and the corners that it touches.
+// of t: by the even-odd rule with the line moved a little to one side, then to the other. Together
+// these include edges along the line and corners that it touches.
 std::vector<Span> spans_inside(const Vector* polygon, int count, const Vector& normal,
                                const Vector& point, const Vector& direction) {
     const Vector sideways = cross(normal, direction);
@@ -137,9 +136,8 @@ bool intersect(const Vector* polygon, int count, const Vector& a, const Vector& 
     std::transform(polygon, polygon + count, std::back_inserter(outline),
                    [&](const Vector& v) { return in_frame(frame, v); });
     if (!PolygonContainsPoint(outline.data(), count, in_frame(frame, hit))) return false;
-    const auto counted = [](double length) { return length <= smallest_length ? 0 : length; };
-    const double reach = std::trunc(counted(length(b - a)));
-    if (!(reach >= counted(length(hit - a)) && reach >= counted(length(hit - b)))) return false;
+    const double reach = std::trunc(counted_length(b - a));
+    if (!(reach >= counted_length(hit - a) && reach >= counted_length(hit - b))) return false;
     out = hit;
     return true;
 }

@@ -5,16 +5,15 @@
 // column 3, row 3 is the projective row; (A * B) * p applies B first. Angles are radians, and a
 // rotation is counter-clockwise when seen from the tip of its axis (right-handed).
 //
-// Beside its elements a matrix keeps what is known of it, so that products can take short cuts:
+// A matrix also keeps flags, with which products take short cuts:
 //   0                          general: projective, or with a block that is not orthonormal
 //   rigid_flag (1)             row 3 is exactly (0, 0, 0, 1) and the 3 x 3 block is orthonormal
 //   rigid_flag|identity_flag   exactly the identity
-// Whoever writes elements calls setFlags() afterwards; every operation here keeps the flags right.
+// Call setFlags() after writing elements; every operation here keeps the flags right.
 
 #pragma once
 
 #include "core/MathExceptions.h"
-#include "math/pair.h"
 #include "math/vector.h"
 
 #include <cassert>
@@ -33,7 +32,7 @@ class TMatrix3D {
     // The identity.
     constexpr TMatrix3D()
         : _m{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1}, _flags(rigid_flag | identity_flag) {}
-    // The sixteen elements in row-major order; the flags are worked out.
+    // The sixteen elements in row-major order; computes the flags.
     TMatrix3D(T m00, T m01, T m02, T m03, T m10, T m11, T m12, T m13, T m20, T m21, T m22, T m23,
               T m30, T m31, T m32, T m33)
         : _m{m00, m01, m02, m03, m10, m11, m12, m13, m20, m21, m22, m23, m30, m31, m32, m33} {
@@ -56,30 +55,30 @@ class TMatrix3D {
         return _m[4 * row + column];
     }
 
-    std::uint16_t flags() const { return _flags & (rigid_flag | identity_flag); }
+    std::uint16_t flags() const { return _flags; }
     bool is_rigid() const { return _flags & rigid_flag; }
     bool is_identity() const { return _flags & identity_flag; }
-    // Works the flags out from the elements. Lengths of rows may differ from 1 by 2^-23, their
-    // products from 0 by hardly anything: a rotation about an oblique axis is seldom called rigid.
+    // Computes the flags from the elements. Squared lengths of rows may differ from 1 by 2^-23,
+    // their products from 0 by next to nothing: a rotation about an oblique axis is seldom rigid.
     void setFlags();
 
     // The image of the point v. Throws VectorInFocusException when a general matrix sends it to
     // infinity (the divisor is exactly 0).
     Vector operator*(const Vector& v) const;
-    // The matrix that applies b first. Each element is summed from column 3 of this down to 0,
-    // starting from 0.0; the product of two rigid matrices is called rigid even if it is the
-    // identity. With an identity, the result is a copy of the other one.
+    // The matrix that applies b first. With an identity it is a copy of the other one; the product
+    // of two other rigid matrices is flagged rigid, even if it is the identity. The additions have
+    // a fixed order, so that every platform gets the same bits.
     TMatrix3D operator*(const TMatrix3D& b) const;
 
     // The image of the direction v: that of the point v less that of the origin, without the
     // translation. Throws VectorInFocusException like the product with a point.
     Vector operator&(const Vector& v) const;
 
-    // Whether no two elements differ by more than the accuracy, relative to the larger of them;
-    // flags do not matter. A difference that is no number (a NaN, two infinities) is none.
+    // Whether no two elements differ by more than the accuracy, relative to the larger of them.
+    // Flags do not matter; a NaN or an infinity equals everything.
     bool operator==(const TMatrix3D& b) const;
-    // Sets the accuracy of all comparisons and returns it; with 0.0, only tells it. It starts as
-    // 0.0, with which equality is exact.
+    // Sets the accuracy of all comparisons and returns it; 0.0 only returns it. It starts as 0.0,
+    // with which equality is exact.
     static T Accuracy(T a);
 
     // -- Builders (math/matrix_build.h) ------------------------------------------------------
@@ -87,23 +86,23 @@ class TMatrix3D {
     // A translation by t.
     static TMatrix3D BuildShift(const Vector& t);
     static TMatrix3D BuildScale(T sx, T sy, T sz);
-    // Vanishing points at px, py and pz on the axes; 0 is none on that axis. Always general.
+    // Vanishing points at px, py and pz on the axes; 0 means none on that axis. Always general.
     static TMatrix3D BuildPerspective(T px, T py, T pz);
     // A rotation about an axis of any length through the origin. The axis (0, 0, 0), or one no
     // longer than 1e-12, gives the scale cos(angle).
     static TMatrix3D BuildRotate(Vector axis, T angle);
-    // The rotation by -angle, always called rigid.
+    // The rotation by -angle, always flagged rigid.
     static TMatrix3D BuildLRotate(Vector axis, T angle);
-    // A rotation about the line through p along the axis; always called general.
+    // A rotation about the line through p along the axis; always flagged general.
     static TMatrix3D BuildRotate(const Vector& p, const Vector& axis, T angle);
     // Rz(e.x) * Ry(-e.y) * Rx(e.z).
     static TMatrix3D BuildEuler(const Vector& e);
-    // The frame with the columns a, b x a, b and the origin o: it leads from coordinates in the
-    // frame to those outside.
+    // The frame with the columns a, b x a, b and the origin o: maps coordinates in the frame to
+    // those outside.
     static TMatrix3D BuildHMatrix(const Vector& a, const Vector& b, const Vector& o);
-    // What turns the direction of a into that of b and scales by |b| / |a|, so that a goes to b.
-    // Opposite vectors turn about some axis at right angles to them. Lengths up to 1e-12 count as
-    // 0 and follow the rules of the division: a of no length gives infinities or NaNs.
+    // Maps a to b: a rotation and a scale by |b| / |a|. Opposite vectors turn about some axis at
+    // right angles to them. Lengths up to 1e-12 count as 0; if that of a does, the elements are
+    // infinite or NaN.
     static TMatrix3D BuildRotateScale(const Vector& a, const Vector& b);
 
     // -- Relations of two matrices (math/matrix_relate.h) ------------------------------------
@@ -115,41 +114,37 @@ class TMatrix3D {
     // The unit axis and the angle in [0, pi] of the rotation Rot(b) * Rot(a)^-1; the axis Ez and 0
     // when there is none.
     static void BuildRotate(const TMatrix3D& a, const TMatrix3D& b, Vector& axis, T& angle);
-    // The unit axis of the rotation of m, with its angle in (-pi, pi]: BuildRotate(axis, angle)
+    // The unit axis of the rotation of m, with its angle in [-pi, pi]: BuildRotate(axis, angle)
     // gives Rot(m) again. Ez and 0 when m does not rotate, or by less than about 1e-6.
     static Vector getRotationAxis(const TMatrix3D& m, T& angle);
 
     // -- Parts (math/matrix_parts.h) ---------------------------------------------------------
 
-    // The images of the unit vectors as directions. They throw VectorInFocusException when the
-    // unit point is sent to infinity; an element (3, 3) of 0 gives infinities or NaNs.
+    // The images of the unit vectors as directions. Throw VectorInFocusException when the unit
+    // point is sent to infinity; an element (3, 3) of 0 gives infinities or NaNs.
     Vector X() const { return column_image(0); }
     Vector Y() const { return column_image(1); }
     Vector Z() const { return column_image(2); }
     // The lengths of the first three columns of the 3 x 3 block.
     Vector Scale() const;
     // The block with columns of length 1, without translation; a column of length 0 becomes the
-    // unit column of its place. Called rigid, whether its columns are at right angles or not.
+    // unit column of its place. Flagged rigid, whether its columns are at right angles or not.
     TMatrix3D Rotate() const;
 
-    // Exchanges rows and columns of all sixteen elements. The flags stay.
+    // Swaps rows and columns of all sixteen elements. The flags stay.
     void Transpose();
     TMatrix3D Transposed() const;
 
     // -- Inverse (math/matrix_inverse.h) -----------------------------------------------------
 
     // Gauss-Jordan elimination with full pivoting for a general matrix, the transposed block for a
-    // rigid one. Throws SingularMatrix3DException when there is no inverse (or a NaN prevents it);
-    // the elements of this are no longer those of before then.
+    // rigid one. Throws SingularMatrix3DException when there is no inverse (or a NaN prevents it)
+    // and then leaves the elements half changed.
     void Inverse();
     TMatrix3D Inversed() const;
 
   private:
     inline static T acc = 0;
-
-    // Beside the rigid flag: row 3 is not (0, 0, 0, 1), since the matrix comes from a transposed
-    // one or has elements that are not finite. Products then take no short cut through it.
-    static constexpr std::uint16_t odd_last_row = 4;
 
     static bool near_one(T x) { return x >= T(0.9999998807907104) && x <= T(1.0000001192092896); }
     static bool near_zero(T x) { return x >= -T(smallest_float) && x <= T(smallest_float); }
@@ -159,24 +154,15 @@ class TMatrix3D {
     }
     Vector column_image(int c) const;
     static Vector fixed_axis(const TMatrix3D& rotation, T negligible, T& largest);
-    struct Unfilled {};
-    explicit TMatrix3D(Unfilled) {}
-
-    Vector general_image(const Vector& v) const;
-    [[noreturn]] static void throw_in_focus();
-    TMatrix3D general_product(const TMatrix3D& b) const;
-    bool rigid_product(const TMatrix3D& b, Pair<T> (&rows)[8]) const;
-    void note_last_row();
     void invert_rigid();
     void invert_general();
-    [[noreturn]] static void throw_singular();
 
     // The linear and translating part of row r applied to v.
     T row_times(int r, const Vector& v) const {
         return _m[4 * r] * v.x + _m[4 * r + 1] * v.y + _m[4 * r + 2] * v.z + _m[4 * r + 3];
     }
 
-    alignas(2 * sizeof(T)) T _m[16];
+    T _m[16];
     std::uint16_t _flags;
 };
 
@@ -196,13 +182,38 @@ void TMatrix3D<T>::setFlags() {
 }
 
 template <typename T>
+TGeomVector3D<T> TMatrix3D<T>::operator*(const Vector& v) const {
+    const Vector image(row_times(0, v), row_times(1, v), row_times(2, v));
+    if (_flags == rigid_flag) return image;
+    if (is_identity()) return v;
+    const T w = row_times(3, v);
+    if (w == 0) throw VectorInFocusException(0);
+    return image / w;
+}
+
+template <typename T>
+TMatrix3D<T> TMatrix3D<T>::operator*(const TMatrix3D& b) const {
+    if (is_identity()) return b;
+    if (b.is_identity()) return *this;
+    TMatrix3D product;
+    for (int r = 0; r < 4; ++r)
+        for (int c = 0; c < 4; ++c) {
+            T sum = 0; // makes a sum of negative zeros positive
+            for (int k = 3; k >= 0; --k) sum += _m[4 * r + k] * b._m[4 * k + c];
+            product._m[4 * r + c] = sum;
+        }
+    product._flags = _flags & b._flags & rigid_flag;
+    return product;
+}
+
+template <typename T>
 TGeomVector3D<T> TMatrix3D<T>::operator&(const Vector& v) const {
     if (is_identity()) return v;
     if (is_rigid())
         return {_m[0] * v.x + _m[1] * v.y + _m[2] * v.z, _m[4] * v.x + _m[5] * v.y + _m[6] * v.z,
                 _m[8] * v.x + _m[9] * v.y + _m[10] * v.z};
     const T w = row_times(3, v);
-    if (w == 0) throw_in_focus();
+    if (w == 0) throw VectorInFocusException(0);
     return {row_times(0, v) / w - _m[3] / _m[15], row_times(1, v) / w - _m[7] / _m[15],
             row_times(2, v) / w - _m[11] / _m[15]};
 }
@@ -227,6 +238,5 @@ T TMatrix3D<T>::Accuracy(T a) {
 #include "math/matrix_build.h"
 #include "math/matrix_inverse.h"
 #include "math/matrix_parts.h"
-#include "math/matrix_product.h"
 #include "math/matrix_relate.h"
 #include "math/plane_matrix.h"

@@ -1,5 +1,4 @@
-// The matrices that are built from vectors and numbers. Part of math/matrix.h, which tells what
-// each of them is.
+// Matrices built from vectors and numbers. Part of math/matrix.h, which documents them.
 
 #pragma once
 
@@ -41,22 +40,10 @@ template <typename T>
 TMatrix3D<T> TMatrix3D<T>::BuildRotate(Vector axis, T angle) {
     const auto [x, y, z] = axis.Normalize();
     const T c = std::cos(angle), s = std::sin(angle), t = 1 - c;
-    return {t * x * x + c,
-            t * x * y - s * z,
-            t * x * z + s * y,
-            0, //
-            t * x * y + s * z,
-            t * y * y + c,
-            t * y * z - s * x,
-            0, //
-            t * x * z - s * y,
-            t * y * z + s * x,
-            t * z * z + c,
-            0, //
-            0,
-            0,
-            0,
-            1};
+    return TMatrix3D(t * x * x + c, t * x * y - s * z, t * x * z + s * y, 0, //
+                     t * x * y + s * z, t * y * y + c, t * y * z - s * x, 0, //
+                     t * x * z - s * y, t * y * z + s * x, t * z * z + c, 0, //
+                     0, 0, 0, 1);
 }
 
 template <typename T>
@@ -87,22 +74,10 @@ TMatrix3D<T> TMatrix3D<T>::BuildEuler(const Vector& e) {
     const T ca = std::cos(e.x), sa = std::sin(e.x);
     const T cb = std::cos(e.y), sb = std::sin(e.y);
     const T cc = std::cos(e.z), sc = std::sin(e.z);
-    return {ca * cb,
-            -sa * cc - ca * sb * sc,
-            sa * sc - ca * sb * cc,
-            0, //
-            sa * cb,
-            ca * cc - sa * sb * sc,
-            -ca * sc - sa * sb * cc,
-            0, //
-            sb,
-            cb * sc,
-            cb * cc,
-            0, //
-            0,
-            0,
-            0,
-            1};
+    return TMatrix3D(ca * cb, -sa * cc - ca * sb * sc, sa * sc - ca * sb * cc, 0, //
+                     sa * cb, ca * cc - sa * sb * sc, -ca * sc - sa * sb * cc, 0, //
+                     sb, cb * sc, cb * cc, 0,                                     //
+                     0, 0, 0, 1);
 }
 
 template <typename T>
@@ -116,8 +91,7 @@ TMatrix3D<T> TMatrix3D<T>::BuildHMatrix(const Vector& a, const Vector& b, const 
 
 template <typename T>
 TMatrix3D<T> TMatrix3D<T>::BuildRotateScale(const Vector& a, const Vector& b) {
-    const auto counted = [](T length) { return length <= smallest_length ? 0 : length; };
-    const T k = counted(length(b)) / counted(length(a));
+    const T k = counted_length(b) / counted_length(a);
     const Vector from = a.Normalized(), to = b.Normalized();
     Vector axis = cross(from, to);
     // The arc tangent is the angle itself, exact also where the cosine is flat.

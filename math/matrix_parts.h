@@ -1,5 +1,5 @@
 // What a matrix is made of: its axes, scale and rotation, and its transpose. Part of
-// math/matrix.h, which tells what each function gives.
+// math/matrix.h, which documents the functions.
 
 #pragma once
 
@@ -13,7 +13,7 @@ template <typename T>
 TGeomVector3D<T> TMatrix3D<T>::column_image(int c) const {
     if (_flags) return {_m[c], _m[4 + c], _m[8 + c]};
     const T w = _m[15] + _m[12 + c];
-    if (w == 0) throw_in_focus();
+    if (w == 0) throw VectorInFocusException(0);
     return {(_m[3] + _m[c]) / w - _m[3] / _m[15], (_m[7] + _m[4 + c]) / w - _m[7] / _m[15],
             (_m[11] + _m[8 + c]) / w - _m[11] / _m[15]};
 }
@@ -41,7 +41,6 @@ void TMatrix3D<T>::Transpose() {
     if (is_identity()) return;
     for (int r = 0; r < 4; ++r)
         for (int c = 0; c < r; ++c) std::swap(_m[4 * r + c], _m[4 * c + r]);
-    if (is_rigid()) note_last_row();
 }
 
 template <typename T>

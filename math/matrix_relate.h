@@ -1,5 +1,5 @@
-// What turns one matrix into another: Euler angles, axis and angle. Part of math/matrix.h, which
-// tells what each function gives.
+// The rotation from one matrix to another, as Euler angles or axis and angle. Part of
+// math/matrix.h, which documents the functions.
 
 #pragma once
 
@@ -16,8 +16,8 @@ TGeomVector3D<T> TMatrix3D<T>::BuildEuler(const TMatrix3D& a, const TMatrix3D& b
     if (-pole <= sine && sine <= pole)
         return {std::atan2(turn._m[4], turn._m[0]), std::asin(sine),
                 std::atan2(turn._m[9], turn._m[10])};
-    // Here x + z (at the upper pole) or x - z is an angle up to whole turns. Of the two values on
-    // either side of the reference's the nearer is taken, and the way to it shared by x and z.
+    // Only x + z (at the upper pole) or x - z is fixed, up to whole turns. The value nearest to the
+    // reference's is taken, and x and z share the difference.
     const T sign = sine < 0 ? -1 : 1;
     const T wanted = reference.x + sign * reference.z;
     const T angle = std::atan2(-turn._m[1], turn._m[5]);
@@ -26,14 +26,14 @@ TGeomVector3D<T> TMatrix3D<T>::BuildEuler(const TMatrix3D& a, const TMatrix3D& b
 }
 
 // The axis that a rotation leaves in place, not yet of length 1: the kernel of the block less the
-// identity, by Cramer's rule from its largest cofactor, which is told. Components with a numerator
-// up to `negligible` are 0; without any rotation the axis is Ez.
+// identity, by Cramer's rule from its largest cofactor, which is returned too. Components with a
+// numerator up to `negligible` are 0; without any rotation the axis is Ez.
 template <typename T>
 TGeomVector3D<T> TMatrix3D<T>::fixed_axis(const TMatrix3D& rotation, T negligible, T& largest) {
     const auto element = [&](int r, int c) {
         return rotation._m[4 * (r % 3) + c % 3] - T(r % 3 == c % 3 ? 1 : 0);
     };
-    // Counting on cyclically gives the cofactor its sign.
+    // Cyclic indices give the cofactor its sign.
     const auto cofactor = [&](int r, int c) {
         return element(r + 1, c + 1) * element(r + 2, c + 2) -
                element(r + 1, c + 2) * element(r + 2, c + 1);

@@ -12,10 +12,6 @@ namespace {
 using Vector = TGeomVector3D<double>;
 using Point = TGeomVector2D<double>;
 
-double counted(double length) {
-    return length <= smallest_length ? 0 : length;
-}
-
 struct FloatPoint {
     float x, y;
     explicit FloatPoint(const Point& p) : x(static_cast<float>(p.x)), y(static_cast<float>(p.y)) {}
@@ -23,8 +19,8 @@ struct FloatPoint {
 
 enum class Hit { none, crossing, boundary };
 
-// What a ray from p toward +x meets of an edge. Only the upper end belongs to the edge for
-// crossings, so that a ray through a vertex counts one of its two edges when they go on.
+// How a ray from p toward +x meets an edge. For crossings an edge includes its upper end but not
+// its lower one, so that a ray through a vertex crosses one of two edges that go on.
 Hit ray_meets(const FloatPoint& p, FloatPoint low, FloatPoint high) {
     if (low.y > high.y) std::swap(low, high);
     if (low.y == high.y) {
@@ -76,7 +72,7 @@ Vector compute_normal(const Vector* points, int n) {
         normal.y += (before.x + here.x) * (here.z - before.z);
         normal.z += (before.y + here.y) * (here.x - before.x);
     }
-    // A small polygon is no polygon without a normal.
+    // Normalize would take the sum of a small polygon for zero.
     if (dot(normal, normal) < 1e-12) normal *= 1e12;
     return normal.Normalize();
 }
@@ -87,13 +83,13 @@ double dist_to_plane(const Vector& a, const Vector& n, const Vector& b) {
 
 double dist_to_line(const Vector& p, const Vector& v, const Vector& q) {
     const Vector w = p - q;
-    return counted(length(w - v * dot(w, v)));
+    return counted_length(w - v * dot(w, v));
 }
 
 bool DifVect(const Vector& a, const Vector& b, double threshold) {
     const double apart = length(a - b);
     if (apart <= smallest_length) return false;
-    return apart / std::max(counted(length(a)), counted(length(b))) >= threshold;
+    return apart / std::max(counted_length(a), counted_length(b)) >= threshold;
 }
 
 Vector Fract(const Vector& p, const Vector& a, const Vector& b, const Vector& c, const Vector& d) {

@@ -1,13 +1,13 @@
 // Value noise of the plane: numbers at the points of an integer lattice, blended in between.
-// LatticeVNoise2D has one lattice, VNoise2D the mean of it and one turned by 45 degrees, so that
+// LatticeVNoise2D uses one lattice, VNoise2D the mean of it and one turned by 45 degrees, so that
 // the axes do not show. Both only read constants: any thread may call them.
 //
 // All functions take a point (x, y) in cells, the seed that selects the lattice (FRandom), and the
 // weight k of the smoothing: 1 blends by the smoothstep 3t^2 - 2t^3, 0 linearly. Values are in
-// [0, 1] for k in [0, 1]. A gradient uses 4s(1 - s), s being the blended fraction, in place of the
-// derivative of the blending: it is 0 on the lattice, largest in the middle, and not the exact
-// derivative of the value. NaN or infinite coordinates give NaN; coordinates beyond 64 bits are
-// all in one cell.
+// [0, 1] for k in [0, 1]. A gradient uses 4s(1 - s), where s is the blended fraction, in place of
+// the derivative of the blending: it is 0 on the lattice, largest in the middle, and not the exact
+// derivative of the value. NaN or infinite coordinates give NaN; all coordinates beyond 64 bits
+// lie in the same cell.
 
 #pragma once
 
@@ -28,7 +28,7 @@ class LatticeVNoise2D {
         return Cell(x, y, seed, k).grad();
     }
 
-    // Both from one look at the lattice.
+    // Both from the same look-ups.
     static void get_value_and_grad(double x, double y, std::int64_t seed, double& value,
                                    TGeomVector2D<double>& gradient, double k = 1.0) {
         const Cell cell(x, y, seed, k);
@@ -37,47 +37,26 @@ class LatticeVNoise2D {
     }
 
   private:
-    // A coordinate: the number of its cell, that cell's row in the table of seeds and the next one,
-    // and the blended fraction in the cell.
-    struct Axis {
-        std::int64_t cell, row, next_row;
-        double s;
-
-        Axis(double x, double k) {
-            double f = x - x; // 0, or NaN when there is no cell at all
-            cell = std::numeric_limits<std::int64_t>::min();
-            if (x >= -0x1p63 && x < 0x1p63) {
-                // Truncation and a step down is quicker than a call of floor.
-                cell = static_cast<std::int64_t>(x);
-                cell -= x < static_cast<double>(cell);
-                f = x - static_cast<double>(cell);
-            }
-            s = k * (f * f) * (3 - 2 * f) + (1 - k) * f;
-            row = lattice_row(cell);
-            next_row = row == 126 ? 0 : row + 1;
-        }
-    };
-
-    // The lattice values at the corners of the cell around a point.
+    // The cell around a point: the blended fractions and the lattice values at its corners.
     struct Cell {
         double sx, sy, c00, c01, c10, c11;
 
         Cell(double x, double y, std::int64_t seed, double k) {
-            const Axis i(x, k), j(y, k);
-            sx = i.s;
-            sy = j.s;
-            const auto corner = [](std::uint64_t place, std::int64_t row, std::int64_t column) {
-                return ftable[(place + static_cast<std::uint64_t>(seeds2d[128 * row + column])) &
-                              0x1fff];
-            };
-            const std::uint64_t place =
-                static_cast<std::uint64_t>(seed) * static_cast<std::uint64_t>(i.cell) +
-                static_cast<std::uint64_t>(j.cell);
-            const std::uint64_t next = place + static_cast<std::uint64_t>(seed);
-            c00 = corner(place, i.row, j.row);
-            c01 = corner(place + 1, i.row, j.next_row);
-            c10 = corner(next, i.next_row, j.row);
-            c11 = corner(next + 1, i.next_row, j.next_row);
+            const std::int64_t i = cell_of(x), j = cell_of(y);
+            sx = blended(x - std::floor(x), k);
+            sy = blended(y - std::floor(y), k);
+            c00 = FRandom(i, j, seed);
+            c01 = FRandom(i, j + 1, seed);
+            c10 = FRandom(i + 1, j, seed);
+            c11 = FRandom(i + 1, j + 1, seed);
+        }
+
+        static std::int64_t cell_of(double x) {
+            if (!(x >= -0x1p63 && x < 0x1p63)) return std::numeric_limits<std::int64_t>::min();
+            return static_cast<std::int64_t>(std::floor(x));
+        }
+        static double blended(double f, double k) {
+            return k * (f * f) * (3 - 2 * f) + (1 - k) * f;
         }
 
         double value() const {
@@ -121,7 +100,7 @@ class VNoise2D {
   private:
     static constexpr double c = 0.7071067811865476; // the sine and cosine of 45 degrees
 
-    // The chain rule: the second gradient is one by the turned coordinates.
+    // The chain rule: the second gradient is in the turned coordinates.
     static TGeomVector2D<double> turned_back(const TGeomVector2D<double>& g1,
                                              const TGeomVector2D<double>& g2) {
         return {(c * g2.x + c * g2.y + g1.x) * 0.5, (-c * g2.x + c * g2.y + g1.y) * 0.5};

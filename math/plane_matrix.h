@@ -35,15 +35,8 @@ class TMatrix2D {
     // A rotation by the angle (radians) about the centre, counter-clockwise where y points up.
     static TMatrix2D BuildRotate(const Vector& center, T angle) {
         const T c = std::cos(angle), s = std::sin(angle);
-        return {c,
-                s,
-                0, //
-                -s,
-                c,
-                0, //
-                (1 - c) * center.x + s * center.y,
-                (1 - c) * center.y - s * center.x,
-                1};
+        const T x = (1 - c) * center.x + s * center.y, y = (1 - c) * center.y - s * center.x;
+        return {c, s, 0, -s, c, 0, x, y, 1};
     }
     // A scale about the origin.
     static TMatrix2D BuildScale(const Vector& s) { return {s.x, 0, 0, 0, s.y, 0, 0, 0, 1}; }

@@ -8,12 +8,6 @@ namespace {
 
 constexpr double two_pi = 6.283185307179586;
 
-constexpr std::int64_t derived_seed(std::int64_t seed) {
-    const std::int64_t sum =
-        static_cast<std::int64_t>(static_cast<std::uint64_t>(seed) * 214013 + 2531011);
-    return (sum >> 16) & 0x7fffffffffffffff;
-}
-
 } // namespace
 
 double Gauss() {
@@ -45,23 +39,9 @@ void GaussRandom::do_next() {
 }
 
 std::int64_t GetRandomSeed(std::int64_t seed, std::int64_t n) {
-    // A cycle is found when the seed comes back to the one kept at the last power of two (Brent's
-    // method); whole turns of it are left out then.
-    std::int64_t kept = seed;
-    std::int64_t steps_since = 0, power = 1;
-    bool in_cycle = false;
     for (; n > 0; --n) {
-        seed = derived_seed(seed);
-        if (in_cycle) continue;
-        ++steps_since;
-        if (seed == kept) {
-            n = (n - 1) % steps_since + 1;
-            in_cycle = true;
-        } else if (steps_since == power) {
-            kept = seed;
-            steps_since = 0;
-            power *= 2;
-        }
+        const std::uint64_t sum = static_cast<std::uint64_t>(seed) * 214013 + 2531011;
+        seed = (static_cast<std::int64_t>(sum) >> 16) & 0x7fffffffffffffff;
     }
     return seed;
 }

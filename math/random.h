@@ -1,11 +1,11 @@
-// The process-wide generator that arrangements are drawn from, the same recurrence on an object of
-// its own, normal values, and the lattice hash behind the value noise.
+// The process-wide random generator, the same recurrence as an object, normal values, and the
+// lattice hash behind the value noise.
 //
 // A sequence is a format: state' = (a * state + c) mod 2^63, a linear congruential generator with
 // a = 5 (mod 8) and odd c, so of full period (Knuth, The Art of Computer Programming, 3.2.1; the
 // choice of a and c from pi and the square root of 3 is that of Forsythe, Malcolm and Moler's
-// URAND). A state s maps to the unit interval as s * 2^-63, rounded to double: 0 is in it, and so
-// is 1, which the 512 highest states round up to. Nothing here is locked.
+// URAND). A state s maps to the unit interval as s * 2^-63, rounded to double: 0 is possible, and
+// so is 1, which the 512 highest states round up to. Nothing here is locked.
 
 #pragma once
 
@@ -49,22 +49,22 @@ class RandomLong {
 // The state of the process-wide generator.
 extern std::int64_t IY;
 
-// Starts the sequence that belongs to the seed; any seed is valid.
+// Starts the sequence of the seed; any seed is valid.
 inline void SetRand(std::int64_t seed) {
     IY = seed;
 }
 
-// Draws an integer of [0, 2^63 - 1].
+// Draws an integer in [0, 2^63 - 1].
 inline std::int64_t LRand() {
     return IY = RandomLong::next(IY);
 }
 
-// Draws a number of [0, 1].
+// Draws a number in [0, 1].
 inline double Rand() {
     return static_cast<double>(LRand()) * RandomLong::S;
 }
 
-// Draws a number of [-range, range].
+// Draws a number in [-range, range].
 inline double Rand(double range) {
     return (2 * Rand() - 1) * range;
 }
@@ -102,12 +102,12 @@ class GaussRandom : public RandomNumber {
     double _first;
 };
 
-// Derives a further seed by repeating seed = ((seed * 214013 + 2531011) >> 16) without its sign
-// bit n times; n <= 0 gives the seed itself. The orbit is soon a cycle, so that any n ends.
+// Derives a further seed by taking n times seed = (seed * 214013 + 2531011) >> 16, without its
+// sign bit; n <= 0 gives the seed itself.
 std::int64_t GetRandomSeed(std::int64_t seed, std::int64_t n);
 
 // 128 x 128 seeds of [10000, 10000000], row-major, and 8192 numbers of [0, 1]. Both are the draws
-// that follow a fixed seed, worked out by the compiler, so they are there before any initialiser.
+// that follow a fixed seed, computed by the compiler, so they are there before any initialiser.
 using SeedIndexTable2D = std::array<std::int64_t, 128 * 128>;
 using RandomdoublesTable = std::array<double, 8192>;
 extern const SeedIndexTable2D seeds2d;

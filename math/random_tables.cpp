@@ -1,5 +1,5 @@
-// The tables of the lattice hash. They are constants of the program: no initialiser runs, so they
-// are right for whoever draws first, and filling them disturbs nobody's sequence.
+// The tables of the lattice hash. They are constants of the program: no initialiser fills them, so
+// they are right from the start, and filling them disturbs nobody's sequence.
 
 #include "math/random.h"
 
@@ -37,7 +37,7 @@ constexpr std::int64_t state_after_numbers() {
 constinit const SeedIndexTable2D seeds2d = make_seeds();
 constinit const RandomdoublesTable ftable = make_numbers();
 
-// Whoever never seeds goes on from where the tables ended.
+// Without a seed, the draws go on where those of the tables ended.
 constinit std::int64_t IY = state_after_numbers();
 
 } // namespace math

@@ -8,10 +8,10 @@ namespace math {
 
 namespace {
 
-// Each tile is taken as smaller by this on every side, so that neighbours may touch.
+// Each tile counts as smaller by this on every side, so that neighbours may touch.
 constexpr double shrink = 1e-12;
 
-// Where a length lies in a longer one around 0: at its lower end (0), middle (1) or upper end (2).
+// The centre of a tile at the lower end (0), middle (1) or upper end (2) of a range around 0.
 double aligned(int place, double tile, double whole) {
     return place == 0 ? tile / 2 - whole / 2 : place == 1 ? 0 : whole / 2 - tile / 2;
 }
@@ -27,8 +27,7 @@ TiledPlane::TiledPlane(double width, double height, int anchor, int cols, int ro
       _rows(std::max(rows, 0)),
       _anchor(anchor < 0 || anchor > 8 ? 0 : anchor),
       _cells(static_cast<std::size_t>(_cols) * static_cast<std::size_t>(_rows), true),
-      _next_cell(start_cell()),
-      _unvisited(static_cast<std::int64_t>(_cells.size())) {}
+      _next_cell(start_cell()) {}
 
 std::int64_t TiledPlane::start_cell() const {
     const std::int64_t cols = _cols, rows = _rows;
@@ -63,7 +62,6 @@ bool TiledPlane::put_tile(double w, double h, FPoint& center) {
                          p.y + h / 2 - shrink};
         const bool fits = has_room(tile);
         _cells[static_cast<std::size_t>(_next_cell)] = false;
-        --_unvisited;
         if (++_next_cell == static_cast<std::int64_t>(_cells.size())) _next_cell = 0;
         if (fits) {
             _placed.push_back(tile);

@@ -21,28 +21,28 @@ struct FRect {
 
 class TiledPlane {
   public:
-    // The anchor, 0..8 row by row from the top left over the centre (4) to the bottom right, tells
-    // the first cell; any other is taken as 0. With no column or no row the plane is full at once.
-    // Throws std::bad_alloc or std::length_error when the grid does not fit into memory.
+    // The anchor is the first cell: 0..8, row by row from the top left (0) over the centre (4) to
+    // the bottom right (8); any other counts as 0. Without columns or rows the plane is full at
+    // once. Throws std::bad_alloc or std::length_error when the grid does not fit into memory.
     TiledPlane(double width, double height, int anchor, int cols, int rows);
 
-    // The centre of a tile of w x h in a cell (an index by rows): that of the cell. In a plane of a
-    // single cell the tile is aligned within the whole rectangle, as the anchor says.
+    // The centre of a tile of w x h in a cell (a row-major index): that of the cell. In a plane of
+    // a single cell the tile is aligned within the whole rectangle, as the anchor says.
     FPoint get_tile_pos(double w, double h, std::int64_t cell) const;
 
-    // Whether every cell was visited.
-    bool is_full() const { return _unvisited == 0; }
+    // Whether every cell was visited. They are visited in turn, so the next one shows it.
+    bool is_full() const { return _cells.empty() || !_cells[static_cast<std::size_t>(_next_cell)]; }
 
     // Puts a tile of w x h into the next cell where it lies within the rectangle and overlaps no
-    // tile (touching is allowed), and tells its centre. False, with the centre untouched, when the
-    // cells run out; cells where it had no room count as visited.
+    // tile (touching is allowed), and returns its centre in `center`. False, with the centre
+    // untouched, when the cells run out; cells where it had no room count as visited.
     bool put_tile(double w, double h, FPoint& center);
 
-    // The tiles placed, in that order, each smaller by 1e-12 on every side.
+    // The tiles placed so far, in order, each smaller by 1e-12 on every side.
     const std::vector<FRect>& placed() const { return _placed; }
-    // A matrix that goes along with the plane; the identity at first.
-    TMatrix3D<double>& matrix() { return _matrix; }
-    const TMatrix3D<double>& matrix() const { return _matrix; }
+
+    // For the caller; the plane only copies it.
+    TMatrix3D<double> matrix;
 
   private:
     std::int64_t start_cell() const;
@@ -54,8 +54,6 @@ class TiledPlane {
     std::vector<bool> _cells; // true: not yet visited
     std::int64_t _next_cell;
     std::vector<FRect> _placed;
-    TMatrix3D<double> _matrix;
-    std::int64_t _unvisited; // how many of the cells are true
 };
 
 } // namespace math

@@ -1,4 +1,4 @@
-// Vectors of the plane and of space, and the clamped arc cosine that their angles are made of.
+// Vectors of the plane and of space, and the clamped arc cosine behind their angles.
 // Angles are radians. `^` is the angle between two vectors; cross products are `cross(a, b)`.
 
 #pragma once
@@ -7,14 +7,14 @@
 
 namespace math {
 
-// Arc cosine in [0, pi], clamped: at or below -1 it is pi, at or above 1 it is 0. A NaN stays one.
+// Arc cosine in [0, pi], clamped: pi at or below -1, 0 at or above 1. A NaN stays a NaN.
 inline double acos(double x) {
     if (x <= -1.0) return 3.141592653589793;
     if (x >= 1.0) return 0.0;
     return std::acos(x);
 }
 
-// A length up to this counts as none.
+// A length up to this counts as 0.
 inline constexpr double smallest_length = 1e-12;
 // The smallest normal number of single precision: products of lengths within it count as zero.
 inline constexpr double smallest_float = 1.1754943508222875e-38;
@@ -108,6 +108,12 @@ template <typename T>
 T length(const TGeomVector3D<T>& a) {
     return std::sqrt(dot(a, a));
 }
+// The length, or 0 up to 1e-12.
+template <typename T>
+T counted_length(const TGeomVector3D<T>& a) {
+    const T l = length(a);
+    return l <= smallest_length ? 0 : l;
+}
 
 // A vector or point of the plane: a plain value. The default is the zero vector.
 template <typename T>
@@ -117,58 +123,17 @@ struct TGeomVector2D {
     constexpr TGeomVector2D() = default;
     constexpr TGeomVector2D(T vx, T vy) : x(vx), y(vy) {}
 
-    // The angle to b, in [0, pi], with the rules of the vector in space.
-    T operator^(const TGeomVector2D& b) const {
-        return TGeomVector3D<T>(x, y, 0) ^ TGeomVector3D<T>(b.x, b.y, 0);
+    friend constexpr TGeomVector2D operator+(const TGeomVector2D& a, const TGeomVector2D& b) {
+        return {a.x + b.x, a.y + b.y};
     }
-
-    constexpr TGeomVector2D& operator+=(const TGeomVector2D& b) {
-        x += b.x;
-        y += b.y;
-        return *this;
+    friend constexpr TGeomVector2D operator-(const TGeomVector2D& a, const TGeomVector2D& b) {
+        return {a.x - b.x, a.y - b.y};
     }
-    constexpr TGeomVector2D& operator-=(const TGeomVector2D& b) {
-        x -= b.x;
-        y -= b.y;
-        return *this;
+    friend constexpr TGeomVector2D operator*(const TGeomVector2D& a, T k) {
+        return {a.x * k, a.y * k};
     }
-    constexpr TGeomVector2D& operator*=(T k) {
-        x *= k;
-        y *= k;
-        return *this;
-    }
-    // Unguarded, as in space.
-    constexpr TGeomVector2D& operator/=(T d) {
-        x /= d;
-        y /= d;
-        return *this;
-    }
-
-    friend constexpr TGeomVector2D operator+(TGeomVector2D a, const TGeomVector2D& b) {
-        return a += b;
-    }
-    friend constexpr TGeomVector2D operator-(TGeomVector2D a, const TGeomVector2D& b) {
-        return a -= b;
-    }
-    friend constexpr TGeomVector2D operator*(TGeomVector2D a, T k) { return a *= k; }
-    friend constexpr TGeomVector2D operator*(T k, TGeomVector2D a) { return a *= k; }
-    friend constexpr TGeomVector2D operator/(TGeomVector2D a, T d) { return a /= d; }
     friend constexpr TGeomVector2D operator-(const TGeomVector2D& a) { return {-a.x, -a.y}; }
     friend constexpr bool operator==(const TGeomVector2D&, const TGeomVector2D&) = default;
 };
-
-template <typename T>
-constexpr T dot(const TGeomVector2D<T>& a, const TGeomVector2D<T>& b) {
-    return a.x * b.x + a.y * b.y;
-}
-// The z component of the cross product: positive when b lies counter-clockwise of a (y up).
-template <typename T>
-constexpr T cross(const TGeomVector2D<T>& a, const TGeomVector2D<T>& b) {
-    return a.x * b.y - a.y * b.x;
-}
-template <typename T>
-T length(const TGeomVector2D<T>& a) {
-    return std::sqrt(dot(a, a));
-}
 
 } // namespace math

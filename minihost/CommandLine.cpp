@@ -3,9 +3,9 @@
 #include "minihost/actions/Actions.h"
 #include "minihost/model/OutputFile.h"
 #include "minihost/model/SceneReader.h"
+#include "minihost/preview/Preview.h"
 #include "minihost/suites/SuiteTable.h"
-#include "minihost/view/preview.h"
-#include "minihost/window/Layout.h"
+#include "minihost/window/WindowLayout.h"
 
 #include <CLI/CLI.hpp>
 #include <cstdio>

@@ -4,7 +4,7 @@
 #include "minihost/actions/Progress.h"
 #include "minihost/model/OutputFile.h"
 #include "minihost/model/SceneReader.h"
-#include "minihost/window/Show.h"
+#include "minihost/window/MainWindow.h"
 
 #include <filesystem>
 #include <iostream>
@@ -41,8 +41,8 @@ std::vector<ParsedAction> actions_of(const Request& request) {
     return actions;
 }
 
-ShowOptions show_options(const Request& request) {
-    ShowOptions options;
+MainWindowOptions window_options(const Request& request) {
+    MainWindowOptions options;
     options.scene = request.scene;
     if (request.has_scale) options.scale = request.scale;
     options.width = request.window_width;
@@ -56,9 +56,9 @@ ShowOptions show_options(const Request& request) {
 // Loads the plug-in into a session, uses it, and writes the outputs.
 class SessionRunner {
   public:
-    SessionRunner(const Request& request, Scene scene, std::unique_ptr<Screen> screen)
+    SessionRunner(const Request& request, Scene scene, std::unique_ptr<DialogDriver> driver)
         : _request(request),
-          _session(std::move(scene), request.host, std::move(screen), std::cout,
+          _session(std::move(scene), request.host, std::move(driver), std::cout,
                    [this](const std::string& line) { report(line); }) {
         _session.picture_scale = request.scale;
         _session.host().on_call = [this](std::size_t calls) { _progress.show(calls, "calls"); };
@@ -125,14 +125,14 @@ class SessionRunner {
 };
 
 int show(const Request& request, Scene scene) {
-    std::optional<Show> window; // outlives the plug-in
+    std::optional<MainWindow> window; // outlives the plug-in
     try {
-        window.emplace(show_options(request));
+        window.emplace(window_options(request));
     } catch (const std::exception& error) {
         std::cerr << "minihost: " << error.what() << std::endl;
         return failure_status;
     }
-    return SessionRunner(request, std::move(scene), window->make_screen())
+    return SessionRunner(request, std::move(scene), window->make_dialog_driver())
         .run([&](Session& session) { window->run(session); });
 }
 
@@ -151,7 +151,7 @@ int run(const Request& request) {
         progress.stop();
         if (request.verb == Verb::Show) return show(request, std::move(scene));
         const std::vector<ParsedAction> actions = actions_of(request);
-        return SessionRunner(request, std::move(scene), make_screen()).run(actions);
+        return SessionRunner(request, std::move(scene), make_dialog_driver()).run(actions);
     } catch (const OutputError& error) {
         std::cerr << "minihost: " << error.what() << std::endl;
         return failure_status;

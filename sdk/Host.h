@@ -1,4 +1,4 @@
-// The host's interface, whole: what a source of the plug-in, or a host for it, includes.
+// The whole host interface: the one header that plug-ins and hosts include.
 
 #pragma once
 

@@ -6,7 +6,7 @@
 
 // The function that a module exports as PluginEntry. The host calls it once, after loading. The
 // basic suite stays valid until the death hook has returned. A result other than 0 means that the
-// plug-in is of no use; its hooks registered so far stay registered. No exception leaves it.
+// plug-in could not start; the hooks it has registered stay registered. It never throws.
 using AEGP_PluginEntryProc = A_Err (*)(SPBasicSuite* basic, A_long major_version,
                                        A_long minor_version, AEGP_PluginID plugin_id,
                                        AEGP_GlobalRefcon* global_refcon);

@@ -1,30 +1,29 @@
 // The host's suites: tables of functions, acquired by name and version from the SPBasicSuite.
 //
 // Unless a function says otherwise: it may be called from any hook, on the host's main thread only;
-// it returns 0 on success and the host's error code otherwise, with its results untouched; texts
+// it returns 0 on success and otherwise the host's error code, with its results untouched; texts
 // and structs that are passed in stay the caller's and are not kept.
 
 #pragma once
 
 #include "sdk/HostTypes.h"
 
-// The one suite that is handed over rather than acquired.
+// The one suite that the host passes in rather than the plug-in acquires.
 struct SPBasicSuite {
-    // Counts one use of the suite and gives its table, which stays valid until it is released; a
-    // missing suite gives an error and no table. Every success is to be matched by one
-    // ReleaseSuite.
+    // Counts one use of the suite and returns its table, which stays valid until it is released. A
+    // missing suite is an error. Every success needs one ReleaseSuite.
     A_Err (*AcquireSuite)(const char* name, A_long version, const void** suite);
-    // Gives one use back; an error if it was not acquired.
+    // Ends one use; an error if the suite was not acquired.
     A_Err (*ReleaseSuite)(const char* name, A_long version);
 };
 
-// What the hooks look like. A hook never throws; it returns 0 or an error code for the host.
+// The types of the hooks. A hook never throws; it returns 0 or an error code for the host.
 
-// A menu command was chosen. `handled` tells the host whether it is dealt with.
+// A menu command was chosen. The hook sets `handled` if it has dealt with it.
 using AEGP_CommandHook = A_Err (*)(AEGP_GlobalRefcon, AEGP_CommandRefcon, AEGP_Command,
                                    AEGP_HookPriority, A_Boolean already_handled,
                                    A_Boolean* handled);
-// A menu is about to open: the time to enable and to check commands.
+// A menu is about to open: the time to enable and check commands.
 using AEGP_UpdateMenuHook = A_Err (*)(AEGP_GlobalRefcon, AEGP_UpdateMenuRefcon, AEGP_WindowType);
 // The last call before the module is unloaded.
 using AEGP_DeathHook = A_Err (*)(AEGP_GlobalRefcon, AEGP_DeathRefcon);
@@ -33,7 +32,7 @@ using AEGP_IdleHook = A_Err (*)(AEGP_GlobalRefcon, AEGP_IdleRefcon, A_long* max_
 
 constexpr const char* kAEGPRegisterSuite = "AEGP Register Suite";
 constexpr A_long kAEGPRegisterSuiteVersion = 6;
-// Only to be called from the entry function. A refcon is kept and handed back; it is not looked at.
+// Only callable from the entry function. The host keeps a refcon and passes it to the hook unread.
 struct AEGP_RegisterSuite6 {
     // For one command, or for all of them with AEGP_Command_ALL.
     A_Err (*AEGP_RegisterCommandHook)(AEGP_PluginID, AEGP_HookPriority, AEGP_Command,
@@ -51,7 +50,7 @@ struct AEGP_CommandSuite1 {
     // Only from the entry function. The name is copied.
     A_Err (*AEGP_InsertMenuCommand)(AEGP_Command, const A_char* name, AEGP_MenuID,
                                     A_long after_item);
-    // Enabling, disabling and checking last until the next menu update.
+    // Enabling, disabling and checking hold until the next menu update.
     A_Err (*AEGP_EnableCommand)(AEGP_Command);
     A_Err (*AEGP_DisableCommand)(AEGP_Command);
     A_Err (*AEGP_CheckMarkMenuCommand)(AEGP_Command, A_Boolean check);
@@ -62,9 +61,9 @@ struct AEGP_CommandSuite1 {
 constexpr const char* kAEGPUtilitySuite = "AEGP Utility Suite";
 constexpr A_long kAEGPUtilitySuiteVersion = 3;
 struct AEGP_UtilitySuite3 {
-    // Shows a text to the user and waits until it is read.
+    // Shows a text to the user and waits until it is dismissed.
     A_Err (*AEGP_ReportInfo)(AEGP_PluginID, const A_char* text);
-    // All changes until the matching end are one step of undo with that name, which is copied.
+    // All changes until the matching end are one undo step with that name, which is copied.
     A_Err (*AEGP_StartUndoGroup)(const A_char* name);
     A_Err (*AEGP_EndUndoGroup)();
 };
@@ -95,11 +94,11 @@ struct AEGP_ItemSuite3 {
 constexpr const char* kAEGPCompSuite = "AEGP Comp Suite";
 constexpr A_long kAEGPCompSuiteVersion = 4;
 struct AEGP_CompSuite4 {
-    // Null with success when the item is no composition.
+    // Null with success when the item is not a composition.
     A_Err (*AEGP_GetCompFromItem)(AEGP_ItemH, AEGP_CompH*);
-    // What is selected, in a new collection that is the caller's to dispose of.
+    // The selection, in a new collection that is the caller's to dispose of.
     A_Err (*AEGP_GetNewCollectionFromCompSelection)(AEGP_PluginID, AEGP_CompH, AEGP_CollectionH*);
-    // Selects what the collection holds and nothing else; the collection stays the caller's.
+    // Selects the items of the collection and nothing else; the collection stays the caller's.
     A_Err (*AEGP_SetSelection)(AEGP_CompH, AEGP_CollectionH);
 };
 
@@ -119,13 +118,13 @@ struct AEGP_LayerSuite5 {
     A_Err (*AEGP_GetLayerCurrentTime)(AEGP_LayerH, AEGP_LTimeMode, A_Time*);
     // Where in the composition the layer's own time 0 lies.
     A_Err (*AEGP_GetLayerOffset)(AEGP_LayerH, A_Time*);
-    // Moves the layer so that it has this index afterwards.
+    // Moves the layer to this index.
     A_Err (*AEGP_ReorderLayer)(AEGP_LayerH, A_long index);
     A_Err (*AEGP_GetLayerObjectType)(AEGP_LayerH, AEGP_ObjectType*);
     A_Err (*AEGP_IsLayer3D)(AEGP_LayerH, A_Boolean* is_3d);
 };
 
-// Its presence tells that the host measures text layers; none of its functions is called.
+// A host that has it measures text layers; none of its functions is called.
 constexpr A_long kAEGPLayerSuite8Version = 8;
 struct AEGP_LayerSuite8 {
     void* reserved;
@@ -143,10 +142,10 @@ struct AEGP_StreamSuite4 {
     // A reference that is the caller's to dispose of; an error if the layer has no such stream.
     A_Err (*AEGP_GetNewLayerStream)(AEGP_PluginID, AEGP_LayerH, AEGP_LayerStream, AEGP_StreamRefH*);
     A_Err (*AEGP_DisposeStream)(AEGP_StreamRefH);
-    // Sets the stream's value, or the key at the current time if the stream has keys.
+    // Sets the stream's value or, if the stream has keys, the key at the current time.
     A_Err (*AEGP_SetStreamValue)(AEGP_PluginID, AEGP_StreamRefH, AEGP_StreamValue*);
-    // Reads without a reference. With `pre_expression` 0 the value is that after expressions. Only
-    // the numbers that the stream has are written.
+    // Reads without a reference. With `pre_expression` 0, the value after expressions. Writes only
+    // as many numbers as the stream has.
     A_Err (*AEGP_GetLayerStreamValue)(AEGP_LayerH, AEGP_LayerStream, AEGP_LTimeMode, const A_Time*,
                                       A_Boolean pre_expression, AEGP_StreamVal*);
 };
@@ -154,28 +153,28 @@ struct AEGP_StreamSuite4 {
 constexpr const char* kAEGPKeyframeSuite = "AEGP Keyframe Suite";
 constexpr A_long kAEGPKeyframeSuiteVersion = 1;
 struct AEGP_KeyframeSuite1 {
-    // A key with the value that the stream has at that time; the index is that of the new key.
+    // Adds a key with the value that the stream has at that time, and returns its index.
     A_Err (*AEGP_InsertKeyframe)(AEGP_StreamRefH, AEGP_LTimeMode, const A_Time*,
                                  AEGP_KeyframeIndex*);
 };
 
-// What a panel answers its host; each entry may be null.
+// What the host asks a panel; each entry may be null.
 struct AEGP_PanelFunctions1 {
-    // Writes the sizes at which the panel likes to be (at most 5) and their number.
+    // Writes the panel's preferred sizes (at most 5) and their number.
     A_Err (*GetSnapSizes)(AEGP_PanelRefcon, A_LPoint* sizes, A_long* count);
     A_Err (*PopulateFlyout)(AEGP_PanelRefcon, void* items, A_long* count);
     A_Err (*DoFlyoutCommand)(AEGP_PanelRefcon, AEGP_Command);
 };
 
-// The host makes a panel: fill `container` with views, fill in the function table, and store what
-// is to be handed back with the panel's calls. View and panel stay the host's.
+// The host makes a panel: the hook fills `container` with views, fills in the function table and
+// stores the refcon for the panel's calls. View and panel stay the host's.
 using AEGP_CreatePanelHook = A_Err (*)(AEGP_GlobalRefcon, AEGP_CreatePanelRefcon, NSView* container,
                                        AEGP_PanelH, AEGP_PanelFunctions1*, AEGP_PanelRefcon*);
 
 constexpr const char* kAEGPPanelSuite = "AEGP Workspace Panel Suite";
 constexpr A_long kAEGPPanelSuiteVersion = 1;
 struct AEGP_PanelSuite1 {
-    // Only from the entry function. Panels with this match name are made by the hook from then on.
+    // Only from the entry function. The hook makes the panels with this match name from then on.
     A_Err (*AEGP_RegisterCreatePanelHook)(AEGP_PluginID, const A_char* match_name,
                                           AEGP_CreatePanelHook, AEGP_CreatePanelRefcon,
                                           A_Boolean paint_background);
@@ -188,6 +187,6 @@ constexpr const char* kPFAppSuite = "PF AE App Suite";
 constexpr A_long kPFAppSuiteVersion = 6;
 struct PFAppSuite6 {
     void* reserved;
-    // The interface colour of a selector, asked anew at every drawing.
+    // The interface colour of a selector. It may change: ask at every drawing.
     A_Err (*PF_AppGetColor)(PF_App_ColorType, PF_App_Color*);
 };

@@ -1,10 +1,9 @@
 // The host's plain types: numbers, times, points, handles, and the codes that its calls take.
 //
-// THE LAYOUT IS OURS. These headers give the host's interface as this plug-in uses it, by the
-// host's own names. The order of a suite's functions and the layout of its structs are ours and fit
-// the host in minihost/. To build against a real host, put its own headers in the place of this
-// folder: keep sdk/Host.h as the one include and let it include theirs. No source outside sdk/
-// names a header of this folder but sdk/Host.h.
+// THE LAYOUT IS OURS. These headers declare the host's interface as far as this plug-in uses it,
+// with the host's own names. The order of a suite's functions and the layout of its structs are
+// ours and match minihost/. To build against a real host, put its headers in place of these and let
+// sdk/Host.h include them: no source outside sdk/ includes any other header of this folder.
 
 #pragma once
 
@@ -19,8 +18,8 @@ using A_u_char = unsigned char;
 using A_Boolean = unsigned char;
 using A_FpLong = double;
 
-// 0 for success, any other value names a failure. It is what a hook returns and what it throws
-// inside the plug-in.
+// 0 for success; any other value is an error code. Hooks return it; inside the plug-in it is thrown
+// as an int.
 using A_Err = std::int32_t;
 constexpr A_Err A_Err_NONE = 0;
 constexpr A_Err A_Err_MISSING_SUITE = 516;
@@ -35,8 +34,8 @@ struct A_LPoint {
     A_long x, y;
 };
 
-// Handles. Each is valid only inside the callback in which it was got, unless its suite says
-// otherwise, and only as long as what it stands for; a null handle stands for nothing.
+// Handles. Unless its suite says otherwise, each is valid only inside the callback in which it was
+// obtained, and only as long as its object exists. Null means no object.
 using AEGP_ItemH = struct _AEGP_Item*;
 using AEGP_CompH = struct _AEGP_Comp*;
 using AEGP_LayerH = struct _AEGP_Layer*;
@@ -44,7 +43,7 @@ using AEGP_StreamRefH = struct _AEGP_StreamRef*;
 using AEGP_CollectionH = struct _AEGP_Collection*;
 using AEGP_PanelH = struct _AEGP_PanelH*;
 
-// What a plug-in gives along at a registration and gets back in its hook.
+// What a plug-in passes when it registers a hook, and gets back in the hook.
 using AEGP_GlobalRefcon = struct _AEGP_GlobalRefcon*;
 using AEGP_CommandRefcon = struct _AEGP_CommandRefcon*;
 using AEGP_UpdateMenuRefcon = struct _AEGP_UpdateMenuRefcon*;
@@ -95,8 +94,8 @@ constexpr AEGP_LayerStream AEGP_LayerStream_ORIENTATION = 10;
 
 using AEGP_KeyframeIndex = A_long;
 
-// A layer's name comes with its terminating zero in a buffer of this many bytes, UTF-8; a longer
-// name is cut before the character that no longer fits.
+// The size of the buffer for a layer's name, UTF-8 with its terminating zero. A longer name is cut
+// before the character that no longer fits.
 constexpr int AEGP_MAX_LAYER_NAME_SIZE = 256;
 
 struct AEGP_ThreeDVal {
@@ -106,8 +105,8 @@ struct AEGP_FourDVal {
     A_FpLong x, y, z, w;
 };
 
-// The value of a stream. A rotation has one number, position, scale and orientation have three;
-// what a stream does not use the host leaves as it was.
+// The value of a stream. A rotation has one number; position, scale and orientation have three. The
+// host leaves unused numbers as they were.
 union AEGP_StreamVal {
     A_FpLong one_d;
     AEGP_ThreeDVal three_d;
@@ -119,7 +118,7 @@ struct AEGP_StreamValue {
     AEGP_StreamVal val;
 };
 
-// One thing in a collection. Only layers carry a handle that is told here.
+// An item of a collection. Only layers have a handle here.
 using AEGP_CollectionItemType = A_long;
 constexpr AEGP_CollectionItemType AEGP_CollectionItemType_NONE = 0;
 constexpr AEGP_CollectionItemType AEGP_CollectionItemType_LAYER = 1;
@@ -135,7 +134,7 @@ struct PF_App_Color {
 };
 using PF_App_ColorType = A_short;
 
-// The native view that the host hands over for a panel.
+// The native view that the host provides for a panel.
 #ifdef __OBJC__
 @class NSView;
 #else

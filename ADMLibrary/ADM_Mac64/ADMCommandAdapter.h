@@ -10,7 +10,7 @@ class iADMDialog;
     iADMDialog* __dialog; // not retained: it owns the adapter
 }
 - (id)initWithADMDialog:(iADMDialog*)dialog;
-// Tells the notify procedure of the item whose id is the sender's tag or, if it has none, the
-// dialog's. A radio button is turned on first. An exception of the procedure ends here.
+// Calls the notify procedure of the item whose id is the sender's tag or, if it has none, the
+// dialog's. Turns a radio button on first. Catches an exception of the procedure.
 - (void)onControlClicked:(id)sender;
 @end

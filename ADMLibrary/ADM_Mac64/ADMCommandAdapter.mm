@@ -6,7 +6,7 @@
 
 namespace {
 
-// After a procedure has returned, dialog, item and adapter may be gone.
+// The procedure may free dialog, item and adapter.
 void notify(iADMDialog* dialog, iADMItem* item) {
     iADMNotifier notifier(item, kADMUserChangedNotifier);
     try {

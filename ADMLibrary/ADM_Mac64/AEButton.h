@@ -1,4 +1,4 @@
-// The face of a button, which push buttons, check boxes and pop-ups share.
+// The face of a button, shared by push buttons, check boxes and pop-ups.
 
 #pragma once
 
@@ -6,13 +6,13 @@
 
 enum AEButtonState { kAEButtonNormal = 0, kAEButtonPressed = 1, kAEButtonDisabled = 2 };
 
-// Paints a button in the host's colours; any other state is normal. `title` may be nil.
+// Paints a button in the host's colours; any other state counts as normal. `title` may be nil.
 void DrawAEButton(CGRect frame, NSString* title, int state);
 
 namespace adm {
 
-// The light from above that lies on faces: a gradient from white to black, both faint.
-NSGradient* new_sheen(); // to be released by the caller
+// The sheen of faces: a faint gradient from white to black. The caller releases it.
+NSGradient* new_sheen();
 
 // A title in the small font.
 struct Title {
@@ -21,7 +21,7 @@ struct Title {
     Title(const Title&) = delete;
     Title& operator=(const Title&) = delete;
 
-    // One line, a little above the middle of a control of that height.
+    // Draws one line, a little above the middle of a control of that height.
     void draw(CGFloat x, CGFloat width, CGFloat control_height) const;
 
   private:

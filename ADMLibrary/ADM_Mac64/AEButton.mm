@@ -5,7 +5,7 @@
 
 namespace {
 
-// Host colours for each state; the entries that are told by name here are those that are used.
+// Host colours for each state; only the entries with a name here are used.
 enum Part { kOutline = 0, kFace = 1, kTitle = 2, kEdge = 5 };
 constexpr short normalColors[7] = {7, 8, 9, 10, 11, 12, 13};
 constexpr short highlightColors[7] = {14, 15, 16, 17, 18, 19, 20};

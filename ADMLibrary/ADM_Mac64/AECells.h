@@ -1,5 +1,5 @@
-// Cells that paint Cocoa's controls in the host's colours. They keep nothing of their own: all they
-// show is the control's title, state and enabled state at the time of drawing.
+// Cells that paint Cocoa's controls in the host's colours. They have no state of their own: they
+// show the control's title, state and enabled state at the time of drawing.
 
 #pragma once
 
@@ -8,7 +8,7 @@
 @interface AEButtonCell : NSButtonCell
 - (id)init;
 - (void)drawWithFrame:(NSRect)frame inView:(NSView*)view;
-// Draws the pressed look, or the disabled one, whatever the flag is.
+// Draws the pressed look, or the disabled one; ignores the flag.
 - (void)highlight:(BOOL)flag withFrame:(NSRect)frame inView:(NSView*)view;
 @end
 

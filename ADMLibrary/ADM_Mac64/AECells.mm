@@ -7,16 +7,16 @@
 namespace {
 
 constexpr CGFloat kBoxSize = 12;
-constexpr CGFloat kBoxLineHeight = 16; // the box is centred as if it were that high
+constexpr CGFloat kBoxLineHeight = 16; // the box is centred as if it were this high
 constexpr CGFloat kCircleSize = 10;
 constexpr CGFloat kDotInset = 3;
 constexpr CGFloat kTitleIndent = 7;
 
-int face_of(NSCell* cell, AEButtonState enabled_look) {
+int button_state(NSCell* cell, AEButtonState enabled_look) {
     return [cell isEnabled] ? enabled_look : kAEButtonDisabled;
 }
 
-// An open tick that reaches beyond the box at its upper right.
+// An open tick that extends beyond the box at the upper right.
 void draw_tick(CGFloat box_x, CGFloat box_y) {
     NSBezierPath* tick = [NSBezierPath bezierPath];
     [tick moveToPoint:NSMakePoint(box_x + 4, box_y + 4)];
@@ -28,7 +28,7 @@ void draw_tick(CGFloat box_x, CGFloat box_y) {
 void draw_check_box(NSCell* cell, NSRect frame, AEButtonState enabled_look) {
     const CGFloat x = frame.origin.x + (frame.size.width - kBoxSize) / 2;
     const CGFloat y = frame.origin.y + (frame.size.height - kBoxLineHeight) / 2;
-    DrawAEButton(NSMakeRect(x, y, kBoxSize, kBoxSize), nil, face_of(cell, enabled_look));
+    DrawAEButton(NSMakeRect(x, y, kBoxSize, kBoxSize), nil, button_state(cell, enabled_look));
     if ([cell state] != 1) return;
     [GetAEColor([cell isEnabled] ? kAEButtonText : kAEDisabledText) setStroke];
     draw_tick(x, y);
@@ -56,13 +56,13 @@ void draw_arrow(NSRect frame, CGFloat left) {
 
 - (void)drawWithFrame:(NSRect)frame inView:(NSView*)view {
     (void)view;
-    DrawAEButton(frame, [[self attributedTitle] string], face_of(self, kAEButtonNormal));
+    DrawAEButton(frame, [[self attributedTitle] string], button_state(self, kAEButtonNormal));
 }
 
 - (void)highlight:(BOOL)flag withFrame:(NSRect)frame inView:(NSView*)view {
     (void)flag;
     (void)view;
-    DrawAEButton(frame, [[self attributedTitle] string], face_of(self, kAEButtonPressed));
+    DrawAEButton(frame, [[self attributedTitle] string], button_state(self, kAEButtonPressed));
 }
 
 @end
@@ -115,7 +115,7 @@ void draw_arrow(NSRect frame, CGFloat left) {
     const bool enabled = [self isEnabled];
     const auto [x, y] = frame.origin;
     const auto [w, h] = frame.size;
-    DrawAEButton(frame, nil, face_of(self, kAEButtonNormal));
+    DrawAEButton(frame, nil, button_state(self, kAEButtonNormal));
 
     adm::set_antialiasing(true);
     NSMenuItem* selected = [self selectedItem];

@@ -1,4 +1,4 @@
-// The host's look: its colours, queried anew at each call, and the small font.
+// The host's look: its colours, queried at each call, and the small font.
 
 #pragma once
 
@@ -19,14 +19,14 @@ constexpr short kAEPanelBackground = 1000;
 
 namespace adm {
 
-// The host's colour of a selector; black if the host tells none.
+// The host's colour of a selector; black if the host has none.
 PF_App_Color host_color(short selector);
 
 } // namespace adm
 
-// The same as an opaque colour. Autoreleased, as are the results of the next two.
+// The same as an opaque colour. Autoreleased, like the results of the next two.
 NSColor* GetAEColor(short selector);
 // The host's text colour.
 NSColor* GetAETextColor();
-// The system font at the size of mini controls: labels, buttons and pop-ups are written in it.
+// The system font at the size of mini controls, for labels, buttons and pop-ups.
 NSFont* GetMiniSystemFont();

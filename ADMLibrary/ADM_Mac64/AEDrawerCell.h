@@ -1,4 +1,4 @@
-// The cell of a picture: draws through its item's draw procedure.
+// The cell of a picture: calls its item's draw procedure.
 
 #pragma once
 
@@ -10,7 +10,7 @@ class iADMItem;
     iADMItem* __item; // not owned; it owns the cell's control
 }
 - (id)initWithADMItem:(iADMItem*)item;
-// Asserts that there is an item. Without a draw procedure nothing is drawn; an exception of the
-// procedure ends here.
+// Asserts that there is an item. Without a draw procedure it draws nothing; it catches an exception
+// of the procedure.
 - (void)drawWithFrame:(NSRect)frame inView:(NSView*)view;
 @end

@@ -1,5 +1,5 @@
-// AppKit's constants by their values. Its releases have renamed them one by one and have typed them
-// now as enumerations, now as integers; the values stayed.
+// AppKit's constants by value. Its releases rename them and change their types between enumerations
+// and integers; the values stay.
 
 #pragma once
 

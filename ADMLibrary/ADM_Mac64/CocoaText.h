@@ -1,4 +1,4 @@
-// A C text as a Cocoa string for the length of a scope.
+// A C string as a Cocoa string for the length of a scope.
 
 #pragma once
 
@@ -18,7 +18,7 @@ class CocoaText {
     CocoaText(const CocoaText&) = delete;
     CocoaText& operator=(const CocoaText&) = delete;
 
-    // nil when there was no text.
+    // nil if the text was null.
     NSString* string() const { return (NSString*)_string; }
 
   private:

@@ -1,4 +1,4 @@
-// The dialog and notifier suites: handles tested, then the records' operations.
+// The dialog and notifier suites: check the handles, then call the records.
 
 #include "ADMLibrary/ADM_Mac64/Assertions.h"
 #include "ADMLibrary/ADM_Mac64/iADMDialog.h"
@@ -128,7 +128,7 @@ _Opaque_ADMItem* first_item(_Opaque_ADMDialog* dialog) {
 }
 
 _Opaque_ADMDialog* dialog_of(const void* userData) {
-    return handle(iADMDialog::living_with(userData));
+    return handle(iADMDialog::with_user_data(userData));
 }
 
 } // namespace adm

@@ -1,4 +1,4 @@
-// The drawer and image suites: handles tested, then the records' operations.
+// The drawer and image suites: check the handles, then call the records.
 
 #include "ADMLibrary/ADM_Mac64/iADMImage.h"
 #include "ADMLibrary/ADMDrawingSuites.h"

@@ -1,4 +1,4 @@
-// Between the toolkit's rectangles of 16-bit numbers and Cocoa's frames.
+// Converts between the toolkit's 16-bit rectangles and Cocoa's frames.
 
 #pragma once
 
@@ -8,16 +8,16 @@
 
 namespace adm {
 
-// What 16 bits hold of a sum: it wraps.
+// The low 16 bits: sums wrap.
 constexpr std::int16_t wrap16(std::int64_t value) {
     return static_cast<std::int16_t>(value);
 }
 
-// Truncated toward zero; beyond 32 bits the nearest that they hold, 0 for what is no number.
+// Truncates toward zero and clamps to 32 bits; 0 for NaN.
 int truncated(double value);
 
 NSRect frame_of(const Rect& r);
-// Each of x, y, width and height is truncated before they are added up.
+// Truncates x, y, width and height before adding them up.
 Rect rect_of(const NSRect& frame);
 
 Rect union_of(const Rect& a, const Rect& b);
@@ -25,6 +25,7 @@ Rect moved_by(const Rect& r, const Rect& origin);
 
 } // namespace adm
 
-// The rectangle that a view needs: a text field's by its text, at its own place (width: that of the
-// text rounded up, and the font's point size; height: that of the text); any other view's frame.
+// The rectangle that a view needs. A text field's place stays and its size comes from its text: the
+// text's width, rounded up, plus the font's point size, and the text's height. For any other view,
+// its frame.
 void CalculateControlBounds(NSControl* view, Rect* out);

@@ -1,4 +1,4 @@
-// From handles to records and back: a handle is the address of its record.
+// Converts between handles and records: a handle is the address of its record.
 
 #pragma once
 

@@ -6,7 +6,7 @@ PFAppSuite6* sPFAppSuite = nullptr;
 
 namespace {
 
-// Null if the host does not have it. The tables are the host's; they are read only.
+// Null if the host does not have it. The tables are only read, in spite of the type.
 template <typename Suite>
 Suite* acquire(const char* name, A_long version) {
     const void* suite = nullptr;

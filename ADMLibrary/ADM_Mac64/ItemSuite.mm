@@ -1,9 +1,10 @@
-// The item suite: handles tested, then the records' operations.
+// The item suite: checks the handles, then calls the records.
 
 #include "ADMLibrary/ADM_Mac64/Assertions.h"
 #include "ADMLibrary/ADM_Mac64/iADMDrawer.h"
 #include "ADMLibrary/ADM_Mac64/iADMItem.h"
 #include "ADMLibrary/ADM_Mac64/iADMNotifier.h"
+#include "ADMLibrary/ADM_Mac64/NumberText.h"
 #include "ADMLibrary/ADMItemSuites.h"
 
 using adm::handle;
@@ -73,11 +74,12 @@ unsigned char ADMItemSuite10::DefaultTrack(_Opaque_ADMItem*, _Opaque_ADMTracker*
 }
 
 bool ADMItemSuite10::DefaultTextToFloat(_Opaque_ADMItem*, const char* text, float* value) {
-    return iADMItem::DefaultTextToFloat(text, value);
+    return adm::text_to_float(text, value);
 }
 
 bool ADMItemSuite10::DefaultFloatToText(_Opaque_ADMItem*, float value, char* text, int) {
-    return iADMItem::DefaultFloatToText(value, text);
+    adm::float_to_text(value, text);
+    return true;
 }
 
 void ADMItemSuite10::SetFloatValue(_Opaque_ADMItem* item, float value) {

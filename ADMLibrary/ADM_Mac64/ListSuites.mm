@@ -1,4 +1,4 @@
-// The list and entry suites: handles tested, then the records' operations.
+// The list and entry suites: check the handles, then call the records.
 
 #include "ADMLibrary/ADM_Mac64/Assertions.h"
 #include "ADMLibrary/ADM_Mac64/iADMList.h"

@@ -1,7 +1,6 @@
 #include "ADMLibrary/ADM_Mac64/NumberText.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -13,7 +12,7 @@ bool text_to_float(const char* text, float* value) {
     char* end = nullptr;
     const double number = std::strtod(text, &end);
     if (end == text) return false;
-    *value = static_cast<float>(number); // infinite where a float ends
+    *value = static_cast<float>(number);
     return true;
 }
 
@@ -26,21 +25,12 @@ bool text_to_int(const char* text, int* value) {
     return true;
 }
 
-bool float_to_text(float value, char* text) {
-    std::sprintf(text, "%f", static_cast<double>(value));
-    const std::size_t length = std::strlen(text);
-    if (length == 0 || text[length - 1] != '0') return true;
-    std::size_t last = length - 1;
-    while (last > 0 && text[last] == '0') --last;
-    if (text[last] == '.') {
-        text[last] = '\0';
-        return true;
-    }
-    std::size_t before_digits = last;
-    while (before_digits > 0 && std::isdigit(static_cast<unsigned char>(text[before_digits])))
-        --before_digits;
-    if (text[before_digits] == '.') text[last + 1] = '\0';
-    return true;
+void float_to_text(float value, char* text) {
+    char* end = text + std::sprintf(text, "%f", static_cast<double>(value));
+    if (!std::strchr(text, '.')) return;
+    while (end[-1] == '0') --end;
+    if (end[-1] == '.') --end;
+    *end = '\0';
 }
 
 } // namespace adm

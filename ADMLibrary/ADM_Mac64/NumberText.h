@@ -1,4 +1,4 @@
-// What a number field makes of a text, and which text it shows for a number.
+// Conversions between the numbers of number fields and their texts.
 
 #pragma once
 
@@ -6,18 +6,17 @@
 
 namespace adm {
 
-// The longest text that float_to_text makes, its end with it.
-constexpr std::size_t most_number_text = 48;
+// The longest text that float_to_text makes, with its terminating zero.
+constexpr std::size_t max_number_text = 48;
 
-// The number at the beginning of the text, as strtod reads it; what follows is passed over. Beyond
-// what a float holds the value is infinite. False, and the value untouched, without a number.
+// The number at the beginning of the text, as strtod reads it; the rest is ignored. Infinite beyond
+// the range of a float. Without a number, returns false and leaves the value untouched.
 bool text_to_float(const char* text, float* value);
 
-// The same for a whole number, as strtol reads it in base 10; beyond what an int holds, the nearest
-// one.
+// The same for an integer, as strtol reads it in base 10; clamped to the range of an int.
 bool text_to_int(const char* text, int* value);
 
-// Six digits after the point, less the zeros at their end. Always true.
-bool float_to_text(float value, char* text);
+// Six decimals, without trailing zeros.
+void float_to_text(float value, char* text);
 
 } // namespace adm

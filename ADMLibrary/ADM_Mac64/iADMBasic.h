@@ -1,4 +1,4 @@
-// What the basic suite answers about the screen.
+// The screen, as the basic suite reports it.
 
 #pragma once
 

@@ -1,4 +1,4 @@
-// The record behind a dialog: its window or its place in a host's panel, its items, its procedures.
+// The record behind a dialog: its window or its place in a host's panel, its items and procedures.
 
 #pragma once
 
@@ -10,13 +10,13 @@
 
 class iADMDialogBase {
   public:
-    // Makes the adapter, which gets `self`, the whole record.
+    // Makes the adapter, which refers to `self`, the whole record.
     explicit iADMDialogBase(iADMDialog* self);
     iADMDialogBase(const iADMDialogBase&) = delete;
     iADMDialogBase& operator=(const iADMDialogBase&) = delete;
     virtual ~iADMDialogBase();
 
-    NSWindow* _window = nil; // null in a panel
+    NSWindow* _window = nil; // nil in a panel
     NSView* _view = nil;     // the content view, a FlippedView
     ADMCommandAdapter* _adapter = nil;
     _AEGP_PanelH* _panelH = nullptr;
@@ -32,11 +32,11 @@ class iADMDialogBase {
     bool _destroying = false;
 };
 
-// The operations are those of ADMDialogSuite9 unless a comment tells more.
+// The operations are those of ADMDialogSuite9, except where a comment says otherwise.
 class iADMDialog : public iADMDialogBase {
   public:
-    // So many have room in the item store, which never moves them.
-    static constexpr std::size_t kMostItems = 100;
+    // The size of the item store, which never moves its items.
+    static constexpr std::size_t kMaxItems = 100;
 
     iADMDialog(const char* name, void* userData);
     ~iADMDialog() override;
@@ -47,12 +47,12 @@ class iADMDialog : public iADMDialogBase {
                                    AEGP_PanelSuite1* panelSuite, _AEGP_PanelH* panelH,
                                    NSView* hostView, AEGP_PanelFunctions1* panelFunctions,
                                    _AEGP_PanelRefcon** refcon);
-    // Frees the record, unless its destruction is running already.
+    // Frees the record, unless it is being destroyed already.
     void Destroy();
-    // Any dialog with this user data that is not being destroyed; null if there is none.
-    static iADMDialog* living_with(const void* userData);
+    // A dialog with this user data that is not being destroyed, or null.
+    static iADMDialog* with_user_data(const void* userData);
 
-    // For the host: one size, that of the dialog's rectangle.
+    // The host's callback: one size, that of the dialog's rectangle.
     static A_Err S_GetSnapSizes(_AEGP_PanelRefcon* refcon, A_LPoint* sizes, A_long* count);
 
     void Show(bool show);
@@ -63,20 +63,20 @@ class iADMDialog : public iADMDialogBase {
     void SetBoundsRect(const Rect* r);
     void SetLocalRect(const Rect* r);
 
-    // A new one at the end of the store; null when that is full.
+    // Appends an item; null if the store is full.
     iADMItem* add_item(int id);
-    iADMItem* GetItem(int id);
+    iADMItem* GetItem(int id) const;
     iADMItem* GetNextItem(const iADMItem* item);
 
     std::vector<iADMItem> _items;
 
   private:
-    // Asserts that there is no window yet; false if none can be made.
+    // Asserts that there is no window yet; false if it cannot be made.
     bool make_window(ADMDialogStyle style);
     void make_panel_view(NSView* hostView);
-    // Runs the init procedure; a dialog for which it fails is destroyed, and null comes back.
-    static iADMDialog* finish(iADMDialog* dialog, ADMDialogInitProc init);
+    // Runs the init procedure. If it fails, destroys the dialog and returns null.
+    static iADMDialog* initialise(iADMDialog* dialog, ADMDialogInitProc init);
     void make_room_for_title_bar();
 
-    std::unordered_map<int, iADMItem*> _first_of_id; // of items with the same id the one made first
+    std::unordered_map<int, iADMItem*> _first_of_id; // the first of several items with the same id
 };

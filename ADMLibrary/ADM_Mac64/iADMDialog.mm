@@ -21,8 +21,8 @@ constexpr int kStyleMasks[] = {kTitled,     kTitled, kTitled, kTitled,     kResi
 
 constexpr NSRect kFirstContent = {{0, 0}, {600, 400}};
 
-// Every dialog that was made and not freed.
-std::vector<iADMDialog*>& living_dialogs() {
+// Every dialog that exists.
+std::vector<iADMDialog*>& all_dialogs() {
     static std::vector<iADMDialog*> dialogs;
     return dialogs;
 }
@@ -39,8 +39,8 @@ iADMDialogBase::~iADMDialogBase() {
 iADMDialog::iADMDialog(const char* name, void* userData) : iADMDialogBase(this) {
     if (name) std::strncpy(_name, name, sizeof _name - 1);
     _userData = userData;
-    _items.reserve(kMostItems);
-    living_dialogs().push_back(this);
+    _items.reserve(kMaxItems);
+    all_dialogs().push_back(this);
 }
 
 iADMDialog::~iADMDialog() {
@@ -50,8 +50,8 @@ iADMDialog::~iADMDialog() {
     } catch (...) {
         adm::report_exception("destroy");
     }
-    // Controls that somebody else still holds have nobody to tell any more, and a window that is
-    // still held does not draw them.
+    // Someone else may still hold the controls, or the window: the controls must not send actions
+    // to this dialog any more, nor the window draw them.
     for (const iADMItem& item : _items) [item._control setTarget:nil];
     for (const iADMItem& item : _items) [item._control removeFromSuperview];
     if (_window) {
@@ -63,20 +63,20 @@ iADMDialog::~iADMDialog() {
     }
     [_view release];
     _view = nil;
-    std::erase(living_dialogs(), this);
+    std::erase(all_dialogs(), this);
 }
 
 void iADMDialog::Destroy() {
     if (!_destroying) delete this;
 }
 
-iADMDialog* iADMDialog::living_with(const void* userData) {
-    for (iADMDialog* dialog : living_dialogs())
+iADMDialog* iADMDialog::with_user_data(const void* userData) {
+    for (iADMDialog* dialog : all_dialogs())
         if (userData && dialog->_userData == userData && !dialog->_destroying) return dialog;
     return nullptr;
 }
 
-iADMDialog* iADMDialog::finish(iADMDialog* dialog, ADMDialogInitProc init) {
+iADMDialog* iADMDialog::initialise(iADMDialog* dialog, ADMDialogInitProc init) {
     if (!init || init(adm::handle(dialog)) == 0) return dialog;
     dialog->Destroy();
     return nullptr;
@@ -106,7 +106,7 @@ iADMDialog* iADMDialog::Create(const char* name, ADMDialogStyle style, ADMDialog
         dialog->Destroy();
         return nullptr;
     }
-    return finish(dialog, init);
+    return initialise(dialog, init);
 }
 
 void iADMDialog::make_panel_view(NSView* hostView) {
@@ -127,13 +127,13 @@ iADMDialog* iADMDialog::CreatePanel(const char* name, ADMDialogInitProc init, vo
     if (panelFunctions) *panelFunctions = {S_GetSnapSizes, nullptr, nullptr};
     if (refcon) *refcon = reinterpret_cast<_AEGP_PanelRefcon*>(adm::handle(dialog));
     if (hostView) dialog->make_panel_view(hostView);
-    iADMDialog* made = finish(dialog, init);
-    if (!made && refcon) *refcon = nullptr; // the host may ask for snap sizes all the same
+    iADMDialog* made = initialise(dialog, init);
+    if (!made && refcon) *refcon = nullptr; // the host may ask for snap sizes even so
     return made;
 }
 
 iADMItem* iADMDialog::add_item(int id) {
-    if (_items.size() >= kMostItems) return nullptr;
+    if (_items.size() >= kMaxItems) return nullptr;
     iADMItem& item = _items.emplace_back();
     item.dialog = this;
     item._id = id;
@@ -141,7 +141,7 @@ iADMItem* iADMDialog::add_item(int id) {
     return &item;
 }
 
-iADMItem* iADMDialog::GetItem(int id) {
+iADMItem* iADMDialog::GetItem(int id) const {
     const auto found = _first_of_id.find(id);
     return found == _first_of_id.end() ? nullptr : found->second;
 }

@@ -1,4 +1,4 @@
-// A dialog on the screen: shown, titled, placed and sized, in a window or in a host's panel.
+// A dialog on the screen, in a window or a host's panel: showing, title, place and size.
 
 #include "ADMLibrary/ADM_Mac64/CocoaText.h"
 #include "ADMLibrary/ADM_Mac64/Geometry.h"
@@ -15,8 +15,8 @@ void iADMDialog::Show(bool show) {
     }
 }
 
-// A dialog is sized by its window's frame, of which the title bar takes its share. If that hides
-// items, the frame grows downwards so that the content has the height that the frame was given.
+// A dialog is sized by its window's frame, which includes the title bar. If items do not fit below
+// it, the frame grows downwards until the content is as high as the frame was.
 void iADMDialog::make_room_for_title_bar() {
     std::int16_t lowest = 0;
     for (const iADMItem& item : _items) {

@@ -1,4 +1,4 @@
-// A surface to draw on: a Core Graphics context in toolkit coordinates.
+// A surface to draw on: a Core Graphics context in the toolkit's coordinates.
 
 #pragma once
 
@@ -9,7 +9,7 @@
 // The operations are those of ADMDrawerSuite5.
 class iADMDrawer {
   public:
-    // Draws `drawn_item` into a context that stays the caller's.
+    // Draws `drawn_item` into a context that the caller owns.
     explicit iADMDrawer(CGContextRef target, iADMItem* drawn_item = nullptr)
         : context(target), item(drawn_item) {}
     virtual ~iADMDrawer() = default;
@@ -23,7 +23,7 @@ class iADMDrawer {
     void DrawADMImage(iADMImage* source, const Point* at);
     void ClearRect(const Rect* r);
 
-    // Whether all symbolic colours are the host's; so as soon as a panel was made.
+    // Whether all symbolic colours are the host's: true once a panel has been made.
     static bool _useAppColor;
 
     CGContextRef context;

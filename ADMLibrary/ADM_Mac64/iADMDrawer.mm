@@ -81,8 +81,8 @@ void iADMDrawer::DrawLine(const Point* from, const Point* to) {
     CGContextStrokePath(context);
 }
 
-// Neither the image's context nor this one is turned over for it: what was drawn at the top of the
-// image comes out at the top.
+// Neither the image's context nor this one is flipped for it: the top of the image is drawn at the
+// top.
 void iADMDrawer::DrawADMImage(iADMImage* source, const Point* at) {
     CGImageRef copy = CGBitmapContextCreateImage(source->context);
     if (!copy) return;

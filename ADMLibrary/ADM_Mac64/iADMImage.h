@@ -7,7 +7,7 @@
 // The operations are those of ADMImageSuite2.
 class iADMImage : public iADMDrawer {
   public:
-    // Null if a size is not positive or if memory, colour space or context cannot be had.
+    // Null if a size is not positive or if memory, colour space or context cannot be made.
     static iADMImage* CreateOffscreen(int width, int height);
     iADMImage(const iADMImage&) = delete;
     iADMImage& operator=(const iADMImage&) = delete;
@@ -20,6 +20,6 @@ class iADMImage : public iADMDrawer {
   private:
     iADMImage() : iADMDrawer(nullptr) {}
 
-    void* _pixels = nullptr; // RGBA, alpha multiplied in, rows without gaps
+    void* _pixels = nullptr; // RGBA, premultiplied, rows without padding
     CGColorSpaceRef _color_space = nullptr;
 };

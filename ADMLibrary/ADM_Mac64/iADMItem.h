@@ -5,21 +5,22 @@
 #include "ADMLibrary/ADM_Mac64/iADMList.h"
 
 #include <Cocoa/Cocoa.h>
+#include <vector>
 
 class iADMItemBase {
   public:
     iADMItemBase() = default;
-    // Copies the references without taking new ones: the item store needs it to compile, and never
-    // moves an item.
+    // Copies the references without retaining them: std::vector needs it to compile, but the item
+    // store never moves an item.
     iADMItemBase(const iADMItemBase&) = default;
     virtual ~iADMItemBase();
 
     iADMDialog* dialog = nullptr;
-    NSControl* _control = nil; // one reference, as of the next two
+    NSControl* _control = nil; // one reference each of this and the next two
     NSTextField* _label = nil;
     NSBox* _box = nil;
     Point _labelOffset = {0, 0};
-    Rect _bounds = {0, 0, 0, 0}; // as it was last given
+    Rect _bounds = {0, 0, 0, 0}; // as last set
     bool _isRadio = false;
     bool _isFrame = false;
     void* _userData = nullptr;
@@ -34,7 +35,7 @@ class iADMItemBase {
     ADMItemTextToFloatProc _textToFloatProc = nullptr;
 };
 
-// The operations are those of ADMItemSuite10 unless a comment tells more.
+// The operations are those of ADMItemSuite10, except where a comment says otherwise.
 class iADMItem : public iADMItemBase {
   public:
     // Null if the dialog is full or `init` fails; asserts that the dialog has a content view.
@@ -50,12 +51,10 @@ class iADMItem : public iADMItemBase {
     bool GetBooleanValue() const;
     void SetBooleanValue(bool value);
 
-    // Shows the number that is stored, in the control's own format.
+    // Shows the stored number in the control's own format.
     void refresh_number();
     float GetFloatValue();
     int GetIntValue();
-    static bool DefaultTextToFloat(const char* text, float* value);
-    static bool DefaultFloatToText(float value, char* text);
 
     void GetBoundsRect(Rect* out) const;
     void SetBoundsRect(const Rect* r);
@@ -69,20 +68,19 @@ class iADMItem : public iADMItemBase {
     iADMList _list;
 
   private:
-    // Makes the views that the type asks for; an unknown type has none.
+    // Makes the views of the item's type; an unknown type has none.
     void make_views();
-    // What is measured and laid out as the item's own view; nil if there is none.
+    // The view without its label; may be nil.
     NSView* view() const;
     Rect best_rect() const;
 
-    // The text of the control in Mac Roman; false if there is none or it does not fit.
+    // The text of the control in Mac Roman; false if it has none or it does not fit.
     bool read_text(char (&text)[128]) const;
 
-    // A radio button's neighbours: the run of radio buttons with the ids next to its own. The walk
-    // in one direction (+1 or -1) stops when `visit` answers false.
-    template <typename Visitor>
-    void walk_radio_group(int direction, Visitor visit) const;
-    bool is_alone_in_radio_group() const;
+    // The radio buttons with consecutive ids below and above this one's.
+    std::vector<iADMItem*> rest_of_radio_group() const;
+    bool rest_of_radio_group_is_off() const;
+    // Turns this on and the rest of its group off.
     void setRadio();
 
     friend struct ItemViews;

@@ -77,7 +77,7 @@ void iADMItem::SetFont(ADMFont font) {
 void iADMItem::Enable(bool enable) {
     if (_label) {
         [_label setEnabled:enable];
-        [_label setTextColor:GetAEColor(enable ? 2 : 23)];
+        [_label setTextColor:GetAEColor(enable ? kAEText : kAEDisabledText)];
     }
     [_control setEnabled:enable];
 }

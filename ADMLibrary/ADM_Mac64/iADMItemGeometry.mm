@@ -1,5 +1,5 @@
-// Where an item's one or two views stand, how large they want to be, and the label beside a check
-// box or radio button or on a frame.
+// The place and best size of an item's views, and the label next to a check box or radio button or
+// on a frame.
 
 #include "ADMLibrary/ADM_Mac64/AEColors.h"
 #include "ADMLibrary/ADM_Mac64/Assertions.h"
@@ -11,7 +11,7 @@ using adm::wrap16;
 
 namespace {
 
-// Where the label sits: right of a button and a little lower, or on the line above a frame's box.
+// The place of the label: right of a button and a little lower, or on the line above a frame's box.
 constexpr Point kButtonLabelOffset = {2, 19};
 constexpr Point kFrameLabelOffset = {13, 9};
 

@@ -1,4 +1,4 @@
-// What an item holds: on or off, alone or within a radio group, or a number with a range.
+// The values of items: on or off, alone or in a radio group, and numbers with a range.
 
 #include "ADMLibrary/ADM_Mac64/Assertions.h"
 #include "ADMLibrary/ADM_Mac64/Geometry.h"
@@ -6,6 +6,7 @@
 #include "ADMLibrary/ADM_Mac64/iADMItem.h"
 #include "ADMLibrary/ADM_Mac64/NumberText.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -27,36 +28,29 @@ void iADMItem::SetBooleanValue(bool value) {
         [as_button(_control) setState:value];
 }
 
-template <typename Visitor>
-void iADMItem::walk_radio_group(int direction, Visitor visit) const {
-    for (std::int64_t id = std::int64_t{_id} + direction;
-         (id >= 0 || direction > 0) && id <= std::numeric_limits<int>::max(); id += direction) {
-        iADMItem* neighbour = dialog->GetItem(static_cast<int>(id));
-        if (!neighbour || !neighbour->_isRadio || !visit(*neighbour)) return;
-    }
+std::vector<iADMItem*> iADMItem::rest_of_radio_group() const {
+    std::vector<iADMItem*> rest;
+    for (const int direction : {-1, +1})
+        for (std::int64_t id = std::int64_t{_id} + direction;
+             (id >= 0 || direction > 0) && id <= std::numeric_limits<int>::max(); id += direction) {
+            iADMItem* neighbour = dialog->GetItem(static_cast<int>(id));
+            if (!neighbour || !neighbour->_isRadio) break;
+            rest.push_back(neighbour);
+        }
+    return rest;
 }
 
-bool iADMItem::is_alone_in_radio_group() const {
-    bool alone = true;
-    const auto look = [&alone](const iADMItem& neighbour) {
-        alone = !neighbour.GetBooleanValue();
-        return alone;
-    };
-    walk_radio_group(-1, look);
-    if (alone) walk_radio_group(+1, look);
-    return alone;
+bool iADMItem::rest_of_radio_group_is_off() const {
+    const auto rest = rest_of_radio_group();
+    return std::none_of(rest.begin(), rest.end(),
+                        [](const iADMItem* each) { return each->GetBooleanValue(); });
 }
 
 void iADMItem::setRadio() {
     NSButton* button = as_button(_control);
     if (!button) adm::assertion_failed("setRadio", adm::kAssertionSource, 727, "0");
     [button setState:1];
-    const auto turn_off = [this](iADMItem& neighbour) {
-        if (&neighbour != this) [as_button(neighbour._control) setState:0];
-        return true;
-    };
-    walk_radio_group(-1, turn_off);
-    walk_radio_group(+1, turn_off);
+    for (iADMItem* each : rest_of_radio_group()) [as_button(each->_control) setState:0];
 }
 
 void iADMItem::refresh_number() {
@@ -74,13 +68,9 @@ float iADMItem::GetFloatValue() {
     if (!read_text(text)) return _value;
     float number = 0;
     const bool accepted = _textToFloatProc ? _textToFloatProc(adm::handle(this), text, &number) != 0
-                                           : DefaultTextToFloat(text, &number);
+                                           : adm::text_to_float(text, &number);
     if (!accepted) return _value;
-    _value = number;
-    if (_value > _maxValue)
-        _value = _maxValue;
-    else if (_value < _minValue)
-        _value = _minValue;
+    _value = number > _maxValue ? _maxValue : number < _minValue ? _minValue : number;
     return _value;
 }
 
@@ -96,12 +86,4 @@ int iADMItem::GetIntValue() {
         result = adm::truncated(_minValue);
     _value = static_cast<float>(result);
     return result;
-}
-
-bool iADMItem::DefaultTextToFloat(const char* text, float* value) {
-    return adm::text_to_float(text, value);
-}
-
-bool iADMItem::DefaultFloatToText(float value, char* text) {
-    return adm::float_to_text(value, text);
 }

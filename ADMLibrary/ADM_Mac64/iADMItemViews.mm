@@ -1,4 +1,4 @@
-// Which Cocoa objects an item of each type is made of.
+// The Cocoa objects that make up an item of each type.
 
 #include "ADMLibrary/ADM_Mac64/AECells.h"
 #include "ADMLibrary/ADM_Mac64/AEColors.h"
@@ -15,8 +15,8 @@ struct ItemViews {
         return [[[NSButton alloc] initWithFrame:adm::frame_of(item._bounds)] autorelease];
     }
 
-    // Restacks the dialog's views so that every control stands above the frames that were there
-    // before, and puts the new frame's box on top. Controls made later come above it.
+    // Restacks the dialog's views: the earlier frames at the bottom, then all controls and labels,
+    // then the new frame's box. Controls made later come above it.
     static void make_frame(iADMItem& item) {
         item._isFrame = true;
         NSBox* box = [[[NSBox alloc] initWithFrame:adm::frame_of(item._bounds)] autorelease];
@@ -62,7 +62,7 @@ struct ItemViews {
         NSButton* made = button(item);
         [made setButtonType:adm::kSwitchButton];
         [made setCell:[[[AECheckBoxCell alloc] init] autorelease]];
-        [made setButtonType:adm::kSwitchButton]; // once more: it is the cell that toggles
+        [made setButtonType:adm::kSwitchButton]; // again: the type belongs to the cell
         [[made cell] setControlSize:adm::kSmallControlSize];
         item._control = made;
     }
@@ -87,13 +87,13 @@ struct ItemViews {
     }
 
     static void make_radio_button(iADMItem& item) {
-        const bool on = item.is_alone_in_radio_group();
+        const bool on = item.rest_of_radio_group_is_off();
         item._isRadio = true;
         NSButton* made = button(item);
         [made setButtonType:adm::kRadioButton];
         [made setState:on];
         [made setCell:[[[AERadioCell alloc] init] autorelease]];
-        // Type and state belong to the cell, and the new one knows neither.
+        // Again: type and state belong to the cell.
         [made setButtonType:adm::kRadioButton];
         [made setState:on];
         [[made cell] setControlSize:adm::kSmallControlSize];

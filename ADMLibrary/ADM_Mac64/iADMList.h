@@ -1,4 +1,4 @@
-// The list of a pop-up item, and the one entry record through which its entries are named.
+// The list of a pop-up item, and the record that refers to one of its entries.
 
 #pragma once
 
@@ -6,20 +6,20 @@
 
 #include <Cocoa/Cocoa.h>
 
-// An index into the list's menu; whether there is such an entry shows when it is used.
+// An index into the list's menu, checked when it is used.
 struct iADMEntry {
     std::int32_t i;
     iADMList* list;
 
-    void SetText(const char* text) const; // UTF-8
-    void Select() const;
+    void SetText(const char* text); // UTF-8
+    void Select();
 };
 
 class iADMList {
   public:
     virtual ~iADMList();
 
-    // Takes over the control whose menu the list is, with a reference of its own.
+    // Sets the control whose menu the list is, and retains it.
     void bind(NSControl* control);
 
     iADMEntry* InsertEntry(int index);
@@ -34,6 +34,6 @@ class iADMList {
 
   private:
     friend struct iADMEntry;
-    NSPopUpButton* pop_up() const; // nil if the control is none
+    NSPopUpButton* pop_up() const; // nil for any other control
     NSMenuItem* entry_at(int index) const;
 };

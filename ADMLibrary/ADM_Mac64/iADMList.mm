@@ -48,11 +48,11 @@ void iADMList::RemoveEntry(int index) {
     if (entry_at(index)) [[pop_up() menu] removeItemAtIndex:index];
 }
 
-void iADMEntry::SetText(const char* text) const {
+void iADMEntry::SetText(const char* text) {
     NSString* title = text ? [NSString stringWithUTF8String:text] : nil;
     if (title && list) [list->entry_at(i) setTitle:title];
 }
 
-void iADMEntry::Select() const {
+void iADMEntry::Select() {
     if (list && list->entry_at(i)) [list->pop_up() selectItemAtIndex:i];
 }

@@ -1,10 +1,10 @@
-// What a notify procedure is told: which item the user acted on.
+// The argument of a notify procedure: the item that the user acted on.
 
 #pragma once
 
 #include "ADMLibrary/ADM_Mac64/Handles.h"
 
-// The mark that a default operation leaves: handled by default.
+// The result that the default operations set: handled by default.
 constexpr std::int32_t kADMHandledByDefault = -9874;
 
 class iADMNotifier {

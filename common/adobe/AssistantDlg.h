@@ -53,13 +53,13 @@ class AssistantDlg : public BaseDlg {
     virtual void sort_layers();
 
     // The options of the user, each read from its item at the moment of the call.
-    virtual bool is_reverse_order();
-    virtual bool is_random_order();
-    virtual bool is_scale_to_fit();
-    virtual bool is_repeat_seq();
-    virtual bool is_key_pos();
-    virtual bool is_key_orient();
-    virtual bool is_key_scale();
+    virtual bool is_reverse_order() const;
+    virtual bool is_random_order() const;
+    virtual bool is_scale_to_fit() const;
+    virtual bool is_repeat_seq() const;
+    virtual bool is_key_pos() const;
+    virtual bool is_key_orient() const;
+    virtual bool is_key_scale() const;
 
     // Fills `pos`, `orient` and `scale` of the records in `layers`.
     virtual A_Err get_layers_pos() = 0;
@@ -68,13 +68,13 @@ class AssistantDlg : public BaseDlg {
     // Writes the records to their layers; always 0, since a layer that fails is passed over.
     virtual A_Err apply_to_layers();
 
-    virtual bool is_orient_changed();
+    virtual bool is_orient_changed() const;
     // What is added to every position, in composition pixels.
-    virtual math::TGeomVector3D<double> get_offset();
-    virtual bool is_text_layer_use_comp_size();
-    virtual math::TGeomVector3D<double> get_starting_point();
+    virtual math::TGeomVector3D<double> get_offset() const;
+    virtual bool is_text_layer_use_comp_size() const;
+    virtual math::TGeomVector3D<double> get_starting_point() const;
     // Whether the "Starting Value" moves the arrangement as a whole rather than its first layer.
-    virtual bool is_distributor();
+    virtual bool is_distributor() const;
 
     // What is to be done when the host may have changed; returns fill_combo_camera's result.
     virtual A_Err OnHostHasChanged();
@@ -91,18 +91,18 @@ class AssistantDlg : public BaseDlg {
     // Reads the active composition and its selection anew.
     A_Err save_selection();
     // The layers in `selection`, each once. False on failure, with what was read so far.
-    bool snap_selection(LayerSet* set);
+    bool snap_selection(LayerSet* set) const;
     // The same, with each layer's Scale and pixel size; a layer that cannot be read has none.
-    bool snap_selection(LayerSet* set, ScaleMap* scales, SizeMap* sizes);
+    bool snap_selection(LayerSet* set, ScaleMap* scales, SizeMap* sizes) const;
     // All layers of the active composition; false on failure or if it has none.
-    bool snap_comp(LayerSet* set);
+    bool snap_comp(LayerSet* set) const;
 
     // Measurement; results are written on success only.
-    A_Err collect_info(AEGP_LayerH layer, LayerInfo* info);
-    A_Err get_layer_scale(AEGP_LayerH layer, AEGP_StreamValue* scale);
-    A_Err get_layer_dimensions(AEGP_LayerH layer, int* width, int* height);
+    A_Err collect_info(AEGP_LayerH layer, LayerInfo* info) const;
+    A_Err get_layer_scale(AEGP_LayerH layer, AEGP_StreamValue* scale) const;
+    A_Err get_layer_dimensions(AEGP_LayerH layer, int* width, int* height) const;
     // The orientation that faces the camera `layer`, degrees, into the value of `orient`.
-    A_Err get_layer_orientation(AEGP_LayerH layer, AEGP_StreamValue* orient);
+    A_Err get_layer_orientation(AEGP_LayerH layer, AEGP_StreamValue* orient) const;
     // That of the camera chosen in the pop-up, into `camera_orient`; nothing without a choice.
     A_Err get_camera_orientation();
 
@@ -117,8 +117,8 @@ class AssistantDlg : public BaseDlg {
     _Opaque_ADMItem* item(int id) const;
     bool is_on(int id) const;
     float number(int id) const;
-    void enable_item(int id, bool enable) const;
-    void set_on(int id, bool on) const;
+    void enable_item(int id, bool enable);
+    void set_on(int id, bool on);
     void enable_repeat_layers();
 
     AEGP_PluginID plugin_id;
@@ -135,33 +135,30 @@ class AssistantDlg : public BaseDlg {
     LayerSet saved_layers;
 
   private:
-    A_Err read_selection(std::vector<AEGP_LayerH>* selected);
-    A_Err append_selection(std::vector<AEGP_LayerH>* selected);
-    A_Err active_comp(AEGP_SuiteHandler& suites, AEGP_ItemH* item, AEGP_CompH* found);
+    void apply_without_throwing();
+    A_Err count_selected_items(A_u_long* count) const;
+    A_Err collect_layers(A_u_long count);
+    void shuffle_layers();
+    void remember_scales();
+    AEGP_LayerH duplicate_of_selected(AEGP_SuiteHandler& suites);
+
+    // The active item and its composition. When the active item is no composition, `item` is null
+    // and `found` stays as it is.
+    static A_Err active_comp(AEGP_SuiteHandler& suites, AEGP_ItemH* item, AEGP_CompH* found);
+    // The layers in `selection`, each once, in the order of their handles; on an error those that
+    // come before it.
+    A_Err read_selection(std::vector<AEGP_LayerH>* selected) const;
     A_Err measure_largest_source(AEGP_SuiteHandler& suites,
                                  const std::vector<AEGP_LayerH>& selected);
-    struct Snapshot { // of a selected layer; without its numbers when it cannot be measured
-        AEGP_LayerH layer;
-        bool is_measured;
-        AEGP_StreamValue scale;
-        A_LPoint size;
-    };
-    bool read_scales(std::vector<Snapshot>* snapshots);
-    static void keep(const std::vector<Snapshot>& snapshots, LayerSet* set, ScaleMap* scales,
-                     SizeMap* sizes);
+    void release_selection();
+
     struct CameraList {
         std::vector<AEGP_LayerH> layers;
         std::vector<std::string> names;
     };
-    A_Err read_cameras(std::optional<CameraList>* found);
+    A_Err read_cameras(std::optional<CameraList>* found) const;
     void show_cameras(_Opaque_ADMList* list, const CameraList& found);
     int chosen_camera(_Opaque_ADMList* list) const;
-    A_Err collect_selected_layers(A_u_long count);
-    A_Err arrange_selection(bool has_camera_popup);
-    void shuffle_layers();
-    void remember_scales();
-    AEGP_LayerH duplicate_of_selected(AEGP_SuiteHandler& suites);
-    void release_selection();
-    void apply_quietly();
+
     math::TGeomVector3D<double> start_value() const;
 };

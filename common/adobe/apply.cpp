@@ -8,12 +8,22 @@
 #include "math/random.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <ctime>
-#include <functional>
-#include <utility>
 #include <vector>
 
 namespace {
+
+class UndoGroup {
+  public:
+    explicit UndoGroup(const AEGP_UtilitySuite3& utility) : _utility(utility) {}
+    ~UndoGroup() { _utility.AEGP_EndUndoGroup(); }
+    UndoGroup(const UndoGroup&) = delete;
+    UndoGroup& operator=(const UndoGroup&) = delete;
+
+  private:
+    const AEGP_UtilitySuite3& _utility;
+};
 
 // Writes one stream of a layer, after a key at `key_time` if there is one. A stream that the host
 // refuses is passed over: the others are still to be written.
@@ -22,48 +32,6 @@ void write(AEGP_PluginID plugin_id, AEGP_LayerH layer, AEGP_LayerStream stream,
     StreamValue target(plugin_id, layer, stream);
     if (key_time) target.insert_key(*key_time, AEGP_LTimeMode_CompTime, nullptr);
     target.set_value(value);
-}
-
-// Finds layers that are asked for in rising order: walks once along a container in that order.
-template <typename Container>
-class Walk {
-  public:
-    explicit Walk(Container& container) : _at(container.begin()), _end(container.end()) {}
-
-    // Null for a layer that is not there.
-    auto* find(AEGP_LayerH layer) {
-        while (_at != _end && std::less<AEGP_LayerH>()(layer_of(*_at), layer)) ++_at;
-        return _at != _end && layer_of(*_at) == layer ? &*_at : nullptr;
-    }
-
-  private:
-    static AEGP_LayerH layer_of(AEGP_LayerH layer) { return layer; }
-    template <typename Value>
-    static AEGP_LayerH layer_of(const std::pair<AEGP_LayerH, Value>& entry) {
-        return entry.first;
-    }
-    template <typename Value>
-    static AEGP_LayerH layer_of(const std::pair<const AEGP_LayerH, Value>& entry) {
-        return entry.first;
-    }
-
-    typename Container::iterator _at, _end;
-};
-
-// Moves values among their places: the i-th gets what stood at the place drawn[i], a permutation.
-void rearrange(const std::vector<LayerInfo*>& places, std::vector<std::size_t>& drawn) {
-    for (std::size_t start = 0; start < drawn.size(); ++start) {
-        if (drawn[start] == start) continue;
-        const LayerInfo first = *places[start];
-        std::size_t to = start;
-        for (std::size_t from = drawn[to]; from != start; from = drawn[to]) {
-            *places[to] = *places[from];
-            drawn[to] = to;
-            to = from;
-        }
-        *places[to] = first;
-        drawn[to] = to;
-    }
 }
 
 bool is_placeable(AEGP_ObjectType type) {
@@ -81,24 +49,12 @@ A_Err AssistantDlg::apply_assistant() {
     AEGP_SuiteHandler suites(sSPBasic);
     const AEGP_UtilitySuite3& utility = suites.UtilitySuite3();
     if (const A_Err err = utility.AEGP_StartUndoGroup(get_name().c_str())) return err;
-    struct UndoGroup { // closed also when a suite turns out to be missing
-        const AEGP_UtilitySuite3& utility;
-        ~UndoGroup() { utility.AEGP_EndUndoGroup(); }
-    } const group{utility};
-    return arrange_selection(has_camera_popup);
-}
+    const UndoGroup undo_group(utility); // ends also when a suite is missing later on
 
-A_Err AssistantDlg::arrange_selection(bool has_camera_popup) {
-    if (!selection) return A_Err_NONE; // the active item is no composition
     A_u_long count = 0;
-    {
-        AEGP_SuiteHandler suites(sSPBasic);
-        if (const A_Err err =
-                suites.CollectionSuite1().AEGP_GetCollectionNumItems(selection, &count))
-            return err;
-    }
+    if (const A_Err err = count_selected_items(&count)) return err;
     if (count == 0) return A_Err_NONE;
-    if (const A_Err err = collect_selected_layers(count)) return err;
+    if (const A_Err err = collect_layers(count)) return err;
     if (has_camera_popup)
         if (const A_Err err = get_camera_orientation()) return err;
     sort_layers();
@@ -109,8 +65,15 @@ A_Err AssistantDlg::arrange_selection(bool has_camera_popup) {
     return apply_to_layers();
 }
 
-// Records of the 3D layers among the `count` selected items, in the order of the selection.
-A_Err AssistantDlg::collect_selected_layers(A_u_long count) {
+// Counts nothing when the active item is no composition.
+A_Err AssistantDlg::count_selected_items(A_u_long* count) const {
+    if (!selection) return A_Err_NONE;
+    AEGP_SuiteHandler suites(sSPBasic);
+    return suites.CollectionSuite1().AEGP_GetCollectionNumItems(selection, count);
+}
+
+// Makes a record for each 3D layer among the `count` selected items, in the order of the selection.
+A_Err AssistantDlg::collect_layers(A_u_long count) {
     layers.clear();
     AEGP_SuiteHandler suites(sSPBasic);
     for (A_u_long i = 0; i < count; ++i) {
@@ -142,74 +105,22 @@ void AssistantDlg::sort_layers() {
 
 // Draws the records one by one out of those that remain.
 void AssistantDlg::shuffle_layers() {
-    std::vector<LayerInfo*> places;
-    places.reserve(layers.size());
-    for (LayerInfo& record : layers) places.push_back(&record);
-    RemainingIndices remaining(places.size());
-    std::vector<std::size_t> drawn(places.size());
-    for (std::size_t& index : drawn) {
+    const std::vector<LayerInfo> records(layers.begin(), layers.end());
+    RemainingIndices remaining(records.size());
+    for (LayerInfo& place : layers) {
         const auto number = static_cast<std::uint64_t>(math::LRand());
-        index = remaining.take(number % remaining.size());
+        place = records[remaining.take(number % remaining.size())];
     }
-    rearrange(places, drawn);
-}
-
-// Every fit starts from the scales that the layers had before the first one; the first Apply
-// without a fit puts them back.
-void AssistantDlg::remember_scales() {
-    const bool fit = is_scale_to_fit();
-    if (scales_saved) {
-        scales_saved = fit;
-        restore_scale();
-    } else if (fit) {
-        snap_selection(&saved_layers, &saved_scales, &saved_sizes);
-        scales_saved = true;
-    }
-}
-
-void AssistantDlg::restore_scale() {
-    std::vector<Snapshot> current;
-    if (!read_scales(&current)) return;
-
-    std::vector<std::pair<AEGP_LayerH, LayerInfo*>> records; // of a layer with several the first
-    records.reserve(layers.size());
-    for (LayerInfo& record : layers) records.emplace_back(record.layer, &record);
-    std::stable_sort(records.begin(), records.end(), [](const auto& a, const auto& b) {
-        return std::less<AEGP_LayerH>()(a.first, b.first);
-    });
-    Walk in_records(records);
-    Walk in_layers(saved_layers);
-    Walk in_scales(saved_scales);
-    Walk in_sizes(saved_sizes);
-    std::size_t restored = 0, measured = 0, known = 0;
-    for (Snapshot& it : current) {
-        const auto* record = in_records.find(it.layer);
-        const auto* scale = in_scales.find(it.layer);
-        const auto* size = in_sizes.find(it.layer);
-        const bool is_saved = in_layers.find(it.layer);
-        known += is_saved;
-        if (is_saved && record && scale && size) {
-            record->second->scale = it.scale = scale->second;
-            record->second->set_scaled_size(it.size = size->second);
-            it.is_measured = true;
-            ++restored;
-        }
-        measured += it.is_measured;
-    }
-    // Mostly the same layers are selected as before: all that is remembered stays.
-    const bool same_layers = known == current.size() && known == saved_layers.size();
-    const bool same_scales =
-        measured == restored && measured == saved_scales.size() && measured == saved_sizes.size();
-    if (!same_layers || !same_scales) keep(current, &saved_layers, &saved_scales, &saved_sizes);
 }
 
 A_Err AssistantDlg::apply_to_layers() {
     const bool orient_changed = is_orient_changed();
     const bool key_orient = is_key_orient(), key_pos = is_key_pos(), key_scale = is_key_scale();
     const math::TGeomVector3D<double> offset = get_offset();
-    AEGP_StreamValue zero{}; // not const: the stream writer notes the stream in it
+    AEGP_StreamValue zero{}; // not const: writing it fills its stream slot
     for (LayerInfo& record : layers) {
-        if (record.is_copy && !(record.layer = clone(record.layer))) continue;
+        if (record.is_copy) record.layer = clone(record.layer);
+        if (!record.layer) continue; // no duplicate was made
         const auto put = [&](AEGP_LayerStream stream, const AEGP_StreamValue& value, bool key) {
             write(plugin_id, record.layer, stream, value, key ? &record.time : nullptr);
         };

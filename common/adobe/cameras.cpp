@@ -6,9 +6,9 @@
 
 #include <algorithm>
 
-// What the active composition has. No camera and no error, with `found` untouched, when it is no
-// composition or has no layers.
-A_Err AssistantDlg::read_cameras(std::optional<CameraList>* found) {
+// The cameras of the active composition, top first. Without an active composition, or in one
+// without layers, `found` stays as it is and there is no error.
+A_Err AssistantDlg::read_cameras(std::optional<CameraList>* found) const {
     AEGP_SuiteHandler suites(sSPBasic);
     AEGP_ItemH item = nullptr;
     AEGP_CompH active = nullptr;

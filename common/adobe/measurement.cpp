@@ -4,14 +4,9 @@
 #include "common/adobe/angles.h"
 #include "common/adobe/AssistantDlg.h"
 
-#include <cmath>
-
 namespace {
 
-using Matrix = math::TMatrix3D<double>;
 using Vector = math::TGeomVector3D<double>;
-
-constexpr double tiny = 1e-12;
 
 // Reads streams of one layer at one time, as they are after expressions.
 class LayerReader {
@@ -53,45 +48,9 @@ class LayerReader {
     AEGP_LayerH layer;
 };
 
-struct Angles {
-    double x, y, z; // degrees
-};
-
-// The angles by which a layer turns away from half a turn about y to look along `d`: the direction
-// of a camera from its point of interest, of length 1 or 0.
-Angles facing_angles(const Vector& d) {
-    const double r = length(d);
-    double phi = 0, theta = 0;
-    if (!(r < tiny)) {
-        phi = math::acos(d.y / r);
-        const double h = std::sqrt(d.x * d.x + d.z * d.z);
-        if (!(h < tiny)) {
-            theta = math::acos(d.z / h);
-            if (d.x < 0) theta = full_turn - theta;
-        }
-    }
-    const Vector ex(1, 0, 0), ez(0, 0, 1);
-    const Vector f(std::cos(theta), 0, -std::sin(theta));
-    const Vector g = cross(d, f);
-    const Vector k = cross(d, ex);
-
-    double a1 = 0, a2, a3 = 0;
-    if (length(k) > tiny) {
-        const Vector m = cross(k, d).Normalized();
-        a1 = signed_angle(f, m, dot(cross(f, m), d));
-        const Vector turned_g = Matrix::BuildRotate(d, a1) * g;
-        a2 = signed_angle(ex, m, dot(cross(m, ex), turned_g));
-        a3 = ez ^ (Matrix::BuildRotate(turned_g, a2) * d);
-    } else {
-        a2 = signed_angle(f, ex, dot(cross(f, ex), g));
-    }
-    const double x = a3 * degrees_per_radian;
-    return {phi < quarter_turn ? -x : x, a2 * degrees_per_radian, a1 * degrees_per_radian};
-}
-
 } // namespace
 
-A_Err AssistantDlg::get_layer_scale(AEGP_LayerH layer, AEGP_StreamValue* scale) {
+A_Err AssistantDlg::get_layer_scale(AEGP_LayerH layer, AEGP_StreamValue* scale) const {
     AEGP_SuiteHandler suites(sSPBasic);
     const LayerReader reader(suites, layer);
     A_Time time{};
@@ -102,7 +61,7 @@ A_Err AssistantDlg::get_layer_scale(AEGP_LayerH layer, AEGP_StreamValue* scale) 
     return A_Err_NONE;
 }
 
-A_Err AssistantDlg::get_layer_dimensions(AEGP_LayerH layer, int* width, int* height) {
+A_Err AssistantDlg::get_layer_dimensions(AEGP_LayerH layer, int* width, int* height) const {
     AEGP_SuiteHandler suites(sSPBasic);
     AEGP_ItemH source = nullptr;
     if (const A_Err err = suites.LayerSuite5().AEGP_GetLayerSourceItem(layer, &source)) return err;
@@ -116,7 +75,7 @@ A_Err AssistantDlg::get_layer_dimensions(AEGP_LayerH layer, int* width, int* hei
     return A_Err_NONE;
 }
 
-A_Err AssistantDlg::collect_info(AEGP_LayerH layer, LayerInfo* out) {
+A_Err AssistantDlg::collect_info(AEGP_LayerH layer, LayerInfo* out) const {
     AEGP_SuiteHandler suites(sSPBasic);
     const LayerReader reader(suites, layer);
     LayerInfo info;
@@ -136,7 +95,7 @@ A_Err AssistantDlg::collect_info(AEGP_LayerH layer, LayerInfo* out) {
     return A_Err_NONE;
 }
 
-A_Err AssistantDlg::get_layer_orientation(AEGP_LayerH layer, AEGP_StreamValue* out) {
+A_Err AssistantDlg::get_layer_orientation(AEGP_LayerH layer, AEGP_StreamValue* out) const {
     AEGP_SuiteHandler suites(sSPBasic);
     const LayerReader reader(suites, layer);
     A_Time time{};
@@ -147,9 +106,13 @@ A_Err AssistantDlg::get_layer_orientation(AEGP_LayerH layer, AEGP_StreamValue* o
     if (const A_Err err = reader.value(AEGP_LayerStream_ANCHORPOINT, time, &target)) return err;
 
     const AEGP_ThreeDVal &p = position.three_d, &a = target.three_d;
-    const Angles facing = facing_angles(Vector(p.x - a.x, p.y - a.y, p.z - a.z).Normalized());
+    const Vector direction = Vector(p.x - a.x, p.y - a.y, p.z - a.z).Normalized();
+    const FacingAngles facing = facing_angles(direction);
+    const double x = facing.x * degrees_per_radian, y = facing.y * degrees_per_radian,
+                 z = facing.z * degrees_per_radian;
+    const bool looks_up = math::acos(direction.y) < quarter_turn;
     AEGP_ThreeDVal& angles = orientation.three_d;
-    angles = {angles.x + facing.x, angles.y + 180.0 - facing.y, angles.z + facing.z};
+    angles = {angles.x + (looks_up ? -x : x), angles.y + 180.0 - y, angles.z + z};
     out->val = orientation;
     return A_Err_NONE;
 }

@@ -2,7 +2,6 @@
 
 #include "ADMLibrary/HostPointers.h"
 #include "common/adobe/AssistantDlg.h"
-#include "common/adobe/item_ids.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -43,7 +42,6 @@ void AssistantDlg::release_selection() {
     selection = nullptr;
 }
 
-// Leaves `found` as it is when the active item is no composition, and tells so by a null item.
 A_Err AssistantDlg::active_comp(AEGP_SuiteHandler& suites, AEGP_ItemH* item, AEGP_CompH* found) {
     const AEGP_ItemSuite3& items = suites.ItemSuite3();
     *item = nullptr;
@@ -101,96 +99,42 @@ A_Err AssistantDlg::measure_largest_source(AEGP_SuiteHandler& suites,
     return A_Err_NONE;
 }
 
-// The selected layers, each once, in the order of their handles; on an error those before it.
-A_Err AssistantDlg::read_selection(std::vector<AEGP_LayerH>* selected) {
+A_Err AssistantDlg::read_selection(std::vector<AEGP_LayerH>* selected) const {
     selected->clear();
-    const A_Err err = append_selection(selected);
-    // Mostly they come in order, so that there is nothing to sort.
+    AEGP_SuiteHandler suites(sSPBasic);
+    const AEGP_CollectionSuite1& collections = suites.CollectionSuite1();
+    A_u_long count = 0;
+    A_Err err = collections.AEGP_GetCollectionNumItems(selection, &count);
+    for (A_u_long i = 0; i < count && !err; ++i) {
+        AEGP_CollectionItem found{};
+        err = collections.AEGP_GetCollectionItemByIndex(selection, i, &found);
+        if (!err && found.type == AEGP_CollectionItemType_LAYER && found.layerH)
+            selected->push_back(found.layerH);
+    }
     const std::less<AEGP_LayerH> before;
-    if (!std::is_sorted(selected->begin(), selected->end(), before))
+    if (!std::is_sorted(selected->begin(), selected->end(), before)) // mostly they are
         std::sort(selected->begin(), selected->end(), before);
     selected->erase(std::unique(selected->begin(), selected->end()), selected->end());
     return err;
 }
 
-A_Err AssistantDlg::append_selection(std::vector<AEGP_LayerH>* selected) {
-    AEGP_SuiteHandler suites(sSPBasic);
-    const AEGP_CollectionSuite1& collections = suites.CollectionSuite1();
-    A_u_long count = 0;
-    if (const A_Err err = collections.AEGP_GetCollectionNumItems(selection, &count)) return err;
-    for (A_u_long i = 0; i < count; ++i) {
-        AEGP_CollectionItem found{};
-        if (const A_Err err = collections.AEGP_GetCollectionItemByIndex(selection, i, &found))
-            return err;
-        if (found.type == AEGP_CollectionItemType_LAYER && found.layerH)
-            selected->push_back(found.layerH);
-    }
-    return A_Err_NONE;
-}
-
-bool AssistantDlg::snap_selection(LayerSet* set) {
+bool AssistantDlg::snap_selection(LayerSet* set) const {
     if (!selection || !set) return false;
     std::vector<AEGP_LayerH> selected;
     const A_Err err = read_selection(&selected);
-    set->clear();
-    set->insert(selected.begin(), selected.end());
+    *set = LayerSet(selected.begin(), selected.end());
     return err == A_Err_NONE;
 }
 
-// Every selected layer in the order of the handles, with what could be read of it. False when the
-// selection could not be read, with the layers so far and nothing of them.
-bool AssistantDlg::read_scales(std::vector<Snapshot>* snapshots) {
-    snapshots->clear();
-    if (!selection) return false;
-    std::vector<AEGP_LayerH> selected;
-    const bool is_whole = read_selection(&selected) == A_Err_NONE;
-    snapshots->reserve(selected.size());
-    for (AEGP_LayerH layer : selected) {
-        LayerInfo info;
-        const bool is_measured = is_whole && collect_info(layer, &info) == A_Err_NONE;
-        snapshots->push_back({layer, is_measured, info.scale, info.scaled_size()});
-    }
-    return is_whole;
-}
-
-void AssistantDlg::keep(const std::vector<Snapshot>& snapshots, LayerSet* set, ScaleMap* scales,
-                        SizeMap* sizes) {
-    set->clear();
+bool AssistantDlg::snap_selection(LayerSet* set, ScaleMap* scales, SizeMap* sizes) const {
+    if (!scales || !snap_selection(set)) return false;
     scales->clear();
     if (sizes) sizes->clear();
-    for (const Snapshot& it : snapshots) {
-        set->insert(set->end(), it.layer);
-        if (!it.is_measured) continue;
-        scales->emplace_hint(scales->end(), it.layer, it.scale);
-        if (sizes) sizes->emplace_hint(sizes->end(), it.layer, it.size);
-    }
-}
-
-bool AssistantDlg::snap_selection(LayerSet* set, ScaleMap* scales, SizeMap* sizes) {
-    if (!selection || !set || !scales) return false;
-    std::vector<Snapshot> snapshots;
-    if (read_scales(&snapshots)) {
-        keep(snapshots, set, scales, sizes);
-        return true;
-    }
-    set->clear();
-    for (const Snapshot& it : snapshots) set->insert(set->end(), it.layer);
-    return false;
-}
-
-bool AssistantDlg::snap_comp(LayerSet* set) {
-    set->clear();
-    AEGP_SuiteHandler suites(sSPBasic);
-    AEGP_ItemH item = nullptr;
-    AEGP_CompH active = nullptr;
-    if (active_comp(suites, &item, &active) || !active) return false;
-    const AEGP_LayerSuite5& layer_suite = suites.LayerSuite5();
-    A_long count = 0;
-    if (layer_suite.AEGP_GetCompNumLayers(active, &count) || count < 1) return false;
-    for (A_long i = 0; i < count; ++i) {
-        AEGP_LayerH layer = nullptr;
-        if (layer_suite.AEGP_GetCompLayerByIndex(active, i, &layer) || !layer) return false;
-        set->insert(layer);
+    LayerInfo info;
+    for (AEGP_LayerH layer : *set) {
+        if (collect_info(layer, &info)) continue;
+        scales->emplace_hint(scales->end(), layer, info.scale);
+        if (sizes) sizes->emplace_hint(sizes->end(), layer, info.scaled_size());
     }
     return true;
 }
@@ -208,16 +152,4 @@ bool AssistantDlg::isCurSelectionContains(unsigned int mask) {
         if (mask_bit(type, is_3d) & mask) contains = true;
     }
     return contains;
-}
-
-A_Err AssistantDlg::OnHostHasChanged() {
-    return fill_combo_camera();
-}
-
-void AssistantDlg::constrain_layers() {
-    if (!item(item_repeat) || !item(item_repeat_count) || !is_on(item_repeat)) return;
-    std::list<LayerInfo> copies = layers;
-    for (LayerInfo& copy : copies) copy.is_copy = true;
-    const int repeats = sADMItem->GetIntValue(item(item_repeat_count));
-    for (int i = 0; i < repeats; ++i) layers.insert(layers.end(), copies.begin(), copies.end());
 }

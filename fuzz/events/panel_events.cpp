@@ -61,7 +61,7 @@ void do_one(Session& session, fuzz::Bytes& bytes) {
 void fuzz::try_input(Bytes& bytes) {
     std::ostringstream out;
     std::string reports;
-    Session session(parse_scene(scene, "scene"), {}, make_screen(), out,
+    Session session(parse_scene(scene, "scene"), {}, make_dialog_driver(), out,
                     [&](const std::string& line) {
                         // The scene may lose a layer that the next idle call would have told of.
                         if (!line.ends_with("a layer that is no more")) reports += line + "\n";

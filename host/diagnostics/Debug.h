@@ -1,6 +1,6 @@
-// For whoever debugs the plug-in: message boxes, a trace buffer, the text of a stream.
+// Diagnostics for debugging the plug-in: message boxes, a trace buffer, the text of a stream.
 //
-// Main thread only. A formatted text is cut to 2047 characters.
+// Main thread only. Formatted text is cut to 2047 characters.
 
 #pragma once
 
@@ -8,8 +8,8 @@
 
 namespace debug {
 
-// Low bits of a message box's type: its buttons. 6 and above stand for MB_OK; higher bits have no
-// effect.
+// The low four bits of a message box's type: its buttons. 6 and above mean MB_OK. The higher bits
+// have no effect.
 enum : unsigned int {
     MB_OK = 0,
     MB_OKCANCEL = 1,
@@ -20,9 +20,9 @@ enum : unsigned int {
 };
 
 // Shows an alert and waits: 1, 2 or 3 for the first, second or third button. -1 if caption or text
-// is null (nothing is shown) or if the alert fails. The text is shown as it reads.
+// is null (nothing is shown) or if the alert fails. The text is not a format.
 int MessageBox(const char* caption, const char* text, unsigned int type);
-// The same with a text made by the rules of printf.
+// The same with a text formatted by the rules of printf.
 int MessageBox(unsigned int type, const char* caption, const char* format, ...)
     __attribute__((format(printf, 3, 4)));
 int InfoMessageBox(const char* caption, const char* text);
@@ -31,13 +31,12 @@ bool QuestionMessageBox(const char* caption, const char* text); // true for "Yes
 // Shows the text, then throws the int -1.
 [[noreturn]] void ThrowError(const char* text);
 
-// Formats into a buffer that a debugger can look at; prints nothing. The length of the whole text,
-// or a negative number if the format is no good.
+// Formats into a buffer for the debugger; prints nothing. Returns the length of the whole text, or
+// a negative number if the format is invalid.
 int Trace(const char* format, ...) __attribute__((format(printf, 1, 2)));
 
-// The text of a string stream, at most 1023 characters of it, without its first character if that
-// is '0'; the stream can be written afresh then. Good until the next call. The last two arguments
-// are not used.
+// The first 1023 characters of a string stream's text, less the first one if that is '0'. Rewinds
+// the stream to be written again. Valid until the next call. The last two arguments are not used.
 const char* MakeErrorString(std::basic_ostream<char, std::char_traits<char>>& stream, int,
                             const char*);
 

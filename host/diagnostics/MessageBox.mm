@@ -21,10 +21,10 @@ const ButtonSet& buttons_of(unsigned int type) {
     return kButtonSets[set < std::size(kButtonSets) ? set : 0];
 }
 
-// How much the alert's icon would matter, if it had one.
-constexpr unsigned int kInformation = 16;
-constexpr unsigned int kError = 64;
-constexpr unsigned int kQuestion = 32;
+// Types of message boxes. Their bits above the button set have no effect.
+constexpr unsigned int kInformation = 16 | debug::MB_OK;
+constexpr unsigned int kError = 64 | debug::MB_OK;
+constexpr unsigned int kQuestion = 32 | debug::MB_YESNO;
 
 char message_buffer[2048];
 
@@ -71,7 +71,7 @@ int ErrorMessageBox(const char* caption, const char* text) {
 }
 
 bool QuestionMessageBox(const char* caption, const char* text) {
-    return MessageBox(caption, text, kQuestion | MB_YESNO) == 1;
+    return MessageBox(caption, text, kQuestion) == 1;
 }
 
 void ThrowError(const char* text) {

@@ -1,5 +1,5 @@
-// The module's entry and the hooks that it registers. All of them work on the one dialog object and
-// let no exception out: a host error, thrown as an int, is their result, anything else gives 1.
+// The module's entry function and the hooks that it registers. They share one dialog object and
+// never throw: they return a host error that is thrown as an int, and 1 for any other exception.
 
 #include "ADMLibrary/HostPointers.h"
 #include "cylinder/MainDlg.h"
@@ -37,7 +37,7 @@ _Opaque_ADMDialog* toolkit_dialog() {
     return *_main_dlg;
 }
 
-// Brings the camera pop-up up to date, and enables the dialog while there is something to place.
+// Updates the camera pop-up, and enables the dialog if there is something to place.
 void refresh() {
     const bool placeable = _main_dlg->isCurSelectionContains(AssistantDlg::placeable);
     _main_dlg->OnHostHasChanged();
@@ -50,7 +50,7 @@ A_Err on_destroy(AEGP_GlobalRefcon, AEGP_DeathRefcon) {
         _main_dlg = nullptr;
         if (!dialog) return A_Err_NONE;
         sADMDialog->Show(*dialog, false);
-        dialog->Destroy(); // gives back what it holds of the host
+        dialog->Destroy(); // releases what it holds of the host
         return A_Err_NONE;
     });
     adm::releaseSuites();
@@ -87,7 +87,7 @@ A_Err on_command(AEGP_GlobalRefcon, AEGP_CommandRefcon, AEGP_Command, AEGP_HookP
     }
 }
 
-// Every command of the host passes through untouched.
+// Leaves every command to the host.
 A_Err on_all_command(AEGP_GlobalRefcon, AEGP_CommandRefcon, AEGP_Command, AEGP_HookPriority,
                      A_Boolean, A_Boolean* handled) {
     *handled = false;
@@ -131,7 +131,7 @@ void report(AEGP_SuiteHandler& suites, const char* text) {
     suites.UtilitySuite3().AEGP_ReportInfo(_plugin_id, text);
 }
 
-// The dialog object outlives its toolkit dialogs: it is used again for every later showing.
+// The dialog object outlives its toolkit dialogs: every later one reuses it.
 A_Err make_dialog() {
     adm::acquireSuites();
     _main_dlg = nullptr;
@@ -156,8 +156,8 @@ A_Err add_menu_command(AEGP_SuiteHandler& suites) {
                                            AEGP_MENU_INSERT_AT_BOTTOM);
 }
 
-// Stops at the first that fails; what is registered before it stays so. Without a command of our
-// own there is no command hook: the host would take id 0 for all commands.
+// Stops at the first failure; the hooks registered before it stay registered. Without a command of
+// our own there is no hook for it: the host would take id 0 for all commands.
 A_Err register_hooks(AEGP_SuiteHandler& suites) {
     if (const A_Err err = add_menu_command(suites)) return err;
     const AEGP_RegisterSuite6& hooks = suites.RegisterSuite6();

@@ -20,7 +20,7 @@ const void* AEGP_SuiteHandler::LoadSuite(const char* name, A_long version) {
     if (_used == _slots.size() || _basic->AcquireSuite(name, version, &suite) != A_Err_NONE)
         MissingSuiteError();
     if (!suite) {
-        // A success counts as a use, even one that gave nothing.
+        // A success counts as a use, even without a table.
         _basic->ReleaseSuite(name, version);
         MissingSuiteError();
     }

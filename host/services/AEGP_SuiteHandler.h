@@ -1,5 +1,5 @@
-// The host's suites for the length of one function: acquired when first asked for, given back when
-// the handler goes out of scope, whatever way that is.
+// The host's suites for the length of one function: acquired when first used, released when the
+// handler goes out of scope.
 
 #pragma once
 
@@ -15,14 +15,14 @@ class AEGP_SuiteHandler {
     AEGP_SuiteHandler(const AEGP_SuiteHandler&) = delete;
     AEGP_SuiteHandler& operator=(const AEGP_SuiteHandler&) = delete;
 
-    // The table of a suite, acquired at the first call with this name and version and the same from
-    // then on. `name` must outlive the handler. Throws the int 516 if the host does not have it.
+    // The table of a suite, acquired at the first call with this name and version. `name` must
+    // outlive the handler. Throws the int 516 if the host does not have it.
     const void* LoadSuite(const char* name, A_long version);
 
-    // Gives back every suite acquired so far, the last one first. The handler can be used again.
+    // Releases every suite acquired so far, the last one first. The handler can be used again.
     void ReleaseAllSuites();
 
-    // What happens when a suite cannot be had: throws the int 516.
+    // Throws the int 516.
     [[noreturn]] static void MissingSuiteError();
 
     const AEGP_RegisterSuite6& RegisterSuite6() {
@@ -72,6 +72,6 @@ class AEGP_SuiteHandler {
     };
 
     SPBasicSuite* _basic;
-    std::array<Slot, 16> _slots; // more than the host has suites for us
+    std::array<Slot, 16> _slots; // more than the accessors above
     std::size_t _used = 0;
 };

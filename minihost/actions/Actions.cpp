@@ -84,16 +84,16 @@ void set(Session& session, const Words& words) {
     const std::size_t equals = words[0].find('=');
     const std::string name = words[0].substr(0, equals), value = words[0].substr(equals + 1);
     const ControlInDialog control = find_control(session, name);
-    session.enter([&] { session.screen().set(control.panel, control.id, name, value); });
+    session.enter([&] { session.dialog_driver().set(control.panel, control.id, name, value); });
 }
 
 void click(Session& session, const Words& words) {
     const ControlInDialog control = find_control(session, words[0]);
-    session.enter([&] { session.screen().click(control.panel, control.id, words[0]); });
+    session.enter([&] { session.dialog_driver().click(control.panel, control.id, words[0]); });
 }
 
 void answer(Session& session, const Words& words) {
-    session.screen().answer_next_alert(number(words[0], 1, 9));
+    session.dialog_driver().answer_next_alert(number(words[0], 1, 9));
 }
 
 // Nothing is left to do: posted events are handled before every action.

@@ -57,7 +57,7 @@ void post(Session& session, const RawEvent& event) {
     const Dialog dialog = session.dialog();
     if (!dialog.visible)
         throw ActionError(dialog.exists ? "the dialog is not visible" : "the dialog is not there");
-    session.enter([&] { session.screen().post(dialog.panel, event); });
+    session.enter([&] { session.dialog_driver().post(dialog.panel, event); });
 }
 
 } // namespace

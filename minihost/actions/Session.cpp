@@ -1,10 +1,10 @@
 #include "minihost/actions/Session.h"
 
+#include "minihost/dialog/Picture.h"
 #include "minihost/model/OutputFile.h"
 #include "minihost/model/SceneReader.h"
 #include "minihost/model/SceneWriter.h"
-#include "minihost/view/PictureFile.h"
-#include "minihost/view/preview.h"
+#include "minihost/preview/Preview.h"
 
 namespace minihost {
 
@@ -21,12 +21,12 @@ void throwing_action_error(const Body& body) {
 
 } // namespace
 
-Session::Session(Scene scene, HostOptions options, std::unique_ptr<Screen> screen,
+Session::Session(Scene scene, HostOptions options, std::unique_ptr<DialogDriver> driver,
                  std::ostream& out, Host::Reporter report)
-    : _screen(std::move(screen)),
+    : _driver(std::move(driver)),
       _out(out),
       _host(std::move(scene), std::move(options), std::move(report),
-            [this] { return _screen->make_panel(); }) {}
+            [this] { return _driver->make_panel(); }) {}
 
 Session::~Session() {
     unload();
@@ -46,19 +46,20 @@ std::vector<std::string> Session::unload() {
 }
 
 void Session::settle() {
-    enter([this] { _screen->settle(); });
+    enter([this] { _driver->settle(); });
 }
 
 void Session::enter(const std::function<void()>& body) {
-    _screen->with_pool([&] { _host.enter(body); });
-    for (const std::string& text : _screen->new_alerts()) _host.alert(text);
+    _driver->with_pool([&] { _host.enter(body); });
+    for (const std::string& text : _driver->new_alerts()) _host.alert(text);
 }
 
 Dialog Session::dialog() const {
     if (const PanelView* panel = _host.panels.view())
         return {true, panel->is_visible(), true, panel, panel->title()};
-    if (_screen->has_window())
-        return {true, _screen->window_is_visible(), false, nullptr, _screen->window_title()};
+    if (_driver->has_floating_dialog())
+        return {true, _driver->floating_dialog_is_visible(), false, nullptr,
+                _driver->floating_dialog_title()};
     return {};
 }
 
@@ -76,7 +77,7 @@ void Session::save_scene(const std::string& path) {
 }
 
 void Session::save_preview(const std::string& path) {
-    throwing_action_error([&] { render_preview(_host.document.scene(), path, picture_scale); });
+    throwing_action_error([&] { write_preview(_host.document.scene(), path, picture_scale); });
 }
 
 void Session::save_panel(const std::string& path) {
@@ -85,7 +86,7 @@ void Session::save_panel(const std::string& path) {
     const Dialog shown = dialog();
     if (!shown.exists) throw ActionError(path + ": there is no dialog to take a picture of");
     Picture picture;
-    enter([&] { picture = _screen->picture(shown.panel, picture_scale); });
+    enter([&] { picture = _driver->picture(shown.panel, picture_scale); });
     if (picture.rgba.empty()) throw ActionError(path + ": the dialog has no picture");
     throwing_action_error([&] { write_file(path, encode_png(picture)); });
 }

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "minihost/actions/ControlNames.h"
+#include "minihost/dialog/DialogDriver.h"
 #include "minihost/suites/Host.h"
 #include "minihost/suites/Module.h"
-#include "minihost/view/Screen.h"
 
 #include <iosfwd>
 #include <memory>
@@ -33,7 +33,7 @@ struct Dialog {
 class Session {
   public:
     // `out` receives what actions print, `report` messages.
-    Session(Scene scene, HostOptions options, std::unique_ptr<Screen> screen, std::ostream& out,
+    Session(Scene scene, HostOptions options, std::unique_ptr<DialogDriver> driver, std::ostream& out,
             Host::Reporter report);
     ~Session();
 
@@ -43,7 +43,7 @@ class Session {
     std::vector<std::string> unload();
 
     Host& host() { return _host; }
-    Screen& screen() { return *_screen; }
+    DialogDriver& dialog_driver() { return *_driver; }
     const ControlNames& control_names() const { return _names; }
     std::ostream& out() { return _out; }
     double picture_scale = 2; // pixels per point
@@ -63,7 +63,7 @@ class Session {
     void save_panel(const std::string& path);
 
   private:
-    std::unique_ptr<Screen> _screen;
+    std::unique_ptr<DialogDriver> _driver;
     std::ostream& _out;
     Host _host;
     ControlNames _names;

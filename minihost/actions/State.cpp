@@ -46,7 +46,7 @@ std::string state_line(Session& session) {
     session.enter([&] {
         host.update_menu();
         dialog = session.dialog();
-        if (dialog.exists) controls = session.screen().controls(dialog.panel);
+        if (dialog.exists) controls = session.dialog_driver().controls(dialog.panel);
     });
     std::string line;
     JsonWriter json(line);

@@ -27,7 +27,7 @@ std::string explore(const Target& target, ChildProgress& progress) {
             const Dialog dialog = session.dialog();
             std::vector<Control> controls;
             if (dialog.exists)
-                session.enter([&] { controls = session.screen().controls(dialog.panel); });
+                session.enter([&] { controls = session.dialog_driver().controls(dialog.panel); });
             return controls;
         };
         for (const Scenario& it :

@@ -5,7 +5,7 @@
 #include "minihost/check/ReplayCommands.h"
 #include "minihost/check/Report.h"
 #include "minihost/model/OutputFile.h"
-#include "minihost/view/Screen.h"
+#include "minihost/dialog/DialogDriver.h"
 
 #include <algorithm>
 #include <cstdio>

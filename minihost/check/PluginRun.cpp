@@ -20,7 +20,7 @@ PluginRun::PluginRun(const std::string& plugin, const std::string& scene, HostOp
                      ChildProgress& progress)
     : _progress(progress),
       _plugin(plugin),
-      _session(parse_scene(scene, "the scene"), std::move(options), make_screen(), _printed,
+      _session(parse_scene(scene, "the scene"), std::move(options), make_dialog_driver(), _printed,
                [this](const std::string& line) { report(line); }) {}
 
 void PluginRun::report(const std::string& line) {

@@ -58,7 +58,8 @@ Step RandomUser::next(Session& session) {
     }
     const Dialog dialog = session.dialog();
     std::vector<Control> controls;
-    if (dialog.visible) session.enter([&] { controls = session.screen().controls(dialog.panel); });
+    if (dialog.visible)
+        session.enter([&] { controls = session.dialog_driver().controls(dialog.panel); });
     if (!dialog.visible && chance(30)) return {"open"};
     if (chance(10)) return {"idle"};
     if (chance(6)) return open_or_close();

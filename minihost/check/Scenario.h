@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "minihost/view/Controls.h"
+#include "minihost/dialog/Controls.h"
 
 #include <functional>
 #include <string>

@@ -1,16 +1,15 @@
-// The composition as it is seen from the chosen view point, with what is selected outlined.
+// The composition from the chosen viewpoint, with the selected layers outlined.
 //
-// Left button: a click selects the layer under it, Shift or Ctrl adds or takes away; a drag selects
-// what its rubber band touches. Right button: turns the custom view, moves the others; with Shift
-// it moves that one too. Wheel, + and -: nearer and farther. Arrows turn or move, 0 brings the view
-// back.
+// Left button: a click selects the layer under the mouse, Shift or Ctrl adds or removes it; a drag
+// selects what the rubber band touches. Right button: orbits in the custom view, pans in the others
+// and with Shift. Wheel, + and -: zoom. Arrows orbit or pan, 0 resets the view.
 //
-// The picture is painted anew only when the scene, the view point or the size has changed; what is
-// selected is drawn over it.
+// The picture is repainted only when the scene, the viewpoint or the size has changed; the outlines
+// are drawn over it.
 
 #pragma once
 
-#include "minihost/window/Workbench.h"
+#include "minihost/window/SceneEditor.h"
 
 #include <Cocoa/Cocoa.h>
 
@@ -18,10 +17,10 @@ struct CompositionPicture;
 
 @interface CompositionView : NSView {
   @private
-    minihost::Workbench* _bench; // lives longer
+    minihost::SceneEditor* _editor; // not owned
     struct CompositionPicture* _picture;
     NSPoint _bandFrom, _bandTo;
     BOOL _hasBand;
 }
-- (void)setWorkbench:(minihost::Workbench*)bench;
+- (void)setEditor:(minihost::SceneEditor*)editor;
 @end

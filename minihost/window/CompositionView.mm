@@ -1,8 +1,8 @@
 #include "minihost/window/CompositionView.h"
 
-#include "minihost/view/preview_paint.h"
-#include "minihost/window/Look.h"
+#include "minihost/preview/Painter.h"
 #include "minihost/window/Picking.h"
+#include "minihost/window/WindowStyle.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,8 +12,8 @@ using namespace minihost;
 
 namespace {
 
-constexpr double degrees_per_point = 0.4, band_starts = 3, zoom_per_line = 1.12;
-constexpr double key_step = 24, key_degrees = 6;
+constexpr double degrees_per_point = 0.4, min_band = 3, zoom_per_line = 1.12;
+constexpr double points_per_key = 24, degrees_per_key = 6;
 
 CGImageRef image_of(std::vector<unsigned char>& rgba, int width, int height) {
     CGColorSpaceRef space = CGColorSpaceCreateDeviceRGB();
@@ -28,16 +28,16 @@ CGImageRef image_of(std::vector<unsigned char>& rgba, int width, int height) {
 
 } // namespace
 
-// What was painted last, and of what.
+// The picture that was painted last, and what it shows.
 struct CompositionPicture {
     struct Key {
         std::uint64_t revision;
-        ViewPoint view;
+        Viewpoint viewpoint;
         double width, height, scale;
         bool operator==(const Key&) const = default;
     };
     std::optional<Key> key;
-    preview::Plan plan;
+    preview::DrawList list;
     CGImageRef image = nullptr;
 
     CompositionPicture() = default;
@@ -45,17 +45,17 @@ struct CompositionPicture {
     CompositionPicture& operator=(const CompositionPicture&) = delete;
     ~CompositionPicture() { CGImageRelease(image); }
 
-    void paint(const Workbench& bench, const Key& wanted) {
+    void paint(const SceneEditor& editor, const Key& wanted) {
         if (key == wanted) return;
-        preview::Framing framing =
-            wanted.view.framing(bench.scene(), wanted.width, wanted.height, wanted.scale);
-        plan = preview::make_plan(bench.scene(), framing);
+        const preview::Framing framing =
+            wanted.viewpoint.framing(editor.scene(), wanted.width, wanted.height, wanted.scale);
+        list = preview::make_draw_list(editor.scene(), framing);
         std::vector<unsigned char> rgba =
-            preview::paint_pixels(plan.width, plan.height, [this](preview::Canvas& canvas) {
-                preview::paint(canvas, plan);
+            preview::paint_pixels(list.width, list.height, [this](preview::Canvas& canvas) {
+                preview::paint(canvas, list);
             });
         CGImageRelease(image);
-        image = image_of(rgba, plan.width, plan.height);
+        image = image_of(rgba, list.width, list.height);
         key = wanted;
     }
 };
@@ -70,8 +70,8 @@ struct CompositionPicture {
     delete _picture;
     [super dealloc];
 }
-- (void)setWorkbench:(Workbench*)bench {
-    _bench = bench;
+- (void)setEditor:(SceneEditor*)editor {
+    _editor = editor;
 }
 - (BOOL)isFlipped {
     return YES;
@@ -87,7 +87,7 @@ struct CompositionPicture {
     [self setNeedsDisplay:YES];
     return YES;
 }
-// The ring would lie on the neighbours: it is drawn inside.
+// Inside the view: outside it would be drawn over the neighbours.
 - (NSRect)focusRingRect {
     return NSInsetRect([self bounds], 3, 3);
 }
@@ -98,15 +98,15 @@ struct CompositionPicture {
 
 - (BOOL)prepare {
     const NSRect bounds = [self bounds];
-    if (!_bench || NSWidth(bounds) < 1 || NSHeight(bounds) < 1) return NO;
-    _picture->paint(*_bench, {_bench->look().revision, _bench->view, NSWidth(bounds),
-                              NSHeight(bounds), [self scale]});
+    if (!_editor || NSWidth(bounds) < 1 || NSHeight(bounds) < 1) return NO;
+    _picture->paint(*_editor, {_editor->display_state().revision, _editor->viewpoint,
+                               NSWidth(bounds), NSHeight(bounds), [self scale]});
     return _picture->image != nullptr;
 }
 
 // Drawing.
 
-- (void)trace:(const std::vector<preview::Point>&)polygon in:(CGContextRef)context {
+- (void)strokePolygon:(const std::vector<preview::Point>&)polygon in:(CGContextRef)context {
     const double scale = [self scale];
     bool first = true;
     for (const preview::Point& p : polygon) {
@@ -117,47 +117,44 @@ struct CompositionPicture {
         first = false;
     }
     CGContextClosePath(context);
+    CGContextStrokePath(context);
 }
 
-- (void)outline:(const std::vector<preview::Item>&)items
-          alpha:(double)alpha
-             in:(CGContextRef)context {
-    NSColor* color = [look::color(look::Part::Highlight) colorWithAlphaComponent:alpha];
+- (void)outlineSelected:(const std::vector<preview::DrawItem>&)items
+                  alpha:(double)alpha
+                     in:(CGContextRef)context {
+    NSColor* color = [style::color(style::ColorRole::Highlight) colorWithAlphaComponent:alpha];
     [color setStroke];
-    [color setFill];
     const double scale = [self scale];
-    for (const preview::Item& item : items) {
-        if (!_bench->is_selected(item.id)) continue;
-        if (item.polygon.empty()) { // a camera's or a light's mark
+    for (const preview::DrawItem& item : items) {
+        if (!_editor->is_selected(item.id)) continue;
+        if (item.is_mark()) {
             const double r = 12;
-            CGContextStrokeEllipseInRect(
-                context,
-                CGRectMake(item.spot.x / scale - r, item.spot.y / scale - r, 2 * r, 2 * r));
+            const double x = item.mark.x / scale, y = item.mark.y / scale;
+            CGContextStrokeEllipseInRect(context, CGRectMake(x - r, y - r, 2 * r, 2 * r));
             continue;
         }
-        [self trace:item.polygon in:context];
-        CGContextStrokePath(context);
+        [self strokePolygon:item.polygon in:context];
     }
 }
 
-// Sheets that the view meets edge-on, in their colours.
+// Layers seen edge-on, in their colours.
 - (void)drawEdgesIn:(CGContextRef)context {
-    for (const preview::Item& item : _picture->plan.edges) {
-        const preview::Colour& c = item.colour;
+    for (const preview::DrawItem& item : _picture->list.edges) {
+        const preview::Rgba& c = item.color;
         CGContextSetRGBStrokeColor(context, c.r, c.g, c.b, 1);
-        [self trace:item.polygon in:context];
-        CGContextStrokePath(context);
+        [self strokePolygon:item.polygon in:context];
     }
 }
 
-// What the camera does not take is darkened.
+// Darkens what is outside the camera's frame.
 - (void)drawFrame {
-    const Composition& composition = _bench->scene().composition;
-    const double m = _bench->view.magnification(_bench->scene(), NSWidth([self bounds]),
-                                                NSHeight([self bounds]));
-    const preview::Lens& lens = _picture->plan.lens;
+    const Composition& composition = _editor->scene().composition;
+    const double m = _editor->viewpoint.magnification(_editor->scene(), NSWidth([self bounds]),
+                                                      NSHeight([self bounds]));
+    const preview::Camera& camera = _picture->list.camera;
     const NSRect all = [self bounds];
-    const NSRect frame = NSMakeRect(lens.shift.x * m, lens.shift.y * m, composition.width * m,
+    const NSRect frame = NSMakeRect(camera.shift.x * m, camera.shift.y * m, composition.width * m,
                                     composition.height * m);
     [[NSColor colorWithDeviceWhite:0 alpha:0.45] setFill];
     const double top = NSMinY(frame), bottom = NSMaxY(frame);
@@ -173,25 +170,19 @@ struct CompositionPicture {
 }
 
 - (void)drawTitle {
-    const std::string title = _bench->view.title(_bench->scene());
-    const double width = std::min(
-        [look::string(title)
-            sizeWithAttributes:[NSDictionary dictionaryWithObjectsAndKeys:look::font(),
-                                                                          NSFontAttributeName, nil]]
-                .width +
-            16,
-        NSWidth([self bounds]) - 16);
+    const std::string title = _editor->viewpoint.title(_editor->scene());
+    const double width = std::min(style::text_width(title), NSWidth([self bounds]) - 32) + 16;
     const NSRect pill = NSMakeRect(8, 8, std::ceil(width), 20);
     [[NSColor colorWithDeviceRed:0.07 green:0.08 blue:0.11 alpha:0.6] setFill];
     [[NSBezierPath bezierPathWithRoundedRect:pill xRadius:10 yRadius:10] fill];
-    look::draw_text(title, NSInsetRect(pill, 8, 0), [NSColor colorWithDeviceWhite:0.92 alpha:1]);
+    style::draw_text(title, NSInsetRect(pill, 8, 0), [NSColor colorWithDeviceWhite:0.92 alpha:1]);
 }
 
 - (void)drawBand {
     const NSRect band =
         NSMakeRect(std::min(_bandFrom.x, _bandTo.x), std::min(_bandFrom.y, _bandTo.y),
                    std::abs(_bandTo.x - _bandFrom.x), std::abs(_bandTo.y - _bandFrom.y));
-    NSColor* color = look::color(look::Part::Highlight);
+    NSColor* color = style::color(style::ColorRole::Highlight);
     [[color colorWithAlphaComponent:0.15] setFill];
     NSRectFillUsingOperation(band, NSCompositeSourceOver);
     [color setStroke];
@@ -201,21 +192,21 @@ struct CompositionPicture {
 - (void)drawRect:(NSRect)__attribute__((unused))dirty {
     if (![self prepare]) return;
     auto context = static_cast<CGContextRef>([[NSGraphicsContext currentContext] graphicsPort]);
-    const double width = _picture->plan.width / [self scale];
-    const double height = _picture->plan.height / [self scale];
+    const double width = _picture->list.width / [self scale];
+    const double height = _picture->list.height / [self scale];
     CGContextSaveGState(context);
     CGContextTranslateCTM(context, 0, height);
     CGContextScaleCTM(context, 1, -1);
     CGContextDrawImage(context, CGRectMake(0, 0, width, height), _picture->image);
     CGContextRestoreGState(context);
-    if (_picture->key->view.kind() == ViewKind::Camera) [self drawFrame];
+    if (_picture->key->viewpoint.kind() == ViewKind::Camera) [self drawFrame];
     CGContextSetLineJoin(context, kCGLineJoinRound);
     CGContextSetLineWidth(context, 2);
     [self drawEdgesIn:context];
-    [self outline:_picture->plan.edges alpha:0.95 in:context];
+    [self outlineSelected:_picture->list.edges alpha:0.95 in:context];
     CGContextSetLineWidth(context, 1.2);
-    [self outline:_picture->plan.hidden alpha:0.3 in:context];
-    [self outline:_picture->plan.items alpha:0.95 in:context];
+    [self outlineSelected:_picture->list.hidden alpha:0.3 in:context];
+    [self outlineSelected:_picture->list.items alpha:0.95 in:context];
     [self drawTitle];
     if (_hasBand) [self drawBand];
 }
@@ -243,10 +234,10 @@ struct CompositionPicture {
         _bandTo = [self pointOf:event];
         const double far =
             std::max(std::abs(_bandTo.x - _bandFrom.x), std::abs(_bandTo.y - _bandFrom.y));
-        if (!_hasBand && far < band_starts) continue;
+        if (!_hasBand && far < min_band) continue;
         _hasBand = YES;
-        _bench->select(layers_touched(_picture->plan, [self pixel:_bandFrom], [self pixel:_bandTo]),
-                       kept);
+        _editor->select(
+            layers_touched(_picture->list, [self pixel:_bandFrom], [self pixel:_bandTo]), kept);
         [self setNeedsDisplay:YES];
     }
     if (_hasBand) [self setNeedsDisplay:YES];
@@ -257,52 +248,54 @@ struct CompositionPicture {
     if (![self prepare]) return;
     const NSUInteger adding = NSShiftKeyMask | NSControlKeyMask | NSCommandKeyMask;
     const BOOL adds = ([event modifierFlags] & adding) != 0;
-    const Selection before = _bench->scene().selection();
+    const Selection before = _editor->scene().selection();
     _bandFrom = [self pointOf:event];
-    const LayerId hit = layer_at(_picture->plan, [self pixel:_bandFrom]);
+    const LayerId hit = layer_at(_picture->list, [self pixel:_bandFrom]);
     if (hit && adds)
-        _bench->toggle(hit);
+        _editor->toggle(hit);
     else if (hit)
-        _bench->select_only(hit);
+        _editor->select({hit});
     else if (!adds)
-        _bench->deselect();
+        _editor->select({});
     [self dragBandKeeping:adds ? before : Selection{}];
 }
 
 - (void)rightMouseDown:(NSEvent*)event {
-    if (!_bench) return;
+    if (!_editor) return;
     NSPoint last = [self pointOf:event];
     while ((event = [self nextMatching:NSRightMouseDraggedMask | NSRightMouseUpMask]) &&
            [event type] == NSRightMouseDragged) {
         const NSPoint now = [self pointOf:event];
         const double dx = now.x - last.x, dy = now.y - last.y;
         last = now;
-        if (_bench->view.kind() == ViewKind::Custom && !([event modifierFlags] & NSShiftKeyMask))
-            _bench->view.orbit(dx * degrees_per_point, dy * degrees_per_point);
+        if (_editor->viewpoint.kind() == ViewKind::Custom &&
+            !([event modifierFlags] & NSShiftKeyMask))
+            _editor->viewpoint.orbit(dx * degrees_per_point, dy * degrees_per_point);
         else
-            _bench->view.pan(dx, dy);
+            _editor->viewpoint.pan(dx, dy);
         [self setNeedsDisplay:YES];
     }
 }
 
 - (void)scrollWheel:(NSEvent*)event {
     const NSPoint at = [self pointOf:event];
-    _bench->view.zoom(std::pow(zoom_per_line, [event deltaY]),
-                      {at.x - NSWidth([self bounds]) / 2, at.y - NSHeight([self bounds]) / 2});
+    _editor->viewpoint.zoom(
+        std::pow(zoom_per_line, [event deltaY]),
+        {at.x - NSWidth([self bounds]) / 2, at.y - NSHeight([self bounds]) / 2});
     [self setNeedsDisplay:YES];
 }
 
 // Keys.
 
 - (BOOL)moveBy:(NSPoint)step {
-    if (_bench->view.kind() == ViewKind::Custom)
-        _bench->view.orbit(step.x * key_degrees, step.y * key_degrees);
+    if (_editor->viewpoint.kind() == ViewKind::Custom)
+        _editor->viewpoint.orbit(step.x * degrees_per_key, step.y * degrees_per_key);
     else
-        _bench->view.pan(-step.x * key_step, -step.y * key_step);
+        _editor->viewpoint.pan(-step.x * points_per_key, -step.y * points_per_key);
     return YES;
 }
 
-- (BOOL)takesKey:(unichar)key {
+- (BOOL)handleKey:(unichar)key {
     switch (key) {
     case NSLeftArrowFunctionKey:
         return [self moveBy:NSMakePoint(-1, 0)];
@@ -314,13 +307,13 @@ struct CompositionPicture {
         return [self moveBy:NSMakePoint(0, 1)];
     case '+':
     case '=':
-        _bench->view.zoom(zoom_per_line * zoom_per_line);
+        _editor->viewpoint.zoom(zoom_per_line * zoom_per_line);
         return YES;
     case '-':
-        _bench->view.zoom(1 / (zoom_per_line * zoom_per_line));
+        _editor->viewpoint.zoom(1 / (zoom_per_line * zoom_per_line));
         return YES;
     case '0':
-        _bench->view.reset();
+        _editor->viewpoint.reset();
         return YES;
     default:
         return NO;
@@ -330,7 +323,7 @@ struct CompositionPicture {
 - (void)keyDown:(NSEvent*)event {
     NSString* characters = [event characters];
     const unichar key = [characters length] == 1 ? [characters characterAtIndex:0] : 0;
-    if (_bench && [self takesKey:key])
+    if (_editor && [self handleKey:key])
         [self setNeedsDisplay:YES];
     else
         [super keyDown:event];

@@ -1,18 +1,14 @@
-// A panel in the window's dock: the view that the plug-in fills stands there while it is shown.
+// The host's panel docked in the main window.
 
 #pragma once
 
 #include "minihost/suites/Panels.h"
 
-#ifdef __OBJC__
-@class Desk;
-#else
-class Desk;
-#endif
+@class MainView;
 
 namespace minihost {
 
-// The desk lives longer.
-std::unique_ptr<PanelView> make_docked_panel(Desk* desk);
+// Empty and hidden; the main view must outlive it.
+std::unique_ptr<PanelView> make_docked_panel(MainView* main_view);
 
 } // namespace minihost

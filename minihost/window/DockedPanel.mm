@@ -1,28 +1,26 @@
 #include "minihost/window/DockedPanel.h"
 
-#include "minihost/view/AutoreleasePool.h"
-#include "minihost/view/Panel.h"
-#include "minihost/window/Desk.h"
+#include "minihost/dialog/AutoreleasePool.h"
+#include "minihost/dialog/PanelWindow.h"
+#include "minihost/window/MainView.h"
 
 namespace minihost {
 
 namespace {
 
-// Until the plug-in tells which size it likes.
-constexpr double usual_width = 320, usual_height = 480;
-
 class DockedPanel : public PanelView {
   public:
-    explicit DockedPanel(Desk* desk) : _desk(desk) {
+    explicit DockedPanel(MainView* main_view) : _main_view(main_view) {
         const AutoreleasePool pool;
-        _container = [[NSView alloc] initWithFrame:NSMakeRect(0, 0, usual_width, usual_height)];
+        _container = [[NSView alloc]
+            initWithFrame:NSMakeRect(0, 0, default_panel_width, default_panel_height)];
         [_container setHidden:YES];
-        [_desk addSubview:_container];
+        [_main_view addSubview:_container];
     }
     ~DockedPanel() override {
         const AutoreleasePool pool;
         show(false);
-        empty_container(_container);
+        remove_subviews(_container);
         [_container removeFromSuperview];
         [_container release];
     }
@@ -33,36 +31,36 @@ class DockedPanel : public PanelView {
     void resize(double width, double height) override {
         const AutoreleasePool pool;
         [_container setFrameSize:NSMakeSize(width, height)];
-        place();
+        dock();
     }
     void set_title(const std::string& utf8) override {
         _title = utf8;
-        place();
+        dock();
     }
     std::string title() const override { return _title; }
     void show(bool visible) override {
         const AutoreleasePool pool;
-        if (!visible && [[_desk window] firstResponder] != [_desk window]) leave_focus();
+        if (!visible) give_up_focus();
         [_container setHidden:!visible];
         _visible = visible;
-        [_desk dock:visible ? _container : nil title:_title];
+        [_main_view dock:visible ? _container : nil title:_title];
     }
     bool is_visible() const override { return _visible; }
 
   private:
-    void place() {
+    void dock() {
         const AutoreleasePool pool;
-        if (_visible) [_desk dock:_container title:_title];
+        if (_visible) [_main_view dock:_container title:_title];
     }
-    // What is typed in a field of the panel is taken, as when the user leaves it.
-    void leave_focus() {
-        NSResponder* focus = [[_desk window] firstResponder];
+    // Ends editing in a field of the panel, as when the user leaves it.
+    void give_up_focus() {
+        NSResponder* focus = [[_main_view window] firstResponder];
         if ([focus isKindOfClass:[NSView class]] &&
             [static_cast<NSView*>(focus) isDescendantOf:_container])
-            [[_desk window] makeFirstResponder:nil];
+            [[_main_view window] makeFirstResponder:nil];
     }
 
-    Desk* _desk;
+    MainView* _main_view;
     NSView* _container;
     std::string _title;
     bool _visible = false;
@@ -70,8 +68,8 @@ class DockedPanel : public PanelView {
 
 } // namespace
 
-std::unique_ptr<PanelView> make_docked_panel(Desk* desk) {
-    return std::make_unique<DockedPanel>(desk);
+std::unique_ptr<PanelView> make_docked_panel(MainView* main_view) {
+    return std::make_unique<DockedPanel>(main_view);
 }
 
 } // namespace minihost

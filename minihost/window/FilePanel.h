@@ -9,15 +9,15 @@
 
 namespace minihost {
 
-struct FileQuestion {
+struct FilePanelOptions {
     std::string title, button;           // "Open a Scene", "Open"
-    std::string start;                   // the path that stands there at first
+    std::string start;                   // the path at first
     std::vector<std::string> extensions; // of the files that are listed, such as ".json"
-    // Else a file that is there is asked about, and a name without extension gets the first.
+    // Otherwise an existing file is asked about, and a name without extension gets the first.
     bool must_exist = false;
 };
 
-// The path, or nothing when the user takes back the wish.
-std::optional<std::string> ask_file(const FileQuestion& question);
+// The path, or nothing if the user cancels.
+std::optional<std::string> run_file_panel(const FilePanelOptions& options);
 
 } // namespace minihost

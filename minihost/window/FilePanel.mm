@@ -1,11 +1,11 @@
 #include "minihost/window/FilePanel.h"
 
+#include "minihost/dialog/AutoreleasePool.h"
+#include "minihost/dialog/HostWindow.h"
 #include "minihost/model/OutputFile.h"
-#include "minihost/view/AutoreleasePool.h"
-#include "minihost/view/Panel.h"
-#include "minihost/window/Look.h"
-#include "minihost/window/Questions.h"
-#include "minihost/window/RowList.h"
+#include "minihost/window/ListView.h"
+#include "minihost/window/Prompts.h"
+#include "minihost/window/WindowStyle.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -15,26 +15,24 @@ using namespace minihost;
 
 namespace {
 
+constexpr double panel_width = 560, panel_height = 360;
+
 struct Entry {
     std::string name;
     bool is_folder;
 };
 
-bool has_one_of(const fs::path& path, const std::vector<std::string>& extensions) {
-    return std::find(extensions.begin(), extensions.end(), extension_of(path.string())) !=
-           extensions.end();
-}
-
-// The way up first, then folders, then files, each by name. A folder that cannot be read is empty.
+// "..", then folders, then files with one of the extensions, each by name. A folder that cannot be
+// read is empty.
 std::vector<Entry> entries_of(const fs::path& folder, const std::vector<std::string>& extensions) {
     std::vector<Entry> entries;
-    std::error_code error;
+    std::error_code error, ignored;
     for (fs::directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
         const std::string name = it->path().filename().string();
-        std::error_code unknown;
-        const bool is_folder = it->is_directory(unknown);
-        if (!name.empty() && name[0] != '.' && (is_folder || has_one_of(it->path(), extensions)))
-            entries.push_back({name, is_folder});
+        const bool is_folder = it->is_directory(ignored);
+        const bool is_listed = is_folder || std::find(extensions.begin(), extensions.end(),
+                                                      extension_of(name)) != extensions.end();
+        if (is_listed && name[0] != '.') entries.push_back({name, is_folder});
     }
     std::sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) {
         return std::pair(!a.is_folder, a.name) < std::pair(!b.is_folder, b.name);
@@ -43,8 +41,8 @@ std::vector<Entry> entries_of(const fs::path& folder, const std::vector<std::str
     return entries;
 }
 
-struct Choosing {
-    FileQuestion question;
+struct FileBrowserState {
+    const FilePanelOptions& options;
     fs::path folder;
     std::vector<Entry> entries;
     std::optional<std::string> chosen;
@@ -52,49 +50,49 @@ struct Choosing {
 
 } // namespace
 
-@class FileAsker;
-
-@interface FileList : RowList {
+// The list of files, which is also the target of the panel's field and buttons.
+@interface FileBrowser : ListView {
   @public
-    Choosing* _choosing;
-    FileAsker* _asker; // not retained
+    FileBrowserState* _state; // null once the panel has closed
+    NSTextField* _field;      // not retained
 }
-@end
-
-@interface FileAsker : NSObject {
-  @public
-    Choosing* _choosing;
-    NSTextField* _field;
-    FileList* _list;
-}
-- (void)goTo:(const fs::path&)folder;
-- (void)take:(id)sender;
+- (void)setPath:(const fs::path&)path;
+- (void)showFolder:(const fs::path&)folder;
+- (void)acceptPath:(id)sender;
 - (void)cancel:(id)sender;
 @end
 
-@implementation FileList
+@implementation FileBrowser
 - (NSInteger)rowCount {
-    return _choosing ? static_cast<NSInteger>(_choosing->entries.size()) : 0;
+    return _state ? static_cast<NSInteger>(_state->entries.size()) : 0;
 }
 - (const Entry&)entry:(NSInteger)row {
-    return _choosing->entries[static_cast<std::size_t>(row)];
+    return _state->entries[static_cast<std::size_t>(row)];
 }
 - (BOOL)isRowSelected:(NSInteger)row {
     return row == [self cursor];
 }
+- (std::string)emptyText {
+    return "";
+}
 - (void)drawHeader:(NSRect)rect {
-    look::draw_text(_choosing->folder.string(), NSInsetRect(rect, 8, 0),
-                    look::color(look::Part::HeaderText));
+    style::draw_text(_state->folder.string(), NSInsetRect(rect, 8, 0),
+                     style::color(style::ColorRole::HeaderText));
 }
 - (void)drawRow:(NSInteger)row inRect:(NSRect)rect color:(NSColor*)color {
     const Entry& entry = [self entry:row];
-    look::draw_text(entry.is_folder ? entry.name + "/" : entry.name, NSInsetRect(rect, 8, 0),
-                    color);
+    style::draw_text(entry.is_folder ? entry.name + "/" : entry.name, NSInsetRect(rect, 8, 0),
+                     color);
+}
+- (void)setPath:(const fs::path&)path {
+    [_field setStringValue:style::printable_string(path.string())];
+}
+- (fs::path)path {
+    return [[_field stringValue] UTF8String];
 }
 - (void)showName:(NSInteger)row {
     if (row < 0 || [self entry:row].is_folder) return;
-    const fs::path path = _choosing->folder / [self entry:row].name;
-    [_asker->_field setStringValue:look::string(path.string())];
+    [self setPath:_state->folder / [self entry:row].name];
 }
 - (void)pressRow:(NSInteger)row modifiers:(NSUInteger)__attribute__((unused))modifiers {
     [self showName:row];
@@ -108,54 +106,51 @@ struct Choosing {
 - (void)openRow:(NSInteger)row {
     const Entry entry = [self entry:row];
     if (entry.is_folder) {
-        [_asker goTo:entry.name == ".." ? _choosing->folder.parent_path()
-                                        : _choosing->folder / entry.name];
+        [self showFolder:entry.name == ".." ? _state->folder.parent_path()
+                                            : _state->folder / entry.name];
         return;
     }
     [self showName:row];
-    [_asker take:self];
-}
-@end
-
-@implementation FileAsker
-- (void)goTo:(const fs::path&)folder {
-    const fs::path name = fs::path([[_field stringValue] UTF8String]).filename();
-    _choosing->folder = folder;
-    _choosing->entries = entries_of(folder, _choosing->question.extensions);
-    const fs::path path = _choosing->question.must_exist ? folder / "" : folder / name;
-    [_field setStringValue:look::string(path.string())];
-    [_list setCursor:-1];
-    [_list rowsChanged];
-    [_list setCursor:0];
+    [self acceptPath:self];
 }
 
-- (void)take:(id)__attribute__((unused))sender {
-    std::error_code unknown;
-    fs::path path([[_field stringValue] UTF8String]);
-    if (path.is_relative()) path = _choosing->folder / path;
+- (void)showFolder:(const fs::path&)folder {
+    const fs::path name = _state->options.must_exist ? fs::path() : [self path].filename();
+    _state->folder = folder;
+    _state->entries = entries_of(folder, _state->options.extensions);
+    [self setPath:folder / name];
+    [self setCursor:-1];
+    [self rowsChanged];
+    [self setCursor:0];
+}
+
+- (void)acceptPath:(id)__attribute__((unused))sender {
+    std::error_code ignored;
+    fs::path path = [self path];
+    if (path.is_relative()) path = _state->folder / path;
     path = path.lexically_normal();
-    if (fs::is_directory(path, unknown)) {
-        [self goTo:path.has_filename() ? path : path.parent_path()];
+    if (fs::is_directory(path, ignored)) {
+        [self showFolder:path.has_filename() ? path : path.parent_path()];
         return;
     }
     if (!path.has_filename()) {
-        tell("There is no such folder", path.string());
+        show_error("There is no such folder", path.string());
         return;
     }
-    const FileQuestion& question = _choosing->question;
-    // Without, it would not be listed the next time.
-    if (!question.must_exist && !path.has_extension()) path += question.extensions.front();
-    const bool exists = fs::exists(path, unknown);
-    if (question.must_exist && !exists) {
-        tell("There is no such file", path.string());
+    const FilePanelOptions& options = _state->options;
+    // Without an extension it would not be listed the next time.
+    if (!options.must_exist && !path.has_extension()) path += options.extensions.front();
+    const bool exists = fs::exists(path, ignored);
+    if (options.must_exist && !exists) {
+        show_error("There is no such file", path.string());
         return;
     }
-    if (!question.must_exist && exists && !ask_to_replace(path.filename().string())) return;
-    _choosing->chosen = path.string();
-    [NSApp stopModalWithCode:1];
+    if (!options.must_exist && exists && !ask_to_replace(path.filename().string())) return;
+    _state->chosen = path.string();
+    [NSApp stopModal];
 }
 - (void)cancel:(id)__attribute__((unused))sender {
-    [NSApp stopModalWithCode:0];
+    [NSApp stopModal];
 }
 @end
 
@@ -163,69 +158,63 @@ namespace minihost {
 
 namespace {
 
-NSButton* add_button(NSView* view, NSRect frame, const std::string& title, id target, SEL action,
-                     NSString* key) {
-    NSButton* button = [[[NSButton alloc] initWithFrame:frame] autorelease];
-    [button setTitle:look::string(title)];
-    [button setFont:look::font()];
+void add_button(NSView* view, double x, const std::string& title, id target, SEL action,
+                NSString* key) {
+    NSButton* button = [[[NSButton alloc] initWithFrame:NSMakeRect(x, 14, 88, 26)] autorelease];
+    [button setTitle:style::printable_string(title)];
+    [button setFont:style::font()];
     [button setTarget:target];
     [button setAction:action];
     [button setKeyEquivalent:key];
     [view addSubview:button];
-    return button;
+}
+
+// Adds the path's field, the list of files and the buttons.
+FileBrowser* fill_panel(NSWindow* window, FileBrowserState& state) {
+    NSView* content = [window contentView];
+    NSTextField* field = [[[NSTextField alloc]
+        initWithFrame:NSMakeRect(16, panel_height - 40, panel_width - 32, 24)] autorelease];
+    [field setFont:style::font()];
+    FileBrowser* browser = [[[FileBrowser alloc]
+        initWithFrame:NSMakeRect(16, 54, panel_width - 32, panel_height - 106)] autorelease];
+    browser->_state = &state;
+    browser->_field = field;
+    [field setTarget:browser];
+    [field setAction:@selector(acceptPath:)];
+    [[field cell] setSendsActionOnEndEditing:NO];
+    [content addSubview:field];
+    [content addSubview:browser];
+    add_button(content, panel_width - 104, state.options.button, browser, @selector(acceptPath:),
+               @"\r");
+    add_button(content, panel_width - 202, "Cancel", browser, @selector(cancel:), @"\033");
+    [window setInitialFirstResponder:field];
+    return browser;
 }
 
 } // namespace
 
-std::optional<std::string> ask_file(const FileQuestion& question) {
+std::optional<std::string> run_file_panel(const FilePanelOptions& options) {
     const AutoreleasePool pool;
-    const Asking asking;
-    Choosing choosing{question, {}, {}, {}};
-    std::error_code unknown;
-    const fs::path start = fs::absolute(question.start, unknown).lexically_normal();
-    constexpr double width = 560, height = 360;
-    NSWindow* window = [[NSWindow alloc] initWithContentRect:NSMakeRect(0, 0, width, height)
-                                                   styleMask:NSTitledWindowMask
-                                                     backing:NSBackingStoreBuffered
-                                                       defer:YES];
-    claim_window(window);
-    [window setReleasedWhenClosed:NO];
-    [window setTitle:look::string(question.title)];
-    NSView* content = [window contentView];
-    FileAsker* asker = [[FileAsker alloc] init];
-    asker->_choosing = &choosing;
-    NSTextField* field = [[[NSTextField alloc]
-        initWithFrame:NSMakeRect(16, height - 40, width - 32, 24)] autorelease];
-    [field setFont:look::font()];
-    [field setTarget:asker];
-    [field setAction:@selector(take:)];
-    [[field cell] setSendsActionOnEndEditing:NO];
-    [content addSubview:field];
-    FileList* list =
-        [[[FileList alloc] initWithFrame:NSMakeRect(16, 54, width - 32, height - 106)] autorelease];
-    list->_choosing = &choosing;
-    list->_asker = asker;
-    asker->_field = field;
-    asker->_list = list;
-    [content addSubview:list];
-    add_button(content, NSMakeRect(width - 104, 14, 88, 26), question.button, asker,
-               @selector(take:), @"\r");
-    add_button(content, NSMakeRect(width - 202, 14, 88, 26), "Cancel", asker, @selector(cancel:),
-               @"\033");
-    [asker goTo:start.parent_path()];
-    [field setStringValue:look::string(start.string())];
+    const OpenPrompt prompt;
+    HostWindow* window =
+        [[HostWindow alloc] initWithContentRect:NSMakeRect(0, 0, panel_width, panel_height)
+                                      styleMask:NSTitledWindowMask];
+    [window setTitle:style::printable_string(options.title)];
     [window center];
-    [window setInitialFirstResponder:field];
+    FileBrowserState state{options, {}, {}, {}};
+    FileBrowser* browser = fill_panel(window, state);
+    std::error_code ignored;
+    const fs::path start = fs::absolute(options.start, ignored).lexically_normal();
+    [browser showFolder:start.parent_path()];
+    [browser setPath:start];
     NSWindow* key = [[NSApp keyWindow] retain];
-    const NSInteger answer = [NSApp runModalForWindow:window];
-    list->_choosing = nullptr;
+    [NSApp runModalForWindow:window];
+    browser->_state = nullptr;
     [window orderOut:nil];
     if ([key isVisible]) [key makeKeyWindow];
     [key release];
-    disclaim_window(window);
     [window release];
-    [asker release];
-    return answer == 1 ? choosing.chosen : std::nullopt;
+    return state.chosen;
 }
 
 } // namespace minihost

@@ -70,20 +70,20 @@ TEST_F(BuilderTest, EnablingWalksAllItemsWhenTheDialogChanges) {
     _Opaque_ADMItem* const items[] = {_dlg.add_edit({0, 0, 20, 75}, 1, 0, 1, 1),
                                       _dlg.add_static({0, 0}, "text", 2),
                                       _dlg.add_icon({0, 0, 20, 20}, paint, 3)};
-    _dlg.Enable(false); // it is so already
+    _dlg.Enable(false); // already disabled
     EXPECT_TRUE(sADMItem->IsEnabled(items[0]));
     for (unsigned char on : {1, 0, 2}) {
         _dlg.Enable(on);
         for (_Opaque_ADMItem* item : items) EXPECT_EQ(sADMItem->IsEnabled(item), on != 0);
     }
     sADMItem->Enable(items[0], false);
-    _dlg.Enable(true); // it is so already
+    _dlg.Enable(true); // already enabled
     EXPECT_FALSE(sADMItem->IsEnabled(items[0]));
     sSPBasic = nullptr;
     EXPECT_THROW(Dialog{}, int);
 }
 
-TEST_F(BuilderTest, AWindowIsCentredOnTheScreenAndNeverBeforeIt) {
+TEST_F(BuilderTest, AWindowIsCentredOnTheScreenAndNeverBeyondItsTopLeft) {
     const NSSize screen = [[NSScreen mainScreen] visibleFrame].size;
     const int width = static_cast<int>(screen.width);
     const int height = static_cast<int>(screen.height);

@@ -1,4 +1,4 @@
-// What the cells paint, read back from a bitmap in which every host colour is another.
+// What the cells paint, read back from a bitmap; every host colour is different.
 
 #include "tests/ADMLibrary/support/Canvas.h"
 #include "tests/ADMLibrary/support/ToolkitTest.h"
@@ -28,7 +28,7 @@ Cell* new_cell(bool enabled = true, bool on = false) {
 
 void paint(NSCell* cell, NSRect frame, bool pressed) {
     if (pressed)
-        [cell highlight:NO withFrame:frame inView:nil]; // the flag is not asked
+        [cell highlight:NO withFrame:frame inView:nil]; // the flag is ignored
     else
         [cell drawWithFrame:frame inView:nil];
 }
@@ -40,8 +40,8 @@ Rgb blend(Rgb below, Rgb above, double alpha) {
     return {mix(below.red, above.red), mix(below.green, above.green), mix(below.blue, above.blue)};
 }
 
-// A face under the sheen, which goes from white at its top to black at its bottom, a tenth strong;
-// disabled ones have none.
+// A face under the sheen, a gradient from white at the top to black at the bottom, both 10% opaque;
+// disabled faces have none.
 Rgb face(short selector, double from_top, bool with_sheen = true) {
     const int light = static_cast<int>(255 * (1 - from_top));
     return blend(FakeHost::color(selector), {light, light, light}, with_sheen ? 0.1 : 0);
@@ -85,23 +85,23 @@ TEST_F(CellTest, APushButtonUsesTheColoursOfItsState) {
         const Rgb edge = FakeHost::color(c.edge);
         expect_where(canvas, edge, true, {{0.2, 20.2}, {57.8, 20.2}});
         expect_where(canvas, Canvas::kWhite, true, {{29, 20.7}, {59, 10}});
-        // The sides, a fifth strong at their top, outside the outline, which covers half of them.
+        // The sides, 20% opaque at the top, outside the outline, which covers half of them.
         expect_near(canvas, 0.2, 18.9, blend(Canvas::kWhite, edge, 0.95), 8);
         expect_near(canvas, 57.8, 1, blend(Canvas::kWhite, edge, 0.24), 8);
         expect_where(canvas, FakeHost::color(c.outline), true,
                      {{29, 0.7}, {0.7, 10}, {56.7, 10}, {29, 20.2}});
         const Rgb title = FakeHost::color(c.title);
         EXPECT_GT(canvas.count(NSMakeRect(20, 3, 18, 12), title), 100);
-        EXPECT_EQ(canvas.count(NSMakeRect(2, 15, 54, 4), title), 0); // it stands above the middle
+        EXPECT_EQ(canvas.count(NSMakeRect(2, 15, 54, 4), title), 0); // it is above the middle
         EXPECT_NEAR(canvas.count(NSMakeRect(10, 3, 19, 12), title),
                     canvas.count(NSMakeRect(29, 3, 19, 12), title), 60);
-        expect_near(canvas, 29, 1.7, // the inner light, which is 204 of 255, faint
+        expect_near(canvas, 29, 1.7, // the inner line, grey 204, is faint
                     blend(face(c.face, 0.04, c.enabled), {204, 204, 204}, 0.05));
     }
 }
 
 // In a frame of {0, 0, 16, 16} the box is {2, 0, 12, 12}; the tick goes (6, 4), (8, 8), (18, -4).
-// Here all is 4 lower, to see the tick's end.
+// Here everything is 4 lower, to show the tick's end.
 TEST_F(CellTest, ACheckBoxIsABoxAboveTheMiddleWithATickBeyondIt) {
     struct Case {
         bool enabled, pressed, on;

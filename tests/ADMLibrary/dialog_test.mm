@@ -12,7 +12,7 @@ using DialogDeathTest = ToolkitTest;
 } // namespace
 
 TEST_F(DialogTest, StylesChooseTheWindow) {
-    const std::string masks = "111199011091-119"; // style by style; there is no window of 12
+    const std::string masks = "111199011091-119"; // by style; style 12 has no window
     for (int style = 0; style < 16; ++style) {
         if (masks[style] == '-') continue;
         _Opaque_ADMDialog* dialog = make_window(style);
@@ -52,12 +52,12 @@ TEST_F(DialogTest, AWindowIsShownWithNoItemHiddenByItsTitleBar) {
     const Rect shown = bounds(dialog);
     sADMDialog->Show(dialog, true);
     EXPECT_EQ(bounds(dialog), shown);
-    sADMDialog->Show(dialog, false); // behind the others, but there
+    sADMDialog->Show(dialog, false); // behind the others, but visible
     EXPECT_TRUE(sADMDialog->IsVisible(dialog));
     sADMDialog->Destroy(dialog);
 }
 
-TEST_F(DialogTest, APanelTellsItsHostOneSize) {
+TEST_F(DialogTest, APanelReportsOneSize) {
     dialog();
     A_LPoint sizes[2] = {{-1, -1}, {-1, -1}};
     A_long count = 9;

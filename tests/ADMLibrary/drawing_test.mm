@@ -59,7 +59,7 @@ TEST_F(DrawingTest, ShapesCoverWhatTheySay) {
     const Rect all = {0, 0, 40, 40};
     const Rect box = {10, 5, 20, 35};
     sADMDrawer->ClearRect(_drawer, &all);
-    sADMDrawer->DrawRect(_drawer, &box); // a line of width 1 around the edges
+    sADMDrawer->DrawRect(_drawer, &box); // a line of width 1 along the edges
     EXPECT_EQ(_canvas.count(ink), (31 * 11 - 29 * 9) * 64);
 }
 

@@ -1,4 +1,4 @@
-// The user's actions, from the event to the notification.
+// The user's actions, from event to notification.
 
 #include "tests/ADMLibrary/support/ToolkitTest.h"
 
@@ -6,23 +6,23 @@
 
 namespace {
 
-using Told = std::vector<std::string>;
-Told told; // in order: who was asked and for which item
+using Calls = std::vector<std::string>;
+Calls calls; // in order: whose procedure was called, for which item
 
 void note(const char* who, _Opaque_ADMNotifier* notifier) {
     EXPECT_TRUE(sADMNotifier->IsNotifierType(notifier, "ADM User Changed Notifier"));
     EXPECT_FALSE(sADMNotifier->IsNotifierType(notifier, "ADM Other Notifier"));
-    told.push_back(who + std::to_string(sADMItem->GetID(sADMNotifier->GetItem(notifier))));
+    calls.push_back(who + std::to_string(sADMItem->GetID(sADMNotifier->GetItem(notifier))));
 }
 
-void tell_item(_Opaque_ADMItem* item) {
+void notify_item(_Opaque_ADMItem* item) {
     sADMItem->SetNotifyProc(
         item, [](_Opaque_ADMItem*, _Opaque_ADMNotifier* notifier) { note("item ", notifier); });
 }
 
 struct EventTest : ToolkitTest {
     EventTest() {
-        told.clear();
+        calls.clear();
         sADMDialog->SetNotifyProc(dialog(), [](_Opaque_ADMDialog*, _Opaque_ADMNotifier* notifier) {
             note("dialog ", notifier);
         });
@@ -34,13 +34,13 @@ struct EventTest : ToolkitTest {
 TEST_F(EventTest, AnItemsOwnProcedureHidesTheActionFromTheDialog) {
     _Opaque_ADMItem* button = add(kADMTextPushButtonType, {10, 10, 30, 110}, 3);
     user::click(control_of(button));
-    tell_item(button);
+    notify_item(button);
     user::click(control_of(button));
     user::click(control_of(add(kADMTextCheckBoxType, {40, 10, 60, 30}, 3))); // goes to the first 3
     sADMItem->SetNotifyProc(button, nullptr);
     sADMDialog->SetNotifyProc(dialog(), nullptr);
     user::click(control_of(button));
-    EXPECT_EQ(told, (Told{"dialog 3", "item 3", "item 3"}));
+    EXPECT_EQ(calls, (Calls{"dialog 3", "item 3", "item 3"}));
 }
 
 TEST_F(EventTest, ACheckBoxTogglesAtEachClickUnlessItIsDisabled) {
@@ -52,10 +52,10 @@ TEST_F(EventTest, ACheckBoxTogglesAtEachClickUnlessItIsDisabled) {
     sADMItem->Enable(check, false);
     user::click(control_of(check));
     EXPECT_TRUE(sADMItem->GetBooleanValue(check));
-    EXPECT_EQ(told, (Told{"dialog 4", "dialog 4", "dialog 4"}));
+    EXPECT_EQ(calls, (Calls{"dialog 4", "dialog 4", "dialog 4"}));
 }
 
-TEST_F(EventTest, ARadioButtonTurnsItsGroupOverBeforeAnybodyIsTold) {
+TEST_F(EventTest, ARadioButtonTurnsItsGroupOverBeforeTheNotification) {
     static std::vector<bool> states;
     states.clear();
     for (std::int16_t i = 0; i < 3; ++i)
@@ -69,20 +69,20 @@ TEST_F(EventTest, ARadioButtonTurnsItsGroupOverBeforeAnybodyIsTold) {
     EXPECT_EQ(states, (std::vector<bool>{false, false, true, false, false, true}));
 }
 
-TEST_F(EventTest, ANumberIsToldWhenEditingEnds) {
+TEST_F(EventTest, ANumberNotifiesWhenEditingEnds) {
     _Opaque_ADMItem* edit = add(kADMTextEditType, {10, 10, 30, 110}, 7);
     sADMItem->SetMaxFloatValue(edit, 500);
     user::click(control_of(edit));
     [(NSTextField*)control_of(edit) selectText:nil];
     user::type(@"720");
-    EXPECT_EQ(told, Told{});
+    EXPECT_EQ(calls, Calls{});
     user::type(@"\r");
-    EXPECT_EQ(told, Told{"dialog 7"});
+    EXPECT_EQ(calls, Calls{"dialog 7"});
     EXPECT_EQ(shown(edit), "720");
     EXPECT_EQ(sADMItem->GetFloatValue(edit), 500);
 }
 
-TEST_F(EventTest, APickedEntryIsSelectedAndTold) {
+TEST_F(EventTest, APickedEntryIsSelectedAndNotifies) {
     _Opaque_ADMItem* pop_up = add(kADMPopupListType, {10, 10, 29, 150}, 8);
     _Opaque_ADMList* list = sADMItem->GetList(pop_up);
     for (const char* title : {"None", "Camera 1", "Camera 2"})
@@ -92,7 +92,7 @@ TEST_F(EventTest, APickedEntryIsSelectedAndTold) {
     NSPostKey(NSDownArrowFunctionKey);
     NSPostKey('\r');
     NSDispatchEvents();
-    EXPECT_EQ(told, Told{"dialog 8"});
+    EXPECT_EQ(calls, Calls{"dialog 8"});
     EXPECT_EQ(sADMEntry->GetIndex(sADMList->GetActiveEntry(list)), 2);
 }
 

@@ -14,7 +14,7 @@ Rect frame_of(NSView* view) {
     return adm::rect_of([view frame]);
 }
 
-// What a text needs in the small font: its width rounded up and the point size, its height.
+// The size of a text in the small font: its width, rounded up, plus the point size, and its height.
 Point text_size(NSString* text) {
     NSFont* font = GetMiniSystemFont();
     const NSSize size = [text

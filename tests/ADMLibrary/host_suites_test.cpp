@@ -24,7 +24,7 @@ TEST(HostSuites, AreAcquiredInOrderAndGivenBackOnlyWhenHeld) {
         EXPECT_EQ(sAEGPPanelSuite, nullptr);
         EXPECT_EQ(sPFAppSuite, nullptr);
     }
-    adm::acquireSuites(); // there is no host any more
+    adm::acquireSuites(); // without a host
     EXPECT_EQ(sAEGPPanelSuite, nullptr);
 }
 

@@ -135,7 +135,7 @@ TEST_F(ItemTest, RadioButtonsWithNeighbouringIdsAreAGroup) {
     EXPECT_EQ(on({10, 11, 12}), (States{false, false, false}));
 
     radio(1);
-    radio(0); // finds its upper neighbour on
+    radio(0); // its upper neighbour is on
     EXPECT_EQ(on({0, 1}), (States{false, true}));
     radio(-1); // the group of 0 does not reach below it
     set(0, true);

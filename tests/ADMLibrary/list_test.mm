@@ -28,14 +28,14 @@ TEST_F(ListTest, EntriesAreInsertedRemovedAndSelected) {
     EXPECT_EQ(sADMList->GetActiveEntry(_list), nullptr);
     insert(0, "a");
     insert(1, "c");
-    insert(1, "c"); // titles need not differ
+    insert(1, "c"); // titles may repeat
     insert(1, "b");
     EXPECT_EQ(titles(), (Titles{"a", "b", "c", "c"}));
     EXPECT_EQ(active(), 0);
     _Opaque_ADMEntry* entry = sADMList->IndexEntry(_list, 2);
     sADMEntry->Select(entry, true);
     EXPECT_EQ(active(), 2);
-    EXPECT_EQ(sADMList->IndexEntry(_list, 0), entry); // the handle means the entry named last
+    EXPECT_EQ(sADMList->IndexEntry(_list, 0), entry); // the handle means the entry returned last
     EXPECT_EQ(sADMEntry->GetIndex(entry), 0);
     EXPECT_EQ(sADMEntry->GetList(entry), _list);
     sADMEntry->Select(sADMList->IndexEntry(_list, 0), false);

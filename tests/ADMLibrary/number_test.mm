@@ -21,7 +21,7 @@ TEST_F(NumberTest, SettingShowsTheNumberUncheckedAndReadingClampsIt) {
     _Opaque_ADMItem* item = edit(0, 10, 25.5f);
     EXPECT_EQ(sADMItem->GetFloatValue(item), 10);
     EXPECT_EQ(shown(item), "25.5");
-    sADMItem->SetMinFloatValue(item, 2); // shows the number as it was read
+    sADMItem->SetMinFloatValue(item, 2); // shows the number that was read
     EXPECT_EQ(shown(item), "10");
     _Opaque_ADMItem* without_range = add(kADMTextEditType);
     put(without_range, "5");
@@ -34,7 +34,7 @@ TEST_F(NumberTest, TextsAreReadAsNumbersInTheRange) {
         float as_float;
         int as_int;
     };
-    // The range is -100 to 1000, the value before is 7.9.
+    // The range is -100 to 1000, the previous value 7.9.
     const Case cases[] = {
         {"12abc", 12, 12},    {"7.9", 7.9f, 7},
         {"  3", 3, 3},        {"-4.5", -4.5f, -4},
@@ -44,7 +44,7 @@ TEST_F(NumberTest, TextsAreReadAsNumbersInTheRange) {
         {"inf", 1000, 7},     {"-99999999999", -100, -100},
         {"abc", 7.9f, 7},     {"", 7.9f, 7},
         {"-", 7.9f, 7},       {"6 \u00e9", 6, 6},
-        {"6 \u4e2d", 7.9f, 7} // no character of Mac Roman
+        {"6 \u4e2d", 7.9f, 7} // not in Mac Roman
     };
     for (const Case& c : cases) {
         _Opaque_ADMItem* item = edit(-100, 1000, 7.9f);
@@ -56,7 +56,7 @@ TEST_F(NumberTest, TextsAreReadAsNumbersInTheRange) {
     }
 }
 
-TEST_F(NumberTest, NumbersBeyondIntegersAreHeldToTheirRange) {
+TEST_F(NumberTest, NumbersBeyondIntegersAreClamped) {
     _Opaque_ADMItem* item = edit(-INFINITY, INFINITY, 3e30f);
     put(item, "none");
     EXPECT_EQ(sADMItem->GetIntValue(item), INT_MAX);

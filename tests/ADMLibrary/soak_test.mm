@@ -76,7 +76,7 @@ struct SoakTest : ToolkitTest {
 } // namespace
 
 TEST_F(SoakTest, AThousandDialogsLeaveNothingAlive) {
-    some_dialogs(20); // what is made once and kept
+    some_dialogs(20); // makes what is made once and kept
     const Counts before = live_objects();
     some_dialogs(1000);
     EXPECT_EQ(live_objects(), before);

@@ -39,7 +39,7 @@ struct WrapperTest : ToolkitTest {
 struct Picture : BaseADMImageItem {
     Picture(_Opaque_ADMItem* item, bool through_image)
         : BaseADMImageItem(item, nullptr), with_image(through_image) {}
-    bool UseImage() override { return with_image; }
+    bool UseImage() const override { return with_image; }
     void Draw(IADMDrawer drawer) override {
         image = adm::record(static_cast<_Opaque_ADMDrawer*>(drawer))->image;
         sADMDrawer->GetBoundsRect(drawer, &bounds);
@@ -59,7 +59,7 @@ TEST_F(WrapperTest, DeletingTheWrapperDestroysItsDialogsWithoutCallingBack) {
     _Opaque_ADMDialog* made = panel(*wrapper);
     EXPECT_EQ(made, wrapper->handle());
     user::click(control_of(sADMDialog->GetItem(wrapper->handle(), 1)));
-    panel(*wrapper); // the host makes its panel anew and tells nobody that the old one went
+    panel(*wrapper); // the host has replaced its panel without notice
     EXPECT_EQ(panels(), 2u);
     wrapper.reset();
     EXPECT_EQ(calls, (Calls{"init bound", "notify", "init bound", "deleted"}));
@@ -87,7 +87,7 @@ TEST_F(WrapperTest, AFailingInitLeavesTheWrapperToItsOwner) {
     EXPECT_EQ(wrapper->handle(), nullptr);
     EXPECT_EQ(_refcon, nullptr);
     EXPECT_EQ(calls, (Calls{"init bound", "init bound", "destroy"}));
-    EXPECT_EQ(panels(), 1u); // the earlier one, which goes with the wrapper
+    EXPECT_EQ(panels(), 1u); // the earlier one, which the wrapper destroys
     wrapper.reset();
     EXPECT_EQ(panels(), 0u);
 }
@@ -109,7 +109,7 @@ TEST_F(WrapperTest, AnItemAsAnObjectReadsAndWritesItsOwnNumbers) {
     EXPECT_STREQ(text, "2.5");
     wrapper.reset();
     EXPECT_EQ(sADMItem->GetUserData(item), nullptr);
-    put(item, "4"); // the item stays with its dialog, as it was without a wrapper
+    put(item, "4"); // the item stays in its dialog without the wrapper
     EXPECT_EQ(sADMItem->GetFloatValue(item), 4);
 }
 
@@ -139,7 +139,7 @@ TEST_F(WrapperTest, APictureIsDrawnThroughAnImageOfItsSize) {
         EXPECT_EQ(canvas.at(7, 7), Canvas::kWhite);
         EXPECT_EQ(draw({0, 0, 20, 30}), first);
         EXPECT_EQ(first != nullptr, through_image);
-        EXPECT_EQ(draw({0, 0, 20, 31}) != nullptr, through_image); // one of the new size
-        EXPECT_EQ(draw({0, 0, 0, 0}), nullptr);                    // none has that size
+        EXPECT_EQ(draw({0, 0, 20, 31}) != nullptr, through_image); // an image of the new size
+        EXPECT_EQ(draw({0, 0, 0, 0}), nullptr);                    // no image can be that small
     }
 }

@@ -1,4 +1,4 @@
-// The texts that exceptions carry, and what catches them.
+// The texts of exceptions, and the bases that catch them.
 
 #include "core/MathExceptions.h"
 
@@ -31,7 +31,7 @@ TEST(Exception, AllAreCaughtAsTheirBases) {
         EXPECT_EQ(e.getMessage(), fixed_text);
     }
     EXPECT_THROW(throw SingularMatrix3DException(0), MathException);
-    EXPECT_THROW(throw math::VectorInFocusException(0), core::Exception);
+    EXPECT_THROW(throw VectorInFocusException(0), core::Exception);
     EXPECT_THROW(throw core::OutOfMemoryException(0), core::Exception);
 }
 

@@ -9,6 +9,10 @@ using math::intersect;
 
 namespace {
 
+double cross(const V2& a, const V2& b) {
+    return a.x * b.y - a.y * b.x;
+}
+
 // A polygon around a centre in the plane of u and v, with radii in [1, 3].
 std::vector<V3> star(Inputs& inputs, int n, const V3& center, const V3& u, const V3& v) {
     std::vector<V3> polygon;
@@ -22,7 +26,7 @@ std::vector<V3> star(Inputs& inputs, int n, const V3& center, const V3& u, const
 TEST(Clip, KeepsJustThePartInside) {
     Inputs inputs(1);
     for (int n = 0; n < 300; ++n) {
-        std::vector<V2> whole(math::most_clipped_vertices), part;
+        std::vector<V2> whole(math::max_clipped_vertices), part;
         int count = 0;
         for (const V3& v : star(inputs, inputs.whole(3, 19), {}, V3::Ex(), V3::Ey()))
             whole[count++] = {v.x, v.y};
@@ -37,7 +41,7 @@ TEST(Clip, KeepsJustThePartInside) {
             EXPECT_LE(std::fabs(part[i].x - (b + d) / 2), std::fabs(b - d) / 2 + 1e-9);
             EXPECT_LE(std::fabs(part[i].y - (a + c) / 2), std::fabs(a - c) / 2 + 1e-9);
         }
-        // The area once more, by counting small cells of the rectangle.
+        // The area again, by counting small cells of the rectangle.
         int inside = 0;
         for (int i = 0; i < 10000; ++i)
             inside += math::PolygonContainsPoint(
@@ -45,9 +49,9 @@ TEST(Clip, KeepsJustThePartInside) {
                 {b + (d - b) * (i % 100 + 0.5) / 100, a + (c - a) * (i / 100 + 0.5) / 100});
         EXPECT_NEAR(area, std::fabs((a - c) * (b - d)) * inside / 1e4, 0.1);
     }
-    // A comb, cut into more pieces by each pass, and one tooth too many; then none and a bad count.
+    // A comb, which each pass cuts into more pieces; one tooth too many; no vertices; a bad count.
     for (const auto& [count, left] : {std::pair{19, 37}, {20, 20}, {0, 0}, {-1, -1}}) {
-        std::vector<V2> comb(math::most_clipped_vertices);
+        std::vector<V2> comb(math::max_clipped_vertices);
         for (int i = 1; i < 20; ++i) comb[i] = {i * 1.0, i % 2 ? 9.0 : -9.0};
         int clipped = count;
         EXPECT_EQ(math::polygon_clip(-1, 0, 1, 18, comb.data(), clipped), count == 19);
@@ -68,7 +72,7 @@ TEST(Clip, Lines) {
         const V2 p(inputs.number(0, 4), inputs.number(-1, 1)), v(inputs.number(-1, 1), n % 3 * 0.5);
         ASSERT_TRUE(math::line_clip(1, 4, -1, 0, p, v, out, count));
         for (int i = 0; i < count; ++i) {
-            EXPECT_NEAR(cross(out[i] - p, v) / length(v), 0, 1e-9);
+            EXPECT_NEAR(cross(out[i] - p, v) / std::hypot(v.x, v.y), 0, 1e-9);
             EXPECT_NEAR(std::min(2 - std::fabs(out[i].x - 2), 1 - std::fabs(out[i].y)), 0, 1e-9);
         }
     }
@@ -137,7 +141,7 @@ TEST(Intersect, SegmentsWithPolygonsInAnyPlane) {
         const V3 v = cross(normal, u), center = inputs.vector(50);
         const auto polygon = star(inputs, 12, center, u, v);
         expect_near(math::compute_normal(polygon.data(), 12), -normal, 1e-11);
-        // Every star holds the disc of radius cos(15 degrees) and is held by that of radius 3.
+        // Every star contains the disc of radius cos(15 degrees) and lies in that of radius 3.
         const double angle = inputs.number(0, 6), r = n % 3 ? inputs.number(0, 0.9) : 3.1;
         const V3 at = center + u * (r * std::cos(angle)) + v * (r * std::sin(angle));
         const V3 slope = normal * 4 + inputs.vector(2);
@@ -203,7 +207,7 @@ TEST(Curves, ZeroinFindsTheRoot) {
         EXPECT_NEAR(math::Zeroin(a, b, f, 1e-9), root, 2e-9);
     }
     EXPECT_LT(calls, 2000 * 60);
-    // No number, no tolerance: it ends all the same.
+    // It ends even with NaN or no tolerance.
     EXPECT_NO_THROW(math::Zeroin(
         -1, 2, [](double) { return NAN; }, 1e-9));
     EXPECT_NEAR(math::Zeroin(
@@ -213,7 +217,7 @@ TEST(Curves, ZeroinFindsTheRoot) {
 
 TEST(Fract, MovesTheHeightWithinItsBounds) {
     for (const double z : {-4.0, -0.5, 0.5, 3.0}) {
-        // Four equal heights have themselves as mean, whatever their weights.
+        // The mean of equal heights is that height, whatever the weights.
         const double h = z < 0 ? -2 : 2;
         const V3 q = math::Fract({0.2, 0.1, z}, {1, 0, 2}, {0, 1, -2}, {-1, 0, 2}, {0, -2, 2});
         EXPECT_LE(std::fabs(q.z - h), std::fabs(h - z) + 1e-12);

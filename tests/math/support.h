@@ -1,4 +1,4 @@
-// What the math tests share: seeded random inputs and comparisons that print both sides.
+// Shared by the math tests: seeded random inputs and comparisons that print both sides.
 
 #pragma once
 
@@ -16,7 +16,7 @@ using M3 = math::TMatrix3D<double>;
 
 constexpr double pi = 3.141592653589793;
 
-// Inputs that owe nothing to the generator under test.
+// Inputs that do not depend on the generator under test.
 class Inputs {
   public:
     explicit Inputs(unsigned seed) : _engine(seed) {}

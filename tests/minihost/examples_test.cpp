@@ -1,7 +1,7 @@
 // The example scenes: each can be read, and has something selected that can be arranged.
 
 #include "minihost/model/SceneReader.h"
-#include "minihost/view/preview.h"
+#include "minihost/preview/Preview.h"
 
 #include <gtest/gtest.h>
 
@@ -23,14 +23,14 @@ std::set<std::string> scenes_in(const std::filesystem::path& folder) {
 
 TEST(Examples, HaveSomethingToArrangeAndToSee) {
     const std::filesystem::path folder = EXAMPLES;
-    const std::string told = read_file((folder / "README.md").string());
+    const std::string readme = read_file((folder / "README.md").string());
     const std::set<std::string> names = scenes_in(folder);
     ASSERT_GE(names.size(), 6u);
     for (const std::string& name : names) {
         SCOPED_TRACE(name);
-        EXPECT_NE(told.find("`" + name + ".json`"), std::string::npos) << "README.md knows it";
+        EXPECT_NE(readme.find("`" + name + ".json`"), std::string::npos) << "in README.md";
         const Scene scene = read_scene((folder / (name + ".json")).string());
-        const std::string picture = encode_preview(scene, PreviewFormat::svg, 1);
+        const std::string picture = encode_preview(scene, PreviewFormat::Svg, 1);
         int placeable = 0, seen = 0;
         for (const LayerId id : scene.selection()) {
             const Layer* layer = id ? scene.find(id) : nullptr;
@@ -42,7 +42,7 @@ TEST(Examples, HaveSomethingToArrangeAndToSee) {
             seen += picture.find("<title>" + layer->name + "</title>") != std::string::npos;
         }
         EXPECT_GE(placeable, 1);
-        EXPECT_EQ(seen, placeable) << "all that is selected is in the picture";
+        EXPECT_EQ(seen, placeable) << "all selected layers are in the picture";
     }
 }
 

@@ -1,5 +1,5 @@
-// A bitmap to draw into as into a flipped view, magnified so that edges can be told to a fraction
-// of a point. White at first; while it exists it is the current graphics context.
+// A bitmap to draw into like a flipped view, magnified so that tests see edges to a fraction of a
+// point. White at first; while it exists it is the current graphics context.
 
 #pragma once
 
@@ -18,7 +18,7 @@ class Canvas {
     Canvas& operator=(const Canvas&) = delete;
 
     Rgb at(double x, double y) const; // the pixel that covers the point
-    // How many pixels of the rectangle, or of all, have the colour.
+    // The number of pixels of the colour in the rectangle, or in the whole canvas.
     int count(NSRect rect, Rgb color) const;
     int count(Rgb color) const;
 

@@ -59,7 +59,7 @@ FakeHost::~FakeHost() {
 }
 
 Rgb FakeHost::color(short selector) {
-    // Far apart for neighbours, so that a faint light on top does not turn one into another.
+    // Far apart for neighbouring selectors, so that a faint sheen does not turn one into another.
     const int n = selector == 1000 ? 63 : selector;
     return {(n * 5 % 8) * 32 + 16, (n / 8 % 8) * 32 + 16, selector == 1000 ? 240 : 128};
 }

@@ -1,5 +1,5 @@
-// A host for the toolkit's tests: interface colours that tell their own number, and a record of
-// what is asked of it. While one exists it is the toolkit's host.
+// A host for the toolkit's tests: a different colour for each selector, and a record of the calls.
+// While one exists it is the toolkit's host.
 
 #pragma once
 
@@ -19,10 +19,10 @@ class FakeHost {
     FakeHost();
     ~FakeHost();
 
-    // The colour of a selector, 8 bits each: no two that are used share one.
+    // The colour of a selector, 8 bits each; different for all selectors that are used.
     static Rgb color(short selector);
 
-    static bool refuse_colors; // having written to the colour
+    static bool refuse_colors; // fails after writing to the colour
     static std::string panel_title;
     static std::vector<std::string> missing; // suites
     static std::vector<std::string> calls;   // of the basic suite

@@ -1,5 +1,5 @@
-// What the toolkit's tests stand on: a fake host, a pool, a panel dialog inside a window of the
-// host's, and a user's hands.
+// The fixture of the toolkit's tests: a fake host, a pool, a panel dialog inside a window of the
+// host, and simulated user input.
 
 #pragma once
 
@@ -13,17 +13,16 @@ bool operator==(const Point& a, const Point& b);
 std::ostream& operator<<(std::ostream& out, const Rect& r);
 std::ostream& operator<<(std::ostream& out, const Point& p);
 
-// Drains at its end what was autoreleased meanwhile.
 struct Pool {
     Pool() : pool([[NSAutoreleasePool alloc] init]) {}
     ~Pool() { [pool drain]; }
     NSAutoreleasePool* pool;
 };
 
-// What a user does, through the application's own events.
+// User input through the application's events.
 namespace user {
 
-void click(NSView* view); // in its middle
+void click(NSView* view); // in the middle
 void click_at(NSView* view, NSPoint point);
 void type(NSString* text); // Return and Tab are keys too
 
@@ -38,9 +37,9 @@ class ToolkitTest : public testing::Test {
     _Opaque_ADMDialog* make_panel(ADMDialogInitProc init = nullptr);
     static _Opaque_ADMDialog* make_window(ADMDialogStyle style = 3,
                                           ADMDialogInitProc init = nullptr);
-    // The one that is made at the first call and destroyed at the end.
+    // A panel that is made at the first call and destroyed at the end.
     _Opaque_ADMDialog* dialog();
-    // An item of that dialog; with kAnyId, one that no other has and that has no neighbours.
+    // An item of that dialog; kAnyId means an id without neighbours.
     static constexpr int kAnyId = -1000;
     _Opaque_ADMItem* add(const char* type, const Rect& r = {10, 10, 30, 110}, int id = kAnyId);
     _Opaque_ADMItem* add_text(const char* type, const char* text, const Rect& r = {10, 10, 30, 110},
@@ -48,7 +47,7 @@ class ToolkitTest : public testing::Test {
     static Rect bounds(_Opaque_ADMItem* item);
     static Rect bounds(_Opaque_ADMDialog* dialog);
     static Point best(_Opaque_ADMItem* item);
-    // The text of an item's control, or that of its label.
+    // The text of an item's control or label.
     static std::string shown(_Opaque_ADMItem* item);
     static void put(_Opaque_ADMItem* item, const char* text);
 
@@ -63,7 +62,7 @@ class ToolkitTest : public testing::Test {
     int _next_id = 1000;
 };
 
-// The records' views, which have no way out of the suites.
+// The records' views, which no suite returns.
 NSControl* control_of(_Opaque_ADMItem* item);
 NSTextField* label_of(_Opaque_ADMItem* item);
 NSView* view_of(_Opaque_ADMDialog* dialog);

@@ -7,7 +7,7 @@
 using namespace minihost;
 
 PluginHost::PluginHost(const std::string& scene, HostOptions options, bool load)
-    : session(parse_scene(scene, "test scene"), std::move(options), make_screen(), out,
+    : session(parse_scene(scene, "test scene"), std::move(options), make_dialog_driver(), out,
               [this](const std::string& line) { messages.push_back(line); }) {
     session.host().log.set_sink([this](const std::string& line) { _calls.push_back(line); });
     if (load) session.load(PLUGIN);

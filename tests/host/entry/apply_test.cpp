@@ -15,7 +15,7 @@ using minihost::Vec3;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// The initial helix: i-th place, from the composition's centre.
+// The i-th place of the initial helix, relative to the composition's centre.
 testing::Matcher<Vec3> helix(int i) {
     const double angle = 50 * i * M_PI / 180;
     return Near(360 * std::cos(angle), -50.0 * i, -360 * std::sin(angle));
@@ -27,7 +27,7 @@ std::vector<std::string> solids(int count) {
     return all;
 }
 
-// Which layer stands at each place of the helix, by the heights.
+// The layer at each place of the helix, by height.
 std::vector<std::string> order(PluginHost& host, int count) {
     std::vector<std::string> names(count);
     for (const std::string& name : host.layer_names())
@@ -58,7 +58,7 @@ TEST(Apply, RefreshesCollectsAndWritesInThisOrder) {
                                               "Layer.IsLayer3D",
                                               "Layer.GetLayerCurrentTime",
                                               "Layer.GetLayerCurrentTime",
-                                              "Stream.GetLayerStreamValue 2", // the scale by itself
+                                              "Stream.GetLayerStreamValue 2", // the scale alone
                                               "Stream.GetLayerStreamValue 1",
                                               "Layer.GetLayerIndex",
                                               "Layer.GetLayerOffset",
@@ -78,7 +78,7 @@ TEST(Apply, RefreshesCollectsAndWritesInThisOrder) {
     EXPECT_EQ(host.new_calls(), wanted);
     EXPECT_EQ(host.state()["undo"], Json({"Tamborel"}));
 
-    // Turning writes four streams more, each key comes before its value.
+    // Orienting writes four more streams; each key precedes its value.
     host.play("set orientation.xy=on\nset keys.orientation=on\nset keys.scale=on");
     host.new_calls();
     host.play("click apply");
@@ -121,7 +121,7 @@ TEST(Apply, OrdersByIndexAndReverses) {
     EXPECT_THAT(order(host, 5), ElementsAre("S4", "S3", "S2", "S1", "S0"));
 }
 
-// The random order draws from the clock's second, so that it is one of the two that it can be.
+// The seed of the random order is the clock's second, which may change: two orders are possible.
 TEST(Apply, DrawsARandomOrderOfTheReversedLayers) {
     const auto drawn = [](std::time_t second) {
         math::SetRand(second);
@@ -151,7 +151,7 @@ TEST(Apply, RepeatsTheLayersInBlocks) {
         if (!direct) options.without = {"layer-suite-10"};
         PluginHost host(scene_of(solids(2)), options);
         host.play("open\nset repeat=on\nset repeat.count=2\nclick apply");
-        // Each duplicate stands where the host puts it: right above its original.
+        // Each duplicate stays where the host puts it: right above its original.
         EXPECT_THAT(host.layer_names(), ElementsAre("S0 2", "S0 3", "S0", "S1 2", "S1 3", "S1"));
         int place = 0;
         for (const char* name : {"S0", "S1", "S0 2", "S1 2", "S0 3", "S1 3"})
@@ -171,7 +171,7 @@ TEST(Apply, RepeatsTheLayersInBlocks) {
 TEST(Apply, FitsFromTheScalesBeforeTheFirstFit) {
     PluginHost host(scene_of({solid("Wide", 200, 100), solid("Other", 20, 20)}));
     const auto scale = [&] { return host.layer("Wide").transform.scale; };
-    // At 480 to the right a layer of 200 sticks out beyond 500 by four fifths of its half.
+    // 480 to the right, four fifths of the right half of a 200 wide layer extend beyond 500.
     host.play("open\nselect Wide\nset distance.min=480\nset distance.max=480\nset scale-to-fit=on");
     host.play("click apply");
     EXPECT_NEAR(scale()[0], 19.9, 0.2); // a little less: the wall is curved
@@ -183,7 +183,7 @@ TEST(Apply, FitsFromTheScalesBeforeTheFirstFit) {
     EXPECT_EQ(scale()[0], 100);
     host.play("set distance.min=480\nset distance.max=480\nclick apply");
     EXPECT_EQ(scale()[0], fitted);
-    // Deselected layers are forgotten, and the first Apply without a fit brings back the others.
+    // Deselected layers are forgotten; the first Apply without a fit restores the others.
     host.play("select Wide Other\nclick apply\nset scale-to-fit=off\nclick apply");
     EXPECT_EQ(scale()[0], 100);
     EXPECT_EQ(host.layer("Other").transform.scale[0], 100);
@@ -206,7 +206,7 @@ TEST(Apply, SetsKeysAtTheCurrentTime) {
     host.play("open\ntime 2\nset keys.scale=on\nclick apply");
     const Layer& card = host.layer("Card");
     const auto keys = *card.keys_of(minihost::Stream::Position);
-    ASSERT_EQ(keys.size(), 2u); // a value written beside keys is a key
+    ASSERT_EQ(keys.size(), 2u); // writing a value to a stream with keys sets a key
     EXPECT_THAT(keys[0].value, ElementsAre(1, 2, 3));
     EXPECT_EQ(keys[1].time, 2);
     EXPECT_THAT(keys[1].value, Near(860, 400, 0));
@@ -219,11 +219,11 @@ TEST(Apply, MeasuresTextByItsNeighbourOrTheComposition) {
     const struct {
         std::vector<std::string> layers;
         const char* crop;
-        double width, height; // pixels that count as its size
+        double width, height; // its size in pixels
     } cases[] = {{{solid("A", 300, 50), solid("B", 40, 400), title}, "on", 40, 400},
                  {{solid("A", 100, 50), solid("B", 50, 100), title}, "on", 100, 50},
                  {{solid("A", 300, 50), title}, "off", 1000, 800},
-                 {{title}, "", 1000, 800}}; // without a neighbour the box cannot be clicked
+                 {{title}, "", 1000, 800}}; // without another layer the box cannot be clicked
     for (const auto& c : cases) {
         PluginHost host(scene_of(c.layers));
         host.play("open\nset scale-to=on\nset scale-to.size=100");
@@ -241,10 +241,10 @@ TEST(Apply, WithoutAnythingToPlaceLeavesNoStep) {
     EXPECT_EQ(host.state()["undo"], Json::array());
     host.play("select S0\nidle\nactive footage\nclick apply");
     EXPECT_EQ(host.state()["undo"], Json::array());
-    EXPECT_EQ(host.session.host().misuses(), 0); // no call on a collection that is not there
+    EXPECT_EQ(host.session.host().misuses(), 0); // no call on a null collection
 }
 
-TEST(Apply, IsQuietAboutTextsThatAreNoNumbers) {
+TEST(Apply, PlacesLayersAtFinitePositionsWhateverTheTexts) {
     PluginHost host(scene_of(solids(2)));
     host.play(
         "open\nset angle.min=abc\nset angle.max=12abc\nset y-axis.min=nan\nset y-axis.max=\"\"");

@@ -1,4 +1,4 @@
-// Entering the host: what is registered, and what a refusing host is told.
+// The entry function: what it registers, and what it reports when the host refuses.
 
 #include "tests/host/entry/PluginTest.h"
 
@@ -18,7 +18,7 @@ HostOptions failing(const std::string& call, std::int64_t number, std::int32_t c
     return options;
 }
 
-// Loads; the error's text, or nothing.
+// Loads; returns the error's text, or "".
 std::string load_error(PluginHost& host) {
     try {
         host.session.load(PLUGIN);
@@ -42,7 +42,7 @@ TEST(Entry, RegistersItsHooksInOrder) {
     EXPECT_EQ(host.session.host().menu()[0].text, "Tamborel");
 }
 
-TEST(Entry, TellsWhatTheHostRefuses) {
+TEST(Entry, ReportsWhatTheHostRefuses) {
     const std::string suite = "AEGP Register Suite.Register";
     const struct {
         std::string call;
@@ -73,8 +73,7 @@ TEST(Entry, TellsWhatTheHostRefuses) {
 }
 
 TEST(Entry, EndsWithTheCodeOfAMissingSuite) {
-    // The first suite acquired is that of registration; the command suite comes after the two
-    // optional ones.
+    // The register suite is acquired first, the command suite after the two optional ones.
     for (const int number : {1, 4}) {
         PluginHost host(scene_of({solid("S")}), failing("SPBasic.AcquireSuite", number, 9), false);
         EXPECT_THAT(load_error(host), HasSubstr("516")) << number;
@@ -85,7 +84,7 @@ TEST(Entry, EndsWithTheCodeOfAMissingSuite) {
 TEST(Entry, WithoutACommandEverythingElseWorks) {
     PluginHost host(scene_of({solid("S")}), failing("AEGP Command Suite.GetUniqueCommand", 1, 5));
     for (const auto& hook : host.session.host().hooks().command)
-        EXPECT_EQ(hook.command, AEGP_Command_ALL); // and that one only passes everything on
+        EXPECT_EQ(hook.command, AEGP_Command_ALL); // the hook that only passes commands on
     EXPECT_EQ(host.session.host().hooks().command.size(), 1u);
     EXPECT_EQ(host.session.host().update_menu(), 0);
     EXPECT_EQ(host.session.host().idle(), 0);

@@ -1,5 +1,5 @@
-// Orientations through the dialog; that towards the camera is checked by where a layer's front
-// (-z) and top (-y) end up.
+// Orientations through the dialog. The one towards the camera is checked by the directions of a
+// layer's front (-z) and top (-y).
 
 #include "tests/host/entry/PluginTest.h"
 
@@ -44,7 +44,7 @@ TEST(TowardsCamera, EveryLayerFacesTheChosenCamera) {
 }
 
 TEST(TowardsCamera, AddsTheCamerasOwnAngles) {
-    // On its own point of interest a camera has no direction: half a turn about y is all.
+    // At its own point of interest a camera has no direction: only half a turn about y remains.
     const std::string angles = R"(, "orientation": [1, 2, 3], "rotation": [10, 20, 30])";
     PluginHost host(scene_of({solid("A"), camera_at({5, 5, 5}, {5, 5, 5}, angles)}));
     host.play("open\nset orientation.towards-camera=on\nclick apply");
@@ -60,7 +60,7 @@ TEST(Orientations, ReplaceTheRotationsUnlessThereIsNone) {
     EXPECT_THAT(transform.orientation, Near(1, 2, 3));
     EXPECT_THAT(transform.rotation, Near(4, 5, 6));
 
-    // The first layer stands to the right of the axis.
+    // The first layer is to the right of the axis.
     const struct {
         const char* choice;
         Vec3 wanted;

@@ -1,4 +1,4 @@
-// How dialog and menu follow what is selected, and the pop-up the cameras.
+// How dialog and menu follow the selection, and the pop-up follows the cameras.
 
 #include "tests/host/entry/PluginTest.h"
 
@@ -31,7 +31,7 @@ TEST(Selection, EnablesMenuAndDialogForPlaceableLayers) {
     }
 }
 
-// Disabling is for a dialog that was enabled before: a new one is left as it was made.
+// Disabling affects only a dialog that was enabled before: a new one stays as it was made.
 TEST(Selection, LeavesANewDialogWithoutLayersAlone) {
     PluginHost host(scene_of({camera("Camera")}));
     host.play("open\nidle");
@@ -49,7 +49,7 @@ TEST(Selection, IsFollowedAtTheNextIdleCall) {
         host.play(actions);
         return enabled();
     };
-    EXPECT_TRUE(after("deselect")); // not told of it yet
+    EXPECT_TRUE(after("deselect")); // the plug-in has not seen it yet
     EXPECT_FALSE(after("idle"));
     EXPECT_TRUE(after("select S\nidle"));
     for (const char* item : {"footage", "none"}) {
@@ -68,7 +68,7 @@ TEST(Selection, IdleDoesNotReadMoreThanItNeeds) {
     host.play("idle");
     std::map<std::string, int> counts;
     for (const std::string& call : host.new_calls()) ++counts[call];
-    // Twice through the selection of three, once through the three layers for cameras.
+    // Twice through the three selected layers, once through the three layers for cameras.
     EXPECT_EQ(counts["Collection.GetCollectionItemByIndex"], 6);
     EXPECT_EQ(counts["Layer.IsLayer3D"], 6);
     EXPECT_EQ(counts["Layer.GetLayerObjectType"], 6);

@@ -1,4 +1,4 @@
-// What the suite handler acquires, and that it gives all of it back.
+// What the suite handler acquires, and that it releases all of it.
 
 #include "host/services/AEGP_SuiteHandler.h"
 
@@ -36,7 +36,7 @@ using Calls = std::vector<std::string>;
 TEST_F(SuiteHandler, AcquiresEachNameAndVersionOnceAndReleasesAll) {
     {
         AEGP_SuiteHandler suites(&basic);
-        const std::string same = "Layer"; // another address, the same name
+        const std::string same = "Layer"; // same name, different address
         EXPECT_EQ(suites.LoadSuite("Layer", 5), &tables[2]);
         EXPECT_EQ(suites.LoadSuite(same.c_str(), 5), &tables[2]);
         EXPECT_EQ(suites.LoadSuite("Layer", 10), &tables[1]);
@@ -56,7 +56,7 @@ TEST_F(SuiteHandler, ReleasesOnTheWayOutOfAnException) {
     EXPECT_EQ(calls, (Calls{"+Item 3", "-Item 3"}));
 }
 
-TEST_F(SuiteHandler, ThrowsItsCodeForWhatCannotBeHad) {
+TEST_F(SuiteHandler, ThrowsItsCodeForAMissingSuite) {
     const auto code_of = [](auto&& action) {
         try {
             action();
@@ -69,7 +69,7 @@ TEST_F(SuiteHandler, ThrowsItsCodeForWhatCannotBeHad) {
     AEGP_SuiteHandler suites(&basic);
     EXPECT_EQ(code_of([&] { suites.LoadSuite("absent", 1); }), 516);
     EXPECT_EQ(code_of([&] { suites.LoadSuite("empty", 1); }), 516);
-    // The use that gave nothing was counted, so it is given back; the refused one was not.
+    // The use without a table was counted, so it is released; the refused one was not.
     EXPECT_EQ(calls, (Calls{"+absent 1", "+empty 1", "-empty 1"}));
 }
 
