@@ -21,7 +21,6 @@ ControlNames ControlNames::beside(const std::string& module_path) {
         if (!id.is_number_integer() || id < 1 || id > INT_MAX)
             throw SceneError(path, name, "must be an id, a whole number from 1");
         names._ids[name] = id;
-        names._names.emplace(id, name);
     }
     return names;
 }
@@ -33,8 +32,9 @@ std::optional<int> ControlNames::id_of(const std::string& name) const {
 }
 
 std::string ControlNames::name_of(int id) const {
-    const auto found = _names.find(id);
-    return found == _names.end() ? "" : found->second;
+    for (const auto& [name, it] : _ids)
+        if (it == id) return name;
+    return "";
 }
 
 std::string ControlNames::name_or_id(int id) const {

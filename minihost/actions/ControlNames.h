@@ -23,7 +23,6 @@ class ControlNames {
 
   private:
     std::map<std::string, int> _ids;
-    std::map<int, std::string> _names;
 };
 
 } // namespace minihost

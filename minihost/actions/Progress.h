@@ -13,7 +13,7 @@ namespace minihost {
 class Progress {
   public:
     void start(std::string what);
-    // `count` of them are done. Cheap enough to call for each.
+    // Cheap enough to call for every one of `count`.
     void show(std::size_t count, const char* noun);
     // Erases the line.
     void stop() { _line.erase(); }

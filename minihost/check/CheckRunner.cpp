@@ -47,7 +47,7 @@ Findings run_check(const Check& check, const Target& target, const Baseline& bas
     // For all of the check; its own children have stricter limits.
     const Limits limits{std::chrono::minutes(10 * target.level * sanitizer_factor),
                         8 * target.limits().between_checkpoints};
-    // A leak in the baseline is reported by one check alone.
+    // A leak in the baseline would show in every check, but held.memory reports it.
     const bool leaks =
         std::any_of(baseline.runs.begin(), baseline.runs.end(), [](const BaselineRun& run) {
             return run.kinds().contains(ViolationKind::Leak);

@@ -1,6 +1,7 @@
 // The table of all checks.
 //
-// To add one: a function in the file of its group, declared in CheckFunctions.h, and a row here.
+// To add one: a function in the file of its group, declared in CheckFunctions.h, and a row in
+// Checks.cpp.
 
 #pragma once
 

@@ -14,7 +14,7 @@
 
 namespace minihost {
 
-// Memory that a child shares with its parent: how far it has got.
+// How far a child has got, in memory that it shares with its parent.
 class ChildProgress {
   public:
     // Restarts the time limit between checkpoints. Long names are truncated.

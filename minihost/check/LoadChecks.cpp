@@ -1,6 +1,7 @@
 // Loading and unloading: what the module exports, whether it loads, what many loads leave behind.
 
 #include "minihost/check/CheckFunctions.h"
+#include "minihost/check/Deviations.h"
 #include "minihost/check/Exports.h"
 #include "minihost/check/PluginRun.h"
 

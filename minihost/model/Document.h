@@ -98,7 +98,7 @@ class Document {
     using Change = std::variant<PresenceChange, IndexChange, NameChange, ValueChange, KeyChange>;
     struct UndoStep {
         std::string name;
-        std::deque<Change> changes; // of a large step do not move as it grows
+        std::deque<Change> changes; // grows without moving
         std::shared_ptr<const Selection> before, after;
         std::uint64_t number = 0; // from 1, never reused
     };

@@ -1,4 +1,4 @@
-// Errors of files, with messages of one line.
+// Errors of files. Every message is one line.
 
 #pragma once
 

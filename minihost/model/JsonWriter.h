@@ -43,7 +43,7 @@ class JsonWriter {
     JsonWriter& member(std::string_view name, const Value& it) {
         return key(name).value(it);
     }
-    // Starts a line with so many blanks.
+    // Starts a new line with so many blanks.
     JsonWriter& line(int indent);
 
   private:

@@ -61,7 +61,7 @@ class Host {
     int hook_errors() const { return _hook_errors; }
     // How many calls of the plug-in have returned misuse_error.
     int misuses() const { return _misuses; }
-    // In the order in which they were found; only the first thousands.
+    // In the order in which they were found, the first 5000.
     const std::vector<Violation>& violations() const { return _violations; }
     void record_violation(ViolationKind kind, std::string text);
 

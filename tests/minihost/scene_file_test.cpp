@@ -194,18 +194,6 @@ TEST(SceneWriter, WritesWhatReadsBackExactly) {
     EXPECT_THAT(again.undo_names(), ElementsAre("One", "Two"));
 }
 
-TEST(SceneWriter, DescribesEveryFieldOfALayer) {
-    const Document document(parse_scene(
-        one_layer(R"("kind": "solid", "three_d": true, "source": {"width": 9, "height": 8})"), ""));
-    EXPECT_THAT(
-        scene_text(document),
-        HasSubstr(R"({"name": "A", "kind": "solid", "three_d": true, "color": "#c04040", )"
-                  R"("source": {"width": 9, "height": 8}, "start": 0,
-     "transform": {"anchor_point": [4.5, 4, 0], "position": [960, 540, 0], )"
-                  R"("scale": [100, 100, 100], "orientation": [0, 0, 0], "rotation": [0, 0, 0]},
-     "keyframes": {}})"));
-}
-
 class OutputFile : public testing::Test {
   protected:
     TemporaryFolder temporary;
