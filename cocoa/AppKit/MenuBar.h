@@ -6,10 +6,10 @@
 
 namespace cocoa {
 
-// nil takes the bar away.
+// nil removes the bar.
 void show_menu_bar(NSMenu* menu);
 void redraw_menu_bar();
-// Opens its first menu for the keyboard; false without a bar.
+// Opens its first menu for the keyboard; false if there is no bar.
 bool open_menu_bar();
 
 } // namespace cocoa

@@ -1,7 +1,8 @@
 #include "MenuBar.h"
 
-#include "Internal.h"
 #include "MenuTracker.h"
+#include "NSEventPrivate.h"
+#include "NSWindowPrivate.h"
 #include "Theme.h"
 #include "WindowServer.h"
 
@@ -14,7 +15,6 @@ using namespace cocoa;
   @private
     NSInteger _open;
 }
-- (void)finish:(NSMenuItem*)chosen;
 - (void)openMenu:(NSInteger)index from:(NSPoint)start pressed:(bool)pressed;
 @end
 
@@ -54,9 +54,7 @@ NSRect bar_rect() {
 }
 
 - (NSString*)titleOf:(NSInteger)index {
-    NSMenuItem* item = [[NSApp mainMenu] itemAtIndex:index];
-    NSString* title = [item title];
-    return [title length] ? title : [[item submenu] title];
+    return [[[NSApp mainMenu] itemAtIndex:index] title];
 }
 
 - (NSRect)rectOf:(NSInteger)index {
@@ -86,17 +84,17 @@ NSRect bar_rect() {
             NSRectFill(NSMakeRect(NSMinX(rect), 0, NSWidth(rect), NSHeight(rect) - 1));
         }
         theme::draw_line([self titleOf:i], rect, theme::menu_font(),
-                         i == _open ? theme::accent_text() : theme::text(), 2);
+                         i == _open ? theme::accent_text() : theme::text(), NSCenterTextAlignment);
     }
 }
 
 - (void)mouseDown:(NSEvent*)event {
     [self openMenu:[self titleAt:[self convertPoint:[event locationInWindow] fromView:nil]]
-              from:[[self window] convertBaseToScreen:[event locationInWindow]]
+              from:[event locationOnScreen]
            pressed:true];
 }
 
-// Opens the menu of a title and, as the mouse or the arrows go along the bar, those beside it.
+// Opens the menu of a title and, as the mouse or the arrows move along the bar, those beside it.
 - (void)openMenu:(NSInteger)index from:(NSPoint)start pressed:(bool)pressed {
     [[self retain] autorelease];
     NSMenuItem* chosen = nil;
@@ -120,9 +118,7 @@ NSRect bar_rect() {
             continue;
         }
         if (chosen || !tracker.left_for_bar()) break;
-        const NSPoint mouse = [[NSApp currentEvent] locationInWindow];
-        NSWindow* under = [[NSApp currentEvent] window];
-        const NSPoint at = under ? [under convertBaseToScreen:mouse] : mouse;
+        const NSPoint at = [[NSApp currentEvent] locationOnScreen];
         const NSInteger other =
             [self titleAt:[self convertPoint:[[self window] convertScreenToBase:at] fromView:nil]];
         const bool again = other == index && [[NSApp currentEvent] type] == NSLeftMouseDown;
@@ -133,13 +129,8 @@ NSRect bar_rect() {
     }
     _open = -1;
     [self setNeedsDisplay:YES];
-    [self finish:chosen];
-}
-
-// The choice takes effect once the list is gone.
-- (void)finish:(NSMenuItem*)chosen {
-    NSMenu* menu = [chosen menu];
-    if (menu) [menu performActionForItemAtIndex:[menu indexOfItem:chosen]];
+    // Only now that the list is closed.
+    [[chosen menu] performActionForItemAtIndex:[[chosen menu] indexOfItem:chosen]];
 }
 @end
 

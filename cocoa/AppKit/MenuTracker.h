@@ -1,12 +1,12 @@
-// Shows a menu's list in a window of its own and lets mouse and keys choose from it, lists of
-// submenus included.
+// Shows a menu's list in a window of its own and lets mouse and keys choose from it and from those
+// of its submenus.
 //
 // 1. The list opens while the mouse button is down (or from the keyboard).
 // 2. A drag moves the highlight; the release over an enabled item chooses it. A release where the
 //    button went down leaves the list open: then the next click chooses, or closes it when outside.
 // 3. Up, Down, Home and End move the highlight, Right and Left open and close a submenu, Return,
 //    Enter and Space choose, Escape closes.
-// When no event can come any more, the list closes without a choice.
+// When no more events can come, the list closes without a choice.
 #pragma once
 
 #include <AppKit/NSMenu.h>
@@ -18,7 +18,7 @@
 
 namespace cocoa {
 
-// Where the items of a list are, from its top, without the list being open.
+// The size of a list, and the distance of an item from its top, in points.
 double menu_list_width(NSMenu* menu);
 double menu_list_height(NSMenu* menu);
 double menu_item_top(NSMenu* menu, NSInteger index);
@@ -30,30 +30,28 @@ class MenuTracker {
     MenuTracker(const MenuTracker&) = delete;
     MenuTracker& operator=(const MenuTracker&) = delete;
 
-    // The list's upper left corner in screen coordinates (moved so that the list is on the screen),
-    // its least width, and the item to highlight at first (-1: none).
+    // At the upper left corner in screen coordinates, moved so that the list is on the screen, and
+    // at least `width` wide; `highlighted` is the item that is highlighted at first, -1 for none.
     void open(NSMenu* menu, NSPoint top_left, double width, NSInteger highlighted);
 
-    // Answers the chosen item, autoreleased, or nil. `start` is where the mouse went down on the
-    // screen, with `pressed` saying whether the button is still down.
+    // Returns the chosen item, autoreleased, or nil. `start` is where the mouse went down on the
+    // screen, `pressed` whether the button is still down.
     NSMenuItem* run(NSPoint start, bool pressed);
 
-    // Moves the highlight of the innermost list to the next item that can be chosen (1), or back
-    // (-1).
+    // Moves the highlight of the innermost list to the next (1) or previous (-1) item that can be
+    // chosen.
     void step(int direction);
 
-    // For the menu bar: the screen rectangle in which the tracker hands the mouse back to its
-    // caller, but for the title of the open list, and which way the arrows left it (-1, 0, 1).
+    // For the menu bar: in its rectangle on the screen, except over the title of the open list, the
+    // tracker ends and leaves the mouse to its caller. side_step is where the arrows left to: -1
+    // or 1.
     void set_bar(NSRect bar, NSRect title) {
-        bar_ = bar;
-        title_ = title;
+        _bar = bar;
+        _title = title;
     }
-    bool left_for_bar() const { return left_for_bar_; }
-    int side_step() const { return side_step_; }
-    bool still_pressed() const { return pressed_; }
-
-    // Where a list of that width and height is shown for a wished corner.
-    static NSPoint on_screen(NSPoint top_left, double width, double height);
+    bool left_for_bar() const { return _left_for_bar; }
+    int side_step() const { return _side_step; }
+    bool still_pressed() const { return _pressed; }
 
   private:
     struct Level {
@@ -61,7 +59,7 @@ class MenuTracker {
         NSWindow* window;     // retained
         NSMenuListView* view; // the window's
     };
-    enum class Verdict { go_on, cancelled, chosen };
+    enum class Verdict { Continue, Cancelled, Chosen };
 
     void close_to(size_t count);
     int level_at(NSPoint screen) const;
@@ -71,14 +69,14 @@ class MenuTracker {
     Verdict on_key(NSEvent* event);
     Verdict choose();
 
-    std::vector<Level> levels_;
-    NSPoint start_ = {0, 0};
-    NSRect bar_ = {{0, 0}, {0, 0}};
-    NSRect title_ = {{0, 0}, {0, 0}};
-    bool pressed_ = false;
-    bool moved_ = false;
-    bool left_for_bar_ = false;
-    int side_step_ = 0;
+    std::vector<Level> _levels;
+    NSPoint _start = {0, 0};
+    NSRect _bar = {{0, 0}, {0, 0}};
+    NSRect _title = {{0, 0}, {0, 0}};
+    bool _pressed = false;
+    bool _moved = false;
+    bool _left_for_bar = false;
+    int _side_step = 0;
 };
 
 } // namespace cocoa

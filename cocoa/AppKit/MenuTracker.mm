@@ -1,7 +1,8 @@
 #include "MenuTracker.h"
 
-#include "Internal.h"
-#include "MenuList.h"
+#include "NSEventPrivate.h"
+#include "NSMenuListView.h"
+#include "NSWindowPrivate.h"
 #include "WindowServer.h"
 
 #include <algorithm>
@@ -27,31 +28,26 @@ NSWindow* make_list_window(NSMenu* menu, NSPoint top_left, double width, NSMenuL
     return window;
 }
 
-NSPoint screen_point(NSEvent* event) {
-    NSWindow* window = [event window];
-    return window ? [window convertBaseToScreen:[event locationInWindow]]
-                  : [event locationInWindow];
-}
-
-// Follows the movements of the mouse for as long as it lives.
+// Mouse movements are reported while it lives.
 struct FollowMoves {
     FollowMoves() { WindowServer::shared().follow_moves(true); }
     ~FollowMoves() { WindowServer::shared().follow_moves(false); }
 };
 
-bool can_choose(NSMenuItem* item) {
-    return item && [item isEnabled] && ![item isHidden];
-}
-
-} // namespace
-
-NSPoint MenuTracker::on_screen(NSPoint top_left, double width, double height) {
+// Where a list of that width and height is shown for a requested corner.
+NSPoint on_screen(NSPoint top_left, double width, double height) {
     const NSRect screen = [[NSScreen mainScreen] visibleFrame];
     top_left.x = std::max(NSMinX(screen), std::min(top_left.x, NSMaxX(screen) - width));
-    // A list that is too high shows its upper part.
+    // Of a list that is too high, the upper part is visible.
     top_left.y = std::min(NSMaxY(screen), std::max(top_left.y, NSMinY(screen) + height));
     return NSMakePoint(std::floor(top_left.x), std::floor(top_left.y));
 }
+
+bool can_choose(NSMenuItem* item) {
+    return item && [item isEnabled];
+}
+
+} // namespace
 
 void MenuTracker::open(NSMenu* menu, NSPoint top_left, double width, NSInteger highlighted) {
     [menu update];
@@ -61,30 +57,30 @@ void MenuTracker::open(NSMenu* menu, NSPoint top_left, double width, NSInteger h
     NSWindow* window = make_list_window(menu, top_left, width, view);
     [view setHighlightedItem:highlighted];
     [window orderFront:nil];
-    levels_.push_back({[menu retain], window, view});
+    _levels.push_back({[menu retain], window, view});
 }
 
 void MenuTracker::close_to(size_t count) {
-    while (levels_.size() > count) {
-        const Level level = levels_.back();
-        levels_.pop_back();
+    while (_levels.size() > count) {
+        const Level level = _levels.back();
+        _levels.pop_back();
         [level.window orderOut:nil];
-        // Events of the queue may still name it.
+        // Events in the queue may still refer to it.
         [level.window autorelease];
         [level.menu autorelease];
     }
 }
 
 int MenuTracker::level_at(NSPoint screen) const {
-    for (size_t i = levels_.size(); i-- > 0;)
-        if (NSMouseInRect(screen, [levels_[i].window frame], NO)) return static_cast<int>(i);
+    for (size_t i = _levels.size(); i-- > 0;)
+        if (NSMouseInRect(screen, [_levels[i].window frame], NO)) return static_cast<int>(i);
     return -1;
 }
 
 void MenuTracker::open_submenu() {
-    const Level& level = levels_.back();
+    const Level& level = _levels.back();
     NSMenuItem* item = [level.menu itemAtIndex:[level.view highlightedItem]];
-    if (!can_choose(item) || ![item hasSubmenu] || levels_.size() > 8) return;
+    if (!can_choose(item) || ![item hasSubmenu] || _levels.size() > 8) return;
     const NSRect row = [level.view convertRect:[level.view rectOfItem:[level.view highlightedItem]]
                                         toView:nil];
     const NSPoint corner =
@@ -95,13 +91,13 @@ void MenuTracker::open_submenu() {
 void MenuTracker::highlight_at(NSPoint screen) {
     const int at = level_at(screen);
     if (at < 0) {
-        [levels_.back().view setHighlightedItem:-1];
+        [_levels.back().view setHighlightedItem:-1];
         return;
     }
-    const Level level = levels_[static_cast<size_t>(at)];
+    const Level level = _levels[static_cast<size_t>(at)];
     const NSPoint base = [level.window convertScreenToBase:screen];
     const NSInteger item = [level.view itemAtPoint:[level.view convertPoint:base fromView:nil]];
-    if (item == [level.view highlightedItem] && levels_.size() > static_cast<size_t>(at) + 1)
+    if (item == [level.view highlightedItem] && _levels.size() > static_cast<size_t>(at) + 1)
         return;
     close_to(static_cast<size_t>(at) + 1);
     [level.view setHighlightedItem:item];
@@ -109,50 +105,51 @@ void MenuTracker::highlight_at(NSPoint screen) {
 }
 
 MenuTracker::Verdict MenuTracker::choose() {
-    const Level& level = levels_.back();
+    const Level& level = _levels.back();
     NSMenuItem* item = [level.menu itemAtIndex:[level.view highlightedItem]];
-    if (!can_choose(item)) return Verdict::go_on;
+    if (!can_choose(item)) return Verdict::Continue;
     if ([item hasSubmenu]) {
         open_submenu();
-        return Verdict::go_on;
+        return Verdict::Continue;
     }
-    return Verdict::chosen;
+    return Verdict::Chosen;
 }
 
 MenuTracker::Verdict MenuTracker::on_mouse(NSEvent* event) {
-    const NSPoint at = screen_point(event);
+    const NSPoint at = [event locationOnScreen];
     const NSEventType type = [event type];
-    if (std::hypot(at.x - start_.x, at.y - start_.y) > 3) moved_ = true;
-    if (type == NSScrollWheel) return Verdict::go_on;
+    if (std::hypot(at.x - _start.x, at.y - _start.y) > 3) _moved = true;
+    if (type == NSScrollWheel) return Verdict::Continue;
     const bool up = type == NSLeftMouseUp || type == NSRightMouseUp;
     const bool down = type == NSLeftMouseDown || type == NSRightMouseDown;
     if (down) {
-        pressed_ = moved_ = true;
-        if (NSMouseInRect(at, bar_, NO)) {
-            left_for_bar_ = true;
-            return Verdict::cancelled;
+        _pressed = _moved = true;
+        if (NSMouseInRect(at, _bar, NO)) {
+            _left_for_bar = true;
+            return Verdict::Cancelled;
         }
-        if (level_at(at) < 0) return Verdict::cancelled;
+        if (level_at(at) < 0) return Verdict::Cancelled;
     }
-    if (!up && NSMouseInRect(at, bar_, NO) && !NSMouseInRect(at, title_, NO)) {
-        left_for_bar_ = true;
-        return Verdict::cancelled;
+    if (!up && NSMouseInRect(at, _bar, NO) && !NSMouseInRect(at, _title, NO)) {
+        _left_for_bar = true;
+        return Verdict::Cancelled;
     }
-    if (up && !moved_) {
-        // The click that opened the list.
-        pressed_ = false;
-        moved_ = true;
-        return Verdict::go_on;
+    if (up && !_moved) {
+        // The release of the click that opened the list.
+        _pressed = false;
+        _moved = true;
+        return Verdict::Continue;
     }
     highlight_at(at);
-    if (!up) return Verdict::go_on;
-    pressed_ = false;
-    if (level_at(at) < 0) return NSMouseInRect(at, bar_, NO) ? Verdict::go_on : Verdict::cancelled;
+    if (!up) return Verdict::Continue;
+    _pressed = false;
+    if (level_at(at) < 0)
+        return NSMouseInRect(at, _bar, NO) ? Verdict::Continue : Verdict::Cancelled;
     return choose();
 }
 
 void MenuTracker::step(int direction) {
-    const Level& level = levels_.back();
+    const Level& level = _levels.back();
     const NSInteger count = [level.menu numberOfItems];
     NSInteger item = [level.view highlightedItem];
     if (item < 0 && direction < 0) item = count;
@@ -176,30 +173,30 @@ MenuTracker::Verdict MenuTracker::on_key(NSEvent* event) {
         step(1);
         break;
     case NSHomeFunctionKey:
-        [levels_.back().view setHighlightedItem:-1];
+        [_levels.back().view setHighlightedItem:-1];
         step(1);
         break;
     case NSEndFunctionKey:
-        [levels_.back().view setHighlightedItem:-1];
+        [_levels.back().view setHighlightedItem:-1];
         step(-1);
         break;
     case NSRightArrowFunctionKey: {
-        const size_t before = levels_.size();
+        const size_t before = _levels.size();
         open_submenu();
-        if (levels_.size() > before)
+        if (_levels.size() > before)
             step(1);
-        else if (!NSIsEmptyRect(bar_)) {
-            side_step_ = 1;
-            return Verdict::cancelled;
+        else if (!NSIsEmptyRect(_bar)) {
+            _side_step = 1;
+            return Verdict::Cancelled;
         }
         break;
     }
     case NSLeftArrowFunctionKey:
-        if (levels_.size() > 1) {
-            close_to(levels_.size() - 1);
-        } else if (!NSIsEmptyRect(bar_)) {
-            side_step_ = -1;
-            return Verdict::cancelled;
+        if (_levels.size() > 1) {
+            close_to(_levels.size() - 1);
+        } else if (!NSIsEmptyRect(_bar)) {
+            _side_step = -1;
+            return Verdict::Cancelled;
         }
         break;
     case NSCarriageReturnCharacter:
@@ -207,23 +204,23 @@ MenuTracker::Verdict MenuTracker::on_key(NSEvent* event) {
     case ' ':
         return choose();
     case NSEscapeCharacter:
-        if (levels_.size() == 1) return Verdict::cancelled;
-        close_to(levels_.size() - 1);
+        if (_levels.size() == 1) return Verdict::Cancelled;
+        close_to(_levels.size() - 1);
         break;
     }
-    return Verdict::go_on;
+    return Verdict::Continue;
 }
 
 NSMenuItem* MenuTracker::run(NSPoint start, bool pressed) {
     const FollowMoves follow;
-    start_ = start;
-    pressed_ = pressed;
-    moved_ = !pressed;
+    _start = start;
+    _pressed = pressed;
+    _moved = !pressed;
     const NSUInteger mask = NSLeftMouseDownMask | NSLeftMouseUpMask | NSLeftMouseDraggedMask |
                             NSRightMouseDownMask | NSRightMouseUpMask | NSRightMouseDraggedMask |
                             NSMouseMovedMask | NSScrollWheelMask | NSKeyDownMask | NSKeyUpMask |
                             NSApplicationDefinedMask;
-    while (!levels_.empty()) {
+    while (!_levels.empty()) {
         NSEvent* event = [NSApp nextEventMatchingMask:mask
                                             untilDate:[NSDate distantFuture]
                                                inMode:NSEventTrackingRunLoopMode
@@ -235,9 +232,9 @@ NSMenuItem* MenuTracker::run(NSPoint start, bool pressed) {
         }
         if ([event type] == NSKeyUp || [event type] == NSApplicationDefined) continue;
         const Verdict verdict = [event type] == NSKeyDown ? on_key(event) : on_mouse(event);
-        if (verdict == Verdict::cancelled) return nil;
-        if (verdict == Verdict::go_on) continue;
-        const Level& level = levels_.back();
+        if (verdict == Verdict::Cancelled) return nil;
+        if (verdict == Verdict::Continue) continue;
+        const Level& level = _levels.back();
         return [[[level.menu itemAtIndex:[level.view highlightedItem]] retain] autorelease];
     }
     return nil;

@@ -1,19 +1,18 @@
-// The application's life, its windows and its actions.
-#include <AppKit/NSApplication.h>
+// The application's windows, actions and modal loops.
+#include "NSApplicationPrivate.h"
 
-#include "Internal.h"
 #include "MenuBar.h"
+#include "NSEventPrivate.h"
+#include "NSWindowPrivate.h"
+#include "Setters.h"
 #include "WindowServer.h"
 
+#include <AppKit/NSMenu.h>
 #include <cstdlib>
 
 using cocoa::WindowServer;
 
 NSApplication* NSApp = nil;
-
-NSString* const NSApplicationDidFinishLaunchingNotification =
-    @"NSApplicationDidFinishLaunchingNotification";
-NSString* const NSApplicationWillTerminateNotification = @"NSApplicationWillTerminateNotification";
 
 @implementation NSApplication
 + (NSApplication*)sharedApplication {
@@ -27,87 +26,19 @@ NSString* const NSApplicationWillTerminateNotification = @"NSApplicationWillTerm
     return self;
 }
 
-- (void)dealloc {
-    [_queue release];
-    [_currentEvent release];
-    [_mainMenu release];
-    [super dealloc];
-}
-
-- (id<NSApplicationDelegate>)delegate {
-    return _delegate;
-}
 - (void)setDelegate:(id<NSApplicationDelegate>)delegate {
     _delegate = delegate;
 }
 
-- (void)tell:(NSString*)name selector:(SEL)selector {
-    NSNotification* notification = [NSNotification notificationWithName:name object:self];
-    if ([_delegate respondsToSelector:selector])
-        [_delegate performSelector:selector withObject:notification];
-    [[NSNotificationCenter defaultCenter] postNotification:notification];
-}
-
-- (void)finishLaunching {
-    if (_launched) return;
-    _launched = YES;
-    [self tell:NSApplicationDidFinishLaunchingNotification
-        selector:@selector(applicationDidFinishLaunching:)];
-}
-
-- (void)run {
-    if (_running) return;
-    _running = YES;
-    _stopped = NO;
-    NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
-    [self finishLaunching];
-    while (!_stopped) {
-        NSEvent* event = [self nextEventMatchingMask:NSAnyEventMask
-                                           untilDate:[NSDate distantFuture]
-                                              inMode:NSDefaultRunLoopMode
-                                             dequeue:YES];
-        if (!event) break;
-        [self sendEvent:event];
-        [pool drain];
-        pool = [[NSAutoreleasePool alloc] init];
-    }
-    [pool drain];
-    _running = NO;
-}
-
-- (BOOL)isRunning {
-    return _running;
-}
-
-// A loop that waits must see that it is to end: an event of no meaning wakes it.
+// Wakes a waiting loop with an event that nobody handles, so that it sees that it has ended.
 - (void)wake {
-    [self postEvent:[NSEvent otherEventWithType:NSApplicationDefined
-                                       location:NSZeroPoint
-                                  modifierFlags:0
-                                      timestamp:0
-                                   windowNumber:0
-                                        context:nil
-                                        subtype:0
-                                          data1:0
-                                          data2:0]
-            atStart:YES];
-}
-
-- (void)stop:(id)__attribute__((unused))sender {
-    if (_modalWindow && !_modalEnded) {
-        [self stopModal];
-        return;
-    }
-    _stopped = YES;
-    [self wake];
+    [self postEvent:[NSEvent applicationEvent:0] atStart:YES];
 }
 
 - (void)terminate:(id)__attribute__((unused))sender {
     if ([_delegate respondsToSelector:@selector(applicationShouldTerminate:)] &&
         [_delegate applicationShouldTerminate:self] == NSTerminateCancel)
         return;
-    [self tell:NSApplicationWillTerminateNotification
-        selector:@selector(applicationWillTerminate:)];
     std::exit(0);
 }
 
@@ -119,7 +50,6 @@ NSString* const NSApplicationWillTerminateNotification = @"NSApplicationWillTerm
     for (NSResponder* r = [_keyWindow firstResponder]; r; r = [r nextResponder])
         if ([r respondsToSelector:action]) return r;
     if ([_keyWindow respondsToSelector:action]) return _keyWindow;
-    if ([(id)[_keyWindow delegate] respondsToSelector:action]) return (id)[_keyWindow delegate];
     if ([self respondsToSelector:action]) return self;
     return [(id)_delegate respondsToSelector:action] ? (id)_delegate : nil;
 }
@@ -127,7 +57,7 @@ NSString* const NSApplicationWillTerminateNotification = @"NSApplicationWillTerm
 - (BOOL)sendAction:(SEL)action to:(id)target from:(id)sender {
     target = [self targetForAction:action to:target from:sender];
     if (!target) return NO;
-    // The action may free the one or the other.
+    // The action may free either.
     [[target retain] autorelease];
     [[sender retain] autorelease];
     [target performSelector:action withObject:sender];
@@ -142,15 +72,6 @@ NSString* const NSApplicationWillTerminateNotification = @"NSApplicationWillTerm
         if ([window isListed]) [windows addObject:window];
     return windows;
 }
-- (NSArray*)orderedWindows {
-    NSMutableArray* windows = [NSMutableArray array];
-    for (NSWindow* window : WindowServer::shared().ordered())
-        if ([window isListed]) [windows addObject:window];
-    return windows;
-}
-- (NSWindow*)windowWithWindowNumber:(NSInteger)number {
-    return WindowServer::shared().window_with_number(number);
-}
 - (NSWindow*)keyWindow {
     return _keyWindow;
 }
@@ -160,13 +81,13 @@ NSString* const NSApplicationWillTerminateNotification = @"NSApplicationWillTerm
     NSWindow* old = _keyWindow;
     _keyWindow = window;
     [old resignKeyWindow];
-    // Whoever heard of it may have chosen another.
+    // It may have chosen another.
     if (_keyWindow != window || !window) return;
-    [window tellTitle];
+    [window showTitleOnDisplay];
     [window becomeKeyWindow];
 }
 
-- (void)keyWindowNeeded {
+- (void)chooseKeyWindow {
     for (NSWindow* window : WindowServer::shared().ordered())
         if ([window isListed] && [window canBecomeKeyWindow]) {
             [window makeKeyWindow];
@@ -174,29 +95,19 @@ NSString* const NSApplicationWillTerminateNotification = @"NSApplicationWillTerm
         }
 }
 
-- (void)windowIsGone:(NSWindow*)window {
+- (void)windowWillBeFreed:(NSWindow*)window {
     if (_modalWindow == window) _modalWindow = nil;
     if (_keyWindow != window) return;
     _keyWindow = nil;
     WindowServer::shared().order_out(window);
-    [self keyWindowNeeded];
-}
-
-- (void)lastWindowMayHaveClosed {
-    if (!_running || [[self orderedWindows] count]) return;
-    if ([_delegate
-            respondsToSelector:@selector(applicationShouldTerminateAfterLastWindowClosed:)] &&
-        [_delegate applicationShouldTerminateAfterLastWindowClosed:self])
-        [self terminate:self];
+    [self chooseKeyWindow];
 }
 
 - (NSMenu*)mainMenu {
     return _mainMenu;
 }
 - (void)setMainMenu:(NSMenu*)menu {
-    if (menu == _mainMenu) return;
-    [_mainMenu release];
-    _mainMenu = [menu retain];
+    cocoa::set_retained(_mainMenu, menu);
     cocoa::show_menu_bar(_mainMenu);
 }
 - (void)updateWindows {
@@ -221,10 +132,10 @@ NSString* const NSApplicationWillTerminateNotification = @"NSApplicationWillTerm
                                            untilDate:[NSDate distantFuture]
                                               inMode:NSModalPanelRunLoopMode
                                              dequeue:YES];
-        const BOOL dry = !event;
+        const BOOL none = !event;
         if (event) [self sendEvent:event];
         [pool drain];
-        if (dry) break;
+        if (none) break;
     }
     _modalWindow = outer;
     _modalEnded = outer_ended;
@@ -232,9 +143,6 @@ NSString* const NSApplicationWillTerminateNotification = @"NSApplicationWillTerm
     return _modalCode;
 }
 
-- (void)stopModal {
-    [self stopModalWithCode:NSRunStoppedResponse];
-}
 - (void)stopModalWithCode:(NSInteger)code {
     if (!_modalWindow) return;
     _modalCode = code;

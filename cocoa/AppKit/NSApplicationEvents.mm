@@ -1,10 +1,16 @@
-// The event queue, and who gets which event.
-#include "Internal.h"
+// The event queue, and where events go.
 #include "MenuBar.h"
+#include "NSApplicationPrivate.h"
+#include "NSEventPrivate.h"
+#include "Setters.h"
 #include "WindowServer.h"
 
 #include <algorithm>
+#include <AppKit/NSMenu.h>
+#include <AppKit/NSWindow.h>
+#include <chrono>
 #include <Foundation/NSRunLoop.h>
+#include <thread>
 
 using cocoa::WindowServer;
 
@@ -19,16 +25,15 @@ NSString* const NSModalPanelRunLoopMode = @"NSModalPanelRunLoopMode";
         [[event retain] autorelease];
         if (dequeue) {
             [_queue removeObjectAtIndex:i];
-            [_currentEvent release];
-            _currentEvent = [event retain];
+            cocoa::set_retained(_currentEvent, event);
         }
         return event;
     }
     return nil;
 }
 
-// Moves the display's next event into the queue, after waiting for it. One at a time: what becomes
-// of an event (whether anybody follows the mouse, which windows there are) may hang on the one
+// Waits for the display's next event and moves it into the queue. One at a time: how an event is
+// translated (whether anybody follows the mouse, which windows there are) may depend on the one
 // before.
 - (BOOL)fetchEventWithin:(NSTimeInterval)seconds {
     cocoa::DisplayEvent raw;
@@ -53,7 +58,7 @@ NSString* const NSModalPanelRunLoopMode = @"NSModalPanelRunLoopMode";
     for (;;) {
         NSEvent* event = [self presentEventMatchingMask:mask dequeue:dequeue];
         if (event) return event;
-        // Timers fire here; what they set off is looked at before anything is waited for.
+        // Timers fire here; events that they post are taken before any waiting.
         NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
         NSDate* next = [[NSRunLoop currentRunLoop] limitDateForMode:mode];
         const bool timer = next != nil;
@@ -66,14 +71,19 @@ NSString* const NSModalPanelRunLoopMode = @"NSModalPanelRunLoopMode";
         if (now >= until) return nil;
         if (!WindowServer::shared().display().has_user()) {
             if (!timer || due > until) return nil;
-            [[NSRunLoop currentRunLoop]
-                   runMode:mode
-                beforeDate:[NSDate dateWithTimeIntervalSinceReferenceDate:due]];
+            std::this_thread::sleep_for(std::chrono::duration<double>(due - now));
             continue;
         }
         const NSTimeInterval end = timer ? std::min(due, until) : until;
         [self fetchEventWithin:std::max(end - now, 0.001)];
     }
+}
+
+- (NSEvent*)nextDragOrMouseUp {
+    return [self nextEventMatchingMask:NSLeftMouseDraggedMask | NSLeftMouseUpMask
+                             untilDate:[NSDate distantFuture]
+                                inMode:NSEventTrackingRunLoopMode
+                               dequeue:YES];
 }
 
 - (NSEvent*)currentEvent {
@@ -85,8 +95,8 @@ NSString* const NSModalPanelRunLoopMode = @"NSModalPanelRunLoopMode";
     [_queue insertObject:event atIndex:atStart ? 0 : [_queue count]];
 }
 
-// Key equivalents: commands are looked for in the key window's views, then in the menu bar.
-- (BOOL)isKeyEquivalent:(NSEvent*)event {
+// Key equivalents: first those of the key window's views, then the menu bar's.
+- (BOOL)performKeyEquivalent:(NSEvent*)event {
     NSString* key = [event charactersIgnoringModifiers];
     if (!_modalWindow && [key length] == 1 && [key characterAtIndex:0] == NSF10FunctionKey)
         return cocoa::open_menu_bar();
@@ -99,14 +109,13 @@ NSString* const NSModalPanelRunLoopMode = @"NSModalPanelRunLoopMode";
     if (!event) return;
     const NSEventType type = [event type];
     if (type == NSKeyDown) {
-        if (![self isKeyEquivalent:event]) [_keyWindow sendEvent:event];
+        if (![self performKeyEquivalent:event]) [_keyWindow sendEvent:event];
     } else if (type == NSKeyUp) {
         [_keyWindow sendEvent:event];
     } else if (type == NSApplicationDefined) {
         if ([event subtype] == cocoa::quit_subtype) [self terminate:self];
     } else {
         NSWindow* window = [event window];
-        // A modal window has the mouse for itself.
         if (_modalWindow && window != _modalWindow) return;
         [window sendEvent:event];
     }

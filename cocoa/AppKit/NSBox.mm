@@ -1,5 +1,6 @@
 #include <AppKit/NSBox.h>
 
+#include "Setters.h"
 #include "Theme.h"
 
 #include <algorithm>
@@ -13,12 +14,10 @@ using namespace cocoa;
     self = [super initWithFrame:frame];
     if (!self) return nil;
     _title = @"Title";
-    _titleFont = [[NSFont systemFontOfSize:[NSFont smallSystemFontSize]] retain];
     return self;
 }
 - (void)dealloc {
     [_title release];
-    [_titleFont release];
     [super dealloc];
 }
 
@@ -26,44 +25,23 @@ using namespace cocoa;
     return _title;
 }
 - (void)setTitle:(NSString*)title {
-    if (title == _title) return;
-    [_title release];
-    _title = title ? [title copy] : @"";
-    [self setNeedsDisplay:YES];
-}
-- (NSFont*)titleFont {
-    return _titleFont;
-}
-- (void)setTitleFont:(NSFont*)font {
-    if (!font || font == _titleFont) return;
-    [_titleFont release];
-    _titleFont = [font retain];
+    set_copied(_title, title);
     [self setNeedsDisplay:YES];
 }
 
-- (double)titleHeight {
-    return std::ceil(theme::measure(@"X", _titleFont).height);
-}
-- (NSRect)titleRect {
-    const NSRect bounds = [self bounds];
-    const double width = std::ceil(theme::measure(_title, _titleFont).width);
-    return NSMakeRect(NSMinX(bounds) + 7, NSMaxY(bounds) - [self titleHeight],
-                      [_title length] ? width : 0, [self titleHeight]);
-}
-- (NSRect)borderRect {
-    NSRect rect = [self bounds];
-    rect.size.height = std::max(0.0, rect.size.height - [self titleHeight]);
-    return rect;
-}
-
-// A box takes no clicks itself: they go to what it frames, whether inside it or behind it.
+// A box takes no clicks: they go to what it frames, inside it or behind it.
 - (NSView*)hitTest:(NSPoint)point {
     NSView* hit = [super hitTest:point];
     return hit == self ? nil : hit;
 }
 
 - (void)drawRect:(NSRect)__attribute__((unused))dirty {
-    theme::draw_round([self borderRect], 3, nil, theme::neutral(0.55));
-    theme::draw_line(_title, [self titleRect], _titleFont, theme::neutral(1), 0);
+    NSFont* font = [NSFont systemFontOfSize:[NSFont smallSystemFontSize]];
+    const NSRect bounds = [self bounds];
+    const double line = std::ceil(theme::measure(@"X", font).height);
+    theme::draw_round(NSMakeRect(0, 0, NSWidth(bounds), std::max(0.0, NSHeight(bounds) - line)), 3,
+                      nil, theme::neutral(0.55));
+    theme::draw_line(_title, NSMakeRect(7, NSMaxY(bounds) - line, NSWidth(bounds), line), font,
+                     theme::neutral(1), NSLeftTextAlignment);
 }
 @end

@@ -1,7 +1,7 @@
 // Push buttons, check boxes and radio buttons, and their cell.
-#include <AppKit/NSButton.h>
+#include "NSButtonPrivate.h"
 
-#include "Internal.h"
+#include "Setters.h"
 #include "Theme.h"
 
 #include <AppKit/AppKit.h>
@@ -33,17 +33,16 @@ using namespace cocoa;
 - (NSButtonType)buttonType {
     return _buttonType;
 }
+- (BOOL)isMarked {
+    return _buttonType == NSSwitchButton || _buttonType == NSRadioButton;
+}
 - (void)setButtonType:(NSButtonType)type {
     _buttonType = type;
-    const BOOL marked = type == NSSwitchButton || type == NSRadioButton;
-    if (marked) {
+    if ([self isMarked]) {
         [self setBordered:NO];
         [self setAlignment:NSLeftTextAlignment];
     }
     [[self controlView] setNeedsDisplay:YES];
-}
-- (NSBezelStyle)bezelStyle {
-    return _bezelStyle;
 }
 - (void)setBezelStyle:(NSBezelStyle)style {
     _bezelStyle = style;
@@ -53,45 +52,19 @@ using namespace cocoa;
     return _keyEquivalent;
 }
 - (void)setKeyEquivalent:(NSString*)key {
-    if (key == _keyEquivalent) return;
-    [_keyEquivalent release];
-    _keyEquivalent = key ? [key copy] : @"";
+    set_copied(_keyEquivalent, key);
     [[self controlView] setNeedsDisplay:YES];
 }
 
 // The number of a button is its state.
-- (float)floatValue {
-    return [self state];
-}
 - (void)setFloatValue:(float)value {
-    [self setState:value != 0];
-}
-- (double)doubleValue {
-    return [self state];
-}
-- (void)setDoubleValue:(double)value {
-    [self setState:value != 0];
-}
-- (int)intValue {
-    return static_cast<int>([self state]);
-}
-- (void)setIntValue:(int)value {
-    [self setState:value != 0];
-}
-- (NSInteger)integerValue {
-    return [self state];
-}
-- (void)setIntegerValue:(NSInteger)value {
     [self setState:value != 0];
 }
 
 - (NSInteger)nextState {
     switch (_buttonType) {
-    case NSPushOnPushOffButton:
-    case NSToggleButton:
     case NSSwitchButton:
-    case NSOnOffButton:
-        return [super nextState];
+        return [self state] == NSOffState ? NSOnState : NSOffState;
     case NSRadioButton:
         return NSOnState;
     default:
@@ -110,17 +83,6 @@ using namespace cocoa;
                                                    NSParagraphStyleAttributeName, nil];
     return [[[NSAttributedString alloc] initWithString:[self title]
                                             attributes:attributes] autorelease];
-}
-
-- (BOOL)isMarked {
-    return _buttonType == NSSwitchButton || _buttonType == NSRadioButton;
-}
-
-- (NSSize)cellSize {
-    const NSSize text = theme::measure([self title], [self font]);
-    const double width = std::ceil(text.width), height = std::ceil(text.height);
-    if ([self isMarked]) return NSMakeSize(width + 20, std::max(height, 16.0));
-    return NSMakeSize(width + 24, height + 8);
 }
 
 - (void)drawMark:(NSRect)box {
@@ -147,9 +109,7 @@ using namespace cocoa;
 - (void)drawWithFrame:(NSRect)frame inView:(NSView*)view {
     [self setControlView:view];
     if ([self isBordered]) {
-        const BOOL pressed = [self isHighlighted] ||
-                             ([self state] == NSOnState && _buttonType != NSMomentaryLightButton &&
-                              _buttonType != NSMomentaryPushInButton);
+        const BOOL pressed = [self isHighlighted];
         const BOOL is_default = [_keyEquivalent isEqualToString:@"\r"];
         NSColor* face = is_default ? theme::accent() : theme::button();
         if (pressed) face = is_default ? theme::title_bar(true) : theme::button_pressed();
@@ -169,8 +129,7 @@ using namespace cocoa;
         [self drawMark:box];
         text = NSMakeRect(NSMinX(frame) + 20, NSMinY(frame), NSWidth(frame) - 20, NSHeight(frame));
     }
-    theme::draw_line([self title], text, [self font], color,
-                     static_cast<unsigned>([self alignment]));
+    theme::draw_line([self title], text, [self font], color, [self alignment]);
 }
 @end
 
@@ -179,31 +138,11 @@ using namespace cocoa;
     return [NSButtonCell class];
 }
 
-// On the platform the replaced cell would keep what the type means to itself, and a new cell's
-// button would be momentary: whoever gives a check box a cell of his own that only draws would have
-// a check box that never changes. The button hands the type that it was given on to the new cell.
-- (void)setCell:(NSCell*)cell {
-    [super setCell:cell];
-    if (_hasGivenType && [cell isKindOfClass:[NSButtonCell class]])
-        [(NSButtonCell*)cell setButtonType:_givenType];
-}
-
 - (void)setButtonType:(NSButtonType)type {
-    _givenType = type;
-    _hasGivenType = YES;
     [(NSButtonCell*)[self cell] setButtonType:type];
-}
-- (NSBezelStyle)bezelStyle {
-    return [(NSButtonCell*)[self cell] bezelStyle];
 }
 - (void)setBezelStyle:(NSBezelStyle)style {
     [(NSButtonCell*)[self cell] setBezelStyle:style];
-}
-- (BOOL)isBordered {
-    return [[self cell] isBordered];
-}
-- (void)setBordered:(BOOL)flag {
-    [[self cell] setBordered:flag];
 }
 - (NSString*)title {
     return [(NSButtonCell*)[self cell] title];
@@ -211,20 +150,11 @@ using namespace cocoa;
 - (void)setTitle:(NSString*)title {
     [(NSButtonCell*)[self cell] setTitle:title];
 }
-- (NSAttributedString*)attributedTitle {
-    return [(NSButtonCell*)[self cell] attributedTitle];
-}
 - (NSInteger)state {
     return [(NSButtonCell*)[self cell] state];
 }
 - (void)setState:(NSInteger)state {
     [(NSButtonCell*)[self cell] setState:state];
-}
-- (void)setNextState {
-    [(NSButtonCell*)[self cell] setNextState];
-}
-- (NSString*)keyEquivalent {
-    return [(NSButtonCell*)[self cell] keyEquivalent];
 }
 - (void)setKeyEquivalent:(NSString*)key {
     [(NSButtonCell*)[self cell] setKeyEquivalent:key];
@@ -266,7 +196,7 @@ using namespace cocoa;
 }
 
 - (BOOL)performKeyEquivalent:(NSEvent*)event {
-    NSString* key = [self keyEquivalent];
+    NSString* key = [(NSButtonCell*)[self cell] keyEquivalent];
     if ([key length] && [self isEnabled] &&
         [key isEqualToString:[event charactersIgnoringModifiers]]) {
         [self performClick:self];

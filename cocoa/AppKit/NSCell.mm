@@ -1,42 +1,23 @@
-// A cell's value and attributes.
 #include <AppKit/NSCell.h>
 
-#include "Internal.h"
+#include "NSWindowPrivate.h"
+#include "Setters.h"
 
-#include <AppKit/AppKit.h>
+#include <AppKit/NSFont.h>
 #include <charconv>
 #include <cmath>
 #include <string>
 
-// The digits that std::to_chars finds are the fewest that read back as the same number.
-template <typename Number>
-static NSString* shortest(Number value) {
-    const Number size = std::fabs(value);
-    const bool plain = size == 0 || (size >= Number(1e-5) && size < Number(1e16));
-    char text[64];
-    const auto end = plain
-                         ? std::to_chars(text, text + sizeof text, value, std::chars_format::fixed)
-                         : std::to_chars(text, text + sizeof text, value);
-    return [NSString stringWithUTF8String:std::string(text, end.ptr).c_str()];
-}
-
 @implementation NSCell
 - (id)init {
-    self = [super init];
-    if (!self) return nil;
-    _contents = @"";
-    _enabled = YES;
-    _type = NSNullCellType;
-    return self;
+    return [self initTextCell:@""];
 }
 
-// Past the init of subclasses, which may come here.
 - (id)initTextCell:(NSString*)text {
     self = [super init];
     if (!self) return nil;
-    _contents = text ? [text copy] : @"";
+    cocoa::set_copied(_contents, text);
     _enabled = YES;
-    _type = NSTextCellType;
     return self;
 }
 
@@ -46,9 +27,6 @@ static NSString* shortest(Number value) {
     [super dealloc];
 }
 
-- (NSCellType)type {
-    return _type;
-}
 - (NSView*)controlView {
     return _controlView;
 }
@@ -56,7 +34,6 @@ static NSString* shortest(Number value) {
     _controlView = view;
 }
 
-// The control shows the change, wherever it is.
 - (void)changed {
     [_controlView setNeedsDisplay:YES];
 }
@@ -65,37 +42,19 @@ static NSString* shortest(Number value) {
     return _contents;
 }
 - (void)setStringValue:(NSString*)text {
-    if (text != _contents) {
-        [_contents release];
-        _contents = text ? [text copy] : @"";
-    }
-    _type = NSTextCellType;
+    cocoa::set_copied(_contents, text);
     [self changed];
 }
 
-- (float)floatValue {
-    return [[self stringValue] floatValue];
-}
 - (void)setFloatValue:(float)value {
-    [self setStringValue:shortest(value)];
-}
-- (double)doubleValue {
-    return [[self stringValue] doubleValue];
-}
-- (void)setDoubleValue:(double)value {
-    [self setStringValue:shortest(value)];
-}
-- (int)intValue {
-    return [[self stringValue] intValue];
-}
-- (void)setIntValue:(int)value {
-    [self setStringValue:[NSString stringWithFormat:@"%d", value]];
-}
-- (NSInteger)integerValue {
-    return [[self stringValue] integerValue];
-}
-- (void)setIntegerValue:(NSInteger)value {
-    [self setStringValue:[NSString stringWithFormat:@"%ld", value]];
+    const float size = std::fabs(value);
+    const bool plain = size == 0 || (size >= 1e-5f && size < 1e16f);
+    char text[64];
+    // Finds the fewest digits.
+    const auto end = plain
+                         ? std::to_chars(text, text + sizeof text, value, std::chars_format::fixed)
+                         : std::to_chars(text, text + sizeof text, value);
+    [self setStringValue:[NSString stringWithUTF8String:std::string(text, end.ptr).c_str()]];
 }
 - (NSString*)title {
     return [self stringValue];
@@ -114,7 +73,7 @@ static NSString* shortest(Number value) {
     [self changed];
 }
 - (NSInteger)nextState {
-    return _state == NSOffState ? NSOnState : NSOffState;
+    return _state;
 }
 - (void)setNextState {
     [self setState:[self nextState]];
@@ -134,7 +93,7 @@ static NSString* shortest(Number value) {
 - (BOOL)isBordered {
     return _bordered;
 }
-// A border and a bezel take each other's place: setting one, or clearing it, removes the other.
+// A border and a bezel exclude each other: setting or clearing one removes the other.
 - (void)setBordered:(BOOL)flag {
     _bordered = !!flag;
     _bezeled = NO;
@@ -153,14 +112,6 @@ static NSString* shortest(Number value) {
 }
 - (void)setEditable:(BOOL)flag {
     _editable = !!flag;
-    if (flag) _selectable = YES;
-}
-- (BOOL)isSelectable {
-    return _selectable;
-}
-- (void)setSelectable:(BOOL)flag {
-    _selectable = !!flag;
-    if (!flag) _editable = NO;
 }
 - (BOOL)wraps {
     return _wraps;
@@ -180,23 +131,10 @@ static NSString* shortest(Number value) {
     return _font ? _font : [NSFont systemFontOfSize:[NSFont systemFontSize]];
 }
 - (void)setFont:(NSFont*)font {
-    if (font == _font) return;
-    [_font release];
-    _font = [font retain];
+    cocoa::set_retained(_font, font);
     [self changed];
 }
-- (NSControlSize)controlSize {
-    return _controlSize;
-}
-- (void)setControlSize:(NSControlSize)size {
-    _controlSize = size;
-    [self changed];
-}
-- (NSInteger)tag {
-    return _tag;
-}
-- (void)setTag:(NSInteger)tag {
-    _tag = tag;
+- (void)setControlSize:(NSUInteger)__attribute__((unused))size {
 }
 - (id)target {
     return nil;
@@ -205,10 +143,7 @@ static NSString* shortest(Number value) {
     return 0;
 }
 - (BOOL)isContinuous {
-    return _continuous;
-}
-- (void)setContinuous:(BOOL)flag {
-    _continuous = !!flag;
+    return NO;
 }
 - (BOOL)sendsActionOnEndEditing {
     return _sendsActionOnEndEditing;
@@ -216,19 +151,22 @@ static NSString* shortest(Number value) {
 - (void)setSendsActionOnEndEditing:(BOOL)flag {
     _sendsActionOnEndEditing = !!flag;
 }
-- (BOOL)refusesFirstResponder {
-    return _refusesFirstResponder;
-}
-- (void)setRefusesFirstResponder:(BOOL)flag {
-    _refusesFirstResponder = !!flag;
-}
 - (BOOL)acceptsFirstResponder {
-    return _enabled && !_refusesFirstResponder;
+    return _enabled;
 }
 - (BOOL)isHighlighted {
     return _highlighted;
 }
 - (void)setHighlighted:(BOOL)flag {
     _highlighted = !!flag;
+}
+
+- (void)drawWithFrame:(NSRect)__attribute__((unused))frame
+               inView:(NSView*)__attribute__((unused))view {
+}
+- (void)highlight:(BOOL)flag withFrame:(NSRect)frame inView:(NSView*)view {
+    if (_highlighted == !!flag) return;
+    _highlighted = !!flag;
+    [self drawWithFrame:frame inView:view];
 }
 @end

@@ -1,44 +1,6 @@
-// How a cell is drawn and how it takes the mouse.
-#include "Internal.h"
-#include "Theme.h"
+#include "NSApplicationPrivate.h"
 
 #include <AppKit/AppKit.h>
-#include <cmath>
-
-using namespace cocoa;
-
-@implementation NSCell (NSCellDrawing)
-- (NSSize)cellSize {
-    const NSSize size = theme::measure([self title], [self font]);
-    const double border = [self isBezeled] || [self isBordered] ? 2 : 0;
-    return NSMakeSize(std::ceil(size.width) + 4 + 2 * border, std::ceil(size.height) + 2 * border);
-}
-
-- (NSRect)drawingRectForBounds:(NSRect)bounds {
-    if ([self isBezeled]) return NSInsetRect(bounds, 2, 2);
-    return [self isBordered] ? NSInsetRect(bounds, 1, 1) : bounds;
-}
-
-- (void)drawWithFrame:(NSRect)frame inView:(NSView*)view {
-    [self setControlView:view];
-    if ([self isBezeled] || [self isBordered])
-        theme::draw_round(frame, [self isBezeled] ? 2 : 0, nil, theme::field_outline());
-    [self drawInteriorWithFrame:[self drawingRectForBounds:frame] inView:view];
-}
-
-- (void)drawInteriorWithFrame:(NSRect)frame inView:(NSView*)__attribute__((unused))view {
-    theme::draw_line([self title], NSInsetRect(frame, 2, 0), [self font],
-                     _enabled ? theme::text() : theme::dim_text(),
-                     static_cast<unsigned>([self alignment]));
-}
-
-- (void)highlight:(BOOL)flag withFrame:(NSRect)frame inView:(NSView*)view {
-    if (_highlighted == !!flag) return;
-    _highlighted = !!flag;
-    [self drawWithFrame:frame inView:view];
-}
-
-@end
 
 @implementation NSCell (NSCellTracking)
 + (BOOL)prefersTrackingUntilMouseUp {
@@ -73,10 +35,7 @@ static void send_action(NSCell* cell, NSView* view) {
     if (![self startTrackingAt:last inView:view]) return NO;
     BOOL tracking = YES;
     for (;;) {
-        event = [NSApp nextEventMatchingMask:NSLeftMouseDraggedMask | NSLeftMouseUpMask
-                                   untilDate:[NSDate distantFuture]
-                                      inMode:NSEventTrackingRunLoopMode
-                                     dequeue:YES];
+        event = [NSApp nextDragOrMouseUp];
         if (!event) {
             [self stopTracking:last at:last inView:view mouseIsUp:YES];
             return NO;

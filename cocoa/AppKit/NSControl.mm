@@ -1,6 +1,7 @@
 #include <AppKit/NSControl.h>
 
-#include "Internal.h"
+#include "NSApplicationPrivate.h"
+#include "NSViewPrivate.h"
 
 #include <AppKit/AppKit.h>
 
@@ -30,7 +31,7 @@
     if (cell == _cell) return;
     [self abortEditing];
     if ([_cell controlView] == self) [_cell setControlView:nil];
-    // The replaced cell may be at work further down the stack.
+    // The replaced cell may be in use further down the stack.
     [_cell autorelease];
     _cell = [cell retain];
     [_cell setControlView:self];
@@ -39,9 +40,6 @@
 
 - (BOOL)isFlipped {
     return YES;
-}
-- (void)redrawCell {
-    [self setNeedsDisplay:YES];
 }
 - (void)drawRect:(NSRect)__attribute__((unused))dirty {
     [_cell drawWithFrame:[self bounds] inView:self];
@@ -68,12 +66,6 @@
 - (BOOL)sendAction:(SEL)action to:(id)target {
     return action ? [NSApp sendAction:action to:target from:self] : NO;
 }
-- (BOOL)isContinuous {
-    return [_cell isContinuous];
-}
-- (void)setContinuous:(BOOL)flag {
-    [_cell setContinuous:flag];
-}
 
 - (BOOL)isEnabled {
     return [_cell isEnabled];
@@ -85,12 +77,6 @@
         if ([[self window] firstResponder] == self) [[self window] makeFirstResponder:nil];
     }
     [_cell setEnabled:flag];
-}
-- (NSUInteger)alignment {
-    return [(NSCell*)_cell alignment];
-}
-- (void)setAlignment:(NSUInteger)alignment {
-    [(NSCell*)_cell setAlignment:alignment];
 }
 - (NSFont*)font {
     return [(NSCell*)_cell font];
@@ -106,47 +92,16 @@
 - (void)setStringValue:(NSString*)text {
     const BOOL editing = [self abortEditing];
     [_cell setStringValue:text];
-    // Whoever was typing here goes on, in the new text.
+    // The user goes on typing, in the new text.
     if (editing) [[self window] makeFirstResponder:self];
-}
-- (float)floatValue {
-    [self validateEditing];
-    return [_cell floatValue];
 }
 - (void)setFloatValue:(float)value {
     const BOOL editing = [self abortEditing];
     [_cell setFloatValue:value];
     if (editing) [[self window] makeFirstResponder:self];
 }
-- (double)doubleValue {
-    [self validateEditing];
-    return [_cell doubleValue];
-}
-- (void)setDoubleValue:(double)value {
-    const BOOL editing = [self abortEditing];
-    [_cell setDoubleValue:value];
-    if (editing) [[self window] makeFirstResponder:self];
-}
-- (int)intValue {
-    [self validateEditing];
-    return [_cell intValue];
-}
-- (void)setIntValue:(int)value {
-    [self setIntegerValue:value];
-}
-- (NSInteger)integerValue {
-    [self validateEditing];
-    return [_cell integerValue];
-}
-- (void)setIntegerValue:(NSInteger)value {
-    const BOOL editing = [self abortEditing];
-    [_cell setIntegerValue:value];
-    if (editing) [[self window] makeFirstResponder:self];
-}
 
-- (void)sizeToFit {
-    [self setFrameSize:[(NSCell*)_cell cellSize]];
-}
+// Editing: for controls with a text.
 
 - (NSText*)currentEditor {
     return nil;
@@ -154,11 +109,10 @@
 - (BOOL)abortEditing {
     return NO;
 }
-// Nothing was typed where nothing is edited: for controls with a text.
 - (void)validateEditing {
 }
 
-// The keyboard reaches every control that is enabled; the mouse uses it without taking the focus.
+// Tab reaches every enabled control; a click does not give it the focus.
 - (BOOL)acceptsFirstResponder {
     return [_cell acceptsFirstResponder];
 }
@@ -182,13 +136,13 @@
     } else {
         [_cell setHighlighted:flag];
     }
-    // A cell may draw its pressed look whatever the flag says: once the mouse is away, the control
-    // is drawn anew.
+    // A cell may draw its pressed look whatever the flag says: when the mouse is gone, the control
+    // is redrawn.
     if (!flag) [self setNeedsDisplay:YES];
 }
 
-// The cell is highlighted and tracks while the mouse is inside; the action goes out before the
-// highlight does. When the mouse leaves, the cell waits without highlight until it comes back.
+// The cell is highlighted and tracks while the mouse is inside; the action is sent before the
+// highlight ends. When the mouse leaves, the cell is not highlighted until it comes back.
 - (void)mouseDown:(NSEvent*)event {
     if (![self isEnabled]) return;
     [[self retain] autorelease];
@@ -196,7 +150,7 @@
     const BOOL untilUp = [[cell class] prefersTrackingUntilMouseUp];
     while (event) {
         const NSPoint point = [self convertPoint:[event locationInWindow] fromView:nil];
-        if ([self mouse:point inRect:[self bounds]]) {
+        if (NSMouseInRect(point, [self bounds], [self isFlipped])) {
             [self highlight:YES];
             const BOOL done = [cell trackMouse:event
                                         inRect:[self bounds]
@@ -205,10 +159,7 @@
             [self highlight:NO];
             if (done || [[NSApp currentEvent] type] == NSLeftMouseUp) return;
         }
-        event = [NSApp nextEventMatchingMask:NSLeftMouseDraggedMask | NSLeftMouseUpMask
-                                   untilDate:[NSDate distantFuture]
-                                      inMode:NSEventTrackingRunLoopMode
-                                     dequeue:YES];
+        event = [NSApp nextDragOrMouseUp];
         if ([event type] == NSLeftMouseUp) return;
     }
 }

@@ -1,121 +1,63 @@
-#include <AppKit/NSEvent.h>
+#include "NSEventPrivate.h"
 
-#include "Internal.h"
 #include "WindowServer.h"
 
+#include <AppKit/NSWindow.h>
+
 @implementation NSEvent
-- (id)initWithType:(NSEventType)type
-          location:(NSPoint)location
-             flags:(NSUInteger)flags
-              time:(NSTimeInterval)time
-            window:(NSInteger)window {
-    self = [super init];
-    if (!self) return nil;
-    _type = type;
-    _location = location;
-    _modifierFlags = flags;
-    _timestamp = time;
-    _windowNumber = window;
-    return self;
+static NSEvent* make(NSEventType type, NSPoint location, NSUInteger flags, NSInteger window) {
+    NSEvent* event = [[[NSEvent alloc] init] autorelease];
+    event->_type = type;
+    event->_location = location;
+    event->_modifierFlags = flags;
+    event->_windowNumber = window;
+    return event;
 }
 
-+ (NSEvent*)mouseEventWithType:(NSEventType)type
-                      location:(NSPoint)location
-                 modifierFlags:(NSUInteger)flags
-                     timestamp:(NSTimeInterval)time
-                  windowNumber:(NSInteger)window
-                       context:(NSGraphicsContext*)__attribute__((unused))context
-                   eventNumber:(NSInteger)number
-                    clickCount:(NSInteger)clicks
-                      pressure:(float)pressure {
-    NSEvent* event = [[NSEvent alloc] initWithType:type
-                                          location:location
-                                             flags:flags
-                                              time:time
-                                            window:window];
-    event->_eventNumber = number;
++ (NSEvent*)mouseEvent:(NSEventType)type
+                    at:(NSPoint)location
+         modifierFlags:(NSUInteger)flags
+          windowNumber:(NSInteger)window
+            clickCount:(NSInteger)clicks {
+    NSEvent* event = make(type, location, flags, window);
     event->_clickCount = clicks;
-    event->_pressure = pressure;
-    return [event autorelease];
-}
-
-+ (NSEvent*)keyEventWithType:(NSEventType)type
-                       location:(NSPoint)location
-                  modifierFlags:(NSUInteger)flags
-                      timestamp:(NSTimeInterval)time
-                   windowNumber:(NSInteger)window
-                        context:(NSGraphicsContext*)__attribute__((unused))context
-                     characters:(NSString*)characters
-    charactersIgnoringModifiers:(NSString*)unmodified
-                      isARepeat:(BOOL)repeat
-                        keyCode:(unsigned short)code {
-    NSEvent* event = [[NSEvent alloc] initWithType:type
-                                          location:location
-                                             flags:flags
-                                              time:time
-                                            window:window];
-    event->_characters = [characters copy];
-    event->_charactersIgnoringModifiers = [unmodified copy];
-    event->_repeat = repeat;
-    event->_keyCode = code;
-    return [event autorelease];
-}
-
-+ (NSEvent*)otherEventWithType:(NSEventType)type
-                      location:(NSPoint)location
-                 modifierFlags:(NSUInteger)flags
-                     timestamp:(NSTimeInterval)time
-                  windowNumber:(NSInteger)window
-                       context:(NSGraphicsContext*)__attribute__((unused))context
-                       subtype:(short)subtype
-                         data1:(NSInteger)data1
-                         data2:(NSInteger)data2 {
-    NSEvent* event = [[NSEvent alloc] initWithType:type
-                                          location:location
-                                             flags:flags
-                                              time:time
-                                            window:window];
-    event->_subtype = subtype;
-    event->_data1 = data1;
-    event->_data2 = data2;
-    return [event autorelease];
+    return event;
 }
 
 + (NSEvent*)scrollEventAt:(NSPoint)location
             modifierFlags:(NSUInteger)flags
              windowNumber:(NSInteger)window
-                   deltaX:(CGFloat)dx
-                   deltaY:(CGFloat)dy {
-    NSEvent* event = [[NSEvent alloc] initWithType:NSScrollWheel
-                                          location:location
-                                             flags:flags
-                                              time:[NSDate timeIntervalSinceReferenceDate]
-                                            window:window];
-    event->_deltaX = dx;
-    event->_deltaY = dy;
-    return [event autorelease];
+                   deltaY:(CGFloat)deltaY {
+    NSEvent* event = make(NSScrollWheel, location, flags, window);
+    event->_deltaY = deltaY;
+    return event;
+}
+
++ (NSEvent*)keyEvent:(NSEventType)type
+          characters:(NSString*)characters
+       modifierFlags:(NSUInteger)flags
+        windowNumber:(NSInteger)window {
+    NSEvent* event = make(type, NSZeroPoint, flags, window);
+    event->_characters = [characters copy];
+    return event;
+}
+
++ (NSEvent*)applicationEvent:(short)subtype {
+    NSEvent* event = make(NSApplicationDefined, NSZeroPoint, 0, 0);
+    event->_subtype = subtype;
+    return event;
 }
 
 - (void)dealloc {
     [_characters release];
-    [_charactersIgnoringModifiers release];
     [super dealloc];
 }
 
-+ (NSPoint)mouseLocation {
-    return cocoa::WindowServer::shared().mouse_location();
-}
 - (NSEventType)type {
     return _type;
 }
 - (NSUInteger)modifierFlags {
     return _modifierFlags;
-}
-- (NSTimeInterval)timestamp {
-    return _timestamp;
-}
-- (NSInteger)windowNumber {
-    return _windowNumber;
 }
 - (NSWindow*)window {
     return cocoa::WindowServer::shared().window_with_number(_windowNumber);
@@ -123,40 +65,23 @@
 - (NSPoint)locationInWindow {
     return _location;
 }
-- (NSInteger)eventNumber {
-    return _eventNumber;
+- (NSPoint)locationOnScreen {
+    NSWindow* window = [self window];
+    return window ? [window convertBaseToScreen:_location] : _location;
 }
 - (NSInteger)clickCount {
     return _clickCount;
-}
-- (float)pressure {
-    return _pressure;
 }
 - (NSString*)characters {
     return _characters;
 }
 - (NSString*)charactersIgnoringModifiers {
-    return _charactersIgnoringModifiers;
-}
-- (BOOL)isARepeat {
-    return _repeat;
-}
-- (unsigned short)keyCode {
-    return _keyCode;
-}
-- (CGFloat)deltaX {
-    return _deltaX;
+    return _characters;
 }
 - (CGFloat)deltaY {
     return _deltaY;
 }
 - (short)subtype {
     return _subtype;
-}
-- (NSInteger)data1 {
-    return _data1;
-}
-- (NSInteger)data2 {
-    return _data2;
 }
 @end

@@ -1,7 +1,8 @@
-#include <AppKit/NSMenu.h>
+#include "NSMenuPrivate.h"
 
-#include "Internal.h"
 #include "MenuBar.h"
+
+#include <AppKit/NSApplication.h>
 
 @implementation NSMenu
 - (id)init {
@@ -11,9 +12,8 @@
 - (id)initWithTitle:(NSString*)title {
     self = [super init];
     if (!self) return nil;
-    _title = title ? [title copy] : @"";
+    _title = [title copy];
     _items = [[NSMutableArray alloc] init];
-    _autoenablesItems = YES;
     return self;
 }
 
@@ -22,7 +22,7 @@
         NSMenuItem* item = [_items objectAtIndex:i];
         [item setMenu:nil];
     }
-    [_popUpCell menuIsGone];
+    [_popUpCell menuWillBeFreed];
     [_items release];
     [_title release];
     [super dealloc];
@@ -30,17 +30,6 @@
 
 - (NSString*)title {
     return _title;
-}
-- (void)setTitle:(NSString*)title {
-    if (title == _title) return;
-    [_title release];
-    _title = title ? [title copy] : @"";
-}
-- (NSMenu*)supermenu {
-    return _supermenu;
-}
-- (void)setSupermenu:(NSMenu*)menu {
-    _supermenu = menu;
 }
 - (void)setPopUpCell:(NSPopUpButtonCell*)cell {
     _popUpCell = cell;
@@ -54,10 +43,10 @@
     [self insertItem:item atIndex:[self numberOfItems]];
 }
 - (NSMenuItem*)addItemWithTitle:(NSString*)title action:(SEL)action keyEquivalent:(NSString*)key {
-    return [self insertItemWithTitle:title
-                              action:action
-                       keyEquivalent:key
-                             atIndex:[self numberOfItems]];
+    NSMenuItem* item = [[[NSMenuItem alloc] initWithTitle:title action:action
+                                            keyEquivalent:key] autorelease];
+    [self addItem:item];
+    return item;
 }
 
 - (void)insertItem:(NSMenuItem*)item atIndex:(NSInteger)index {
@@ -70,19 +59,6 @@
     [self itemChanged:item];
 }
 
-- (NSMenuItem*)insertItemWithTitle:(NSString*)title
-                            action:(SEL)action
-                     keyEquivalent:(NSString*)key
-                           atIndex:(NSInteger)index {
-    NSMenuItem* item = [[NSMenuItem alloc] initWithTitle:title action:action keyEquivalent:key];
-    [self insertItem:item atIndex:index];
-    return [item autorelease];
-}
-
-- (void)removeItem:(NSMenuItem*)item {
-    [self removeItemAtIndex:[self indexOfItem:item]];
-}
-
 - (void)removeItemAtIndex:(NSInteger)index {
     NSMenuItem* item = [self itemAtIndex:index];
     if (!item) return;
@@ -93,28 +69,12 @@
     [self itemChanged:nil];
 }
 
-- (void)removeAllItems {
-    while ([self numberOfItems]) [self removeItemAtIndex:[self numberOfItems] - 1];
-}
 - (NSInteger)numberOfItems {
     return (NSInteger)[_items count];
-}
-- (NSArray*)itemArray {
-    return [NSArray arrayWithArray:_items];
 }
 - (NSMenuItem*)itemAtIndex:(NSInteger)index {
     if (index < 0 || index >= [self numberOfItems]) return nil;
     return [_items objectAtIndex:(NSUInteger)index];
-}
-- (NSMenuItem*)itemWithTitle:(NSString*)title {
-    return [self itemAtIndex:[self indexOfItemWithTitle:title]];
-}
-- (NSMenuItem*)itemWithTag:(NSInteger)tag {
-    for (NSUInteger i = 0; i < [_items count]; ++i) {
-        NSMenuItem* item = [_items objectAtIndex:i];
-        if ([item tag] == tag) return item;
-    }
-    return nil;
 }
 - (NSInteger)indexOfItem:(NSMenuItem*)item {
     const NSUInteger index = item ? [_items indexOfObjectIdenticalTo:item] : (NSUInteger)NSNotFound;
@@ -128,15 +88,7 @@
     return -1;
 }
 
-- (BOOL)autoenablesItems {
-    return _autoenablesItems;
-}
-- (void)setAutoenablesItems:(BOOL)flag {
-    _autoenablesItems = !!flag;
-}
-
 - (void)update {
-    if (!_autoenablesItems) return;
     for (NSUInteger i = 0; i < [_items count]; ++i) {
         NSMenuItem* item = [_items objectAtIndex:i];
         if (![item action] || [item hasSubmenu]) continue;
@@ -148,25 +100,23 @@
     }
 }
 
-static const NSUInteger key_modifiers =
-    NSShiftKeyMask | NSControlKeyMask | NSAlternateKeyMask | NSCommandKeyMask;
-
 static BOOL is_key_of(NSMenuItem* item, NSString* key, NSUInteger flags) {
     NSString* own = [item keyEquivalent];
     if ([own length] != 1 || [key length] != 1) return NO;
-    NSUInteger mask = [item keyEquivalentModifierMask] & key_modifiers;
+    NSUInteger wanted_flags = NSCommandKeyMask;
     unichar wanted = [own characterAtIndex:0], typed = [key characterAtIndex:0];
     if (wanted >= 'A' && wanted <= 'Z') {
-        mask |= NSShiftKeyMask;
+        wanted_flags |= NSShiftKeyMask;
         wanted = (unichar)(wanted - 'A' + 'a');
     }
     if (typed >= 'A' && typed <= 'Z') typed = (unichar)(typed - 'A' + 'a');
-    if (!(mask & NSControlKeyMask) && (flags & NSControlKeyMask))
+    flags &= NSShiftKeyMask | NSControlKeyMask | NSAlternateKeyMask | NSCommandKeyMask;
+    if (flags & NSControlKeyMask)
         flags = (flags & ~(NSUInteger)NSControlKeyMask) | NSCommandKeyMask;
-    // A sign that is itself typed with Shift does not ask for Shift again.
+    // A character that is typed with Shift needs no further Shift.
     const BOOL letter = typed >= 'a' && typed <= 'z';
-    if (!letter && !(mask & NSShiftKeyMask)) flags &= ~(NSUInteger)NSShiftKeyMask;
-    return wanted == typed && mask == (flags & key_modifiers);
+    if (!letter) flags &= ~(NSUInteger)NSShiftKeyMask;
+    return wanted == typed && flags == wanted_flags;
 }
 
 - (BOOL)performKeyEquivalent:(NSEvent*)event {

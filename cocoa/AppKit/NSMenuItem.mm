@@ -1,6 +1,5 @@
-#include <AppKit/NSMenuItem.h>
-
-#include "Internal.h"
+#include "NSMenuPrivate.h"
+#include "Setters.h"
 
 @implementation NSMenuItem
 + (NSMenuItem*)separatorItem {
@@ -17,20 +16,17 @@
 - (id)initWithTitle:(NSString*)title action:(SEL)action keyEquivalent:(NSString*)key {
     self = [super init];
     if (!self) return nil;
-    _title = title ? [title copy] : @"";
-    _keyEquivalent = key ? [key copy] : @"";
-    _keyMask = NSCommandKeyMask;
+    cocoa::set_copied(_title, title);
+    cocoa::set_copied(_keyEquivalent, key);
     _action = action;
     _enabled = YES;
     return self;
 }
 
 - (void)dealloc {
-    [_submenu setSupermenu:nil];
     [_submenu release];
     [_title release];
     [_keyEquivalent release];
-    [_representedObject release];
     [super dealloc];
 }
 
@@ -42,15 +38,12 @@
 }
 - (void)setMenu:(NSMenu*)menu {
     _menu = menu;
-    [_submenu setSupermenu:menu];
 }
 - (NSString*)title {
     return _title;
 }
 - (void)setTitle:(NSString*)title {
-    if (title == _title) return;
-    [_title release];
-    _title = title ? [title copy] : @"";
+    cocoa::set_copied(_title, title);
     [_menu itemChanged:self];
 }
 - (BOOL)isEnabled {
@@ -58,13 +51,6 @@
 }
 - (void)setEnabled:(BOOL)flag {
     _enabled = flag && !_separator;
-}
-- (BOOL)isHidden {
-    return _hidden;
-}
-- (void)setHidden:(BOOL)flag {
-    _hidden = !!flag;
-    [_menu itemChanged:self];
 }
 - (NSInteger)state {
     return _state;
@@ -87,42 +73,16 @@
 - (SEL)action {
     return _action;
 }
-- (void)setAction:(SEL)action {
-    _action = action;
-}
-- (id)representedObject {
-    return _representedObject;
-}
-- (void)setRepresentedObject:(id)object {
-    if (object == _representedObject) return;
-    [_representedObject release];
-    _representedObject = [object retain];
-}
 - (NSMenu*)submenu {
     return _submenu;
 }
 - (void)setSubmenu:(NSMenu*)menu {
-    if (menu == _submenu) return;
-    [_submenu setSupermenu:nil];
-    [_submenu release];
-    _submenu = [menu retain];
-    [_submenu setSupermenu:_menu];
+    cocoa::set_retained(_submenu, menu);
 }
 - (BOOL)hasSubmenu {
     return _submenu != nil;
 }
 - (NSString*)keyEquivalent {
     return _keyEquivalent;
-}
-- (void)setKeyEquivalent:(NSString*)key {
-    if (key == _keyEquivalent) return;
-    [_keyEquivalent release];
-    _keyEquivalent = key ? [key copy] : @"";
-}
-- (NSUInteger)keyEquivalentModifierMask {
-    return _keyMask;
-}
-- (void)setKeyEquivalentModifierMask:(NSUInteger)mask {
-    _keyMask = mask;
 }
 @end

@@ -1,8 +1,7 @@
 // Alert panels: a modal window with a title, a message and up to three buttons.
 #include <AppKit/NSPanel.h>
 
-#include "Alerts.h"
-#include "Internal.h"
+#include "AlertRecord.h"
 #include "Theme.h"
 #include "WindowServer.h"
 
@@ -38,7 +37,7 @@ constexpr NSInteger answers[3] = {NSAlertDefaultReturn, NSAlertAlternateReturn, 
 struct Alert {
     NSString* title;
     NSString* message;
-    std::vector<NSString*> buttons; // default, alternate, other: those there are
+    std::vector<NSString*> buttons; // default, alternate, other
     std::vector<NSInteger> codes;
 };
 
@@ -54,7 +53,7 @@ NSTextField* make_label(NSString* text, NSRect frame, NSFont* font) {
     return label;
 }
 
-// How high a wrapped text gets in a width: words are taken one by one as the drawing does.
+// The height of a wrapped text, line by line as it is drawn.
 double wrapped_height(NSString* text, NSFont* font, double width) {
     const double line = theme::measure(@"X", font).height;
     NSArray* paragraphs = [text componentsSeparatedByString:@"\n"];
@@ -78,7 +77,7 @@ double wrapped_height(NSString* text, NSFont* font, double width) {
     return std::min(lines * std::ceil(line), 400.0) + 2;
 }
 
-// Escape presses the button that is called so, or else the last; a single one has no need of it.
+// Escape presses the button "Cancel" or else the last one.
 size_t cancel_button(const Alert& alert) {
     for (size_t i = 1; i < alert.buttons.size(); ++i)
         if ([alert.buttons[i] isEqualToString:@"Cancel"]) return i;
@@ -170,6 +169,6 @@ NSInteger NSRunAlertPanel(NSString* title, NSString* format, NSString* defaultBu
     }
     const size_t answer = record.next_answer;
     record.next_answer = 1;
-    if (record.interactive || WindowServer::shared().display().has_user()) return run_panel(alert);
+    if (WindowServer::shared().display().has_user()) return run_panel(alert);
     return alert.codes[answer >= 1 && answer <= alert.codes.size() ? answer - 1 : 0];
 }

@@ -1,7 +1,5 @@
 #include <AppKit/NSPopUpButton.h>
 
-#include "Internal.h"
-
 #include <AppKit/NSEvent.h>
 
 @implementation NSPopUpButton
@@ -25,53 +23,17 @@
 - (void)addItemWithTitle:(NSString*)title {
     [[self popUpCell] addItemWithTitle:title];
 }
-- (void)insertItemWithTitle:(NSString*)title atIndex:(NSInteger)index {
-    [[self popUpCell] insertItemWithTitle:title atIndex:index];
-}
-- (void)removeItemAtIndex:(NSInteger)index {
-    [[self popUpCell] removeItemAtIndex:index];
-}
-- (void)removeAllItems {
-    [[self popUpCell] removeAllItems];
-}
-- (NSInteger)numberOfItems {
-    return [[self popUpCell] numberOfItems];
-}
-- (NSArray*)itemArray {
-    return [[self popUpCell] itemArray];
-}
-- (NSArray*)itemTitles {
-    return [[self popUpCell] itemTitles];
-}
-- (NSMenuItem*)itemAtIndex:(NSInteger)index {
-    return [[self popUpCell] itemAtIndex:index];
-}
-- (NSString*)itemTitleAtIndex:(NSInteger)index {
-    return [[self popUpCell] itemTitleAtIndex:index];
-}
-- (NSInteger)indexOfItemWithTitle:(NSString*)title {
-    return [[self popUpCell] indexOfItemWithTitle:title];
-}
-- (NSMenuItem*)selectedItem {
-    return [[self popUpCell] selectedItem];
-}
 - (NSInteger)indexOfSelectedItem {
     return [[self popUpCell] indexOfSelectedItem];
 }
 - (NSString*)titleOfSelectedItem {
     return [[self popUpCell] titleOfSelectedItem];
 }
-- (void)selectItem:(NSMenuItem*)item {
-    [[self popUpCell] selectItem:item];
-}
 - (void)selectItemAtIndex:(NSInteger)index {
     [[self popUpCell] selectItemAtIndex:index];
 }
-- (void)selectItemWithTitle:(NSString*)title {
-    [[self popUpCell] selectItemWithTitle:title];
-}
 
-// A click, by whatever means, opens the list.
+// Any kind of click opens the list.
 - (void)performClick:(id)__attribute__((unused))sender {
     [[self retain] autorelease];
     id cell = [[[self cell] retain] autorelease];

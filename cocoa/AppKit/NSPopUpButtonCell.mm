@@ -1,7 +1,8 @@
 #include <AppKit/NSPopUpButtonCell.h>
 
-#include "Internal.h"
 #include "MenuTracker.h"
+#include "NSEventPrivate.h"
+#include "NSMenuPrivate.h"
 #include "Theme.h"
 
 #include <algorithm>
@@ -11,21 +12,13 @@
 using namespace cocoa;
 
 @implementation NSPopUpButtonCell
-- (id)init {
-    return [self initTextCell:@"" pullsDown:NO];
-}
-- (id)initTextCell:(NSString*)title {
-    return [self initTextCell:title pullsDown:NO];
-}
-
-- (id)initTextCell:(NSString*)title pullsDown:(BOOL)__attribute__((unused))pullsDown {
+- (id)initTextCell:(NSString*)__attribute__((unused))title {
     self = [super initTextCell:@""];
     if (!self) return nil;
     [self setAlignment:NSLeftTextAlignment];
     NSMenu* menu = [[NSMenu alloc] initWithTitle:@""];
     [self setMenu:menu];
     [menu release];
-    if ([title length]) [self addItemWithTitle:title];
     return self;
 }
 
@@ -64,49 +57,14 @@ using namespace cocoa;
 - (void)menuDidChangeItem:(NSMenuItem*)item {
     if (item == _selectedItem) [[self controlView] setNeedsDisplay:YES];
 }
-// The menu is retained, so this is its end together with the cell's hold on it.
-- (void)menuIsGone {
+- (void)menuWillBeFreed {
     _selectedItem = nil;
     _menu = nil;
 }
 
 - (void)addItemWithTitle:(NSString*)title {
-    [self insertItemWithTitle:title atIndex:[self numberOfItems]];
-}
-- (void)insertItemWithTitle:(NSString*)title atIndex:(NSInteger)index {
-    const NSInteger same = [self indexOfItemWithTitle:title];
-    if (same >= 0) {
-        [self removeItemAtIndex:same];
-        if (same < index) --index;
-    }
-    [_menu insertItemWithTitle:title action:0 keyEquivalent:@"" atIndex:index];
-}
-- (void)removeItemAtIndex:(NSInteger)index {
-    [_menu removeItemAtIndex:index];
-}
-- (void)removeAllItems {
-    [_menu removeAllItems];
-}
-- (NSInteger)numberOfItems {
-    return [_menu numberOfItems];
-}
-- (NSArray*)itemArray {
-    return [_menu itemArray];
-}
-- (NSArray*)itemTitles {
-    NSMutableArray* titles = [NSMutableArray array];
-    for (NSInteger i = 0; i < [self numberOfItems]; ++i)
-        [titles addObject:[self itemTitleAtIndex:i]];
-    return titles;
-}
-- (NSMenuItem*)itemAtIndex:(NSInteger)index {
-    return [_menu itemAtIndex:index];
-}
-- (NSString*)itemTitleAtIndex:(NSInteger)index {
-    return [[_menu itemAtIndex:index] title];
-}
-- (NSInteger)indexOfItemWithTitle:(NSString*)title {
-    return [_menu indexOfItemWithTitle:title];
+    [_menu removeItemAtIndex:[_menu indexOfItemWithTitle:title]];
+    [_menu addItemWithTitle:title action:0 keyEquivalent:@""];
 }
 
 - (NSMenuItem*)selectedItem {
@@ -133,11 +91,7 @@ using namespace cocoa;
     else if (NSMenuItem* item = [_menu itemAtIndex:index])
         [self selectItem:item];
 }
-- (void)selectItemWithTitle:(NSString*)title {
-    [self selectItemAtIndex:[self indexOfItemWithTitle:title]];
-}
-
-// The title that the cell shows is the selected item's.
+// The title is the selected item's.
 - (NSString*)title {
     NSString* title = [_selectedItem title];
     return title ? title : @"";
@@ -146,22 +100,15 @@ using namespace cocoa;
     return [self title];
 }
 - (void)setTitle:(NSString*)title {
-    if ([self indexOfItemWithTitle:title] < 0) [self addItemWithTitle:title];
-    [self selectItemWithTitle:title];
-}
-
-- (NSSize)cellSize {
-    double width = 0;
-    for (NSInteger i = 0; i < [self numberOfItems]; ++i)
-        width = std::max(width, theme::measure([self itemTitleAtIndex:i], [self font]).width);
-    return NSMakeSize(std::ceil(width) + 30, [super cellSize].height);
+    if ([_menu indexOfItemWithTitle:title] < 0) [self addItemWithTitle:title];
+    [self selectItemAtIndex:[_menu indexOfItemWithTitle:title]];
 }
 
 - (void)drawInteriorWithFrame:(NSRect)frame inView:(NSView*)__attribute__((unused))view {
     NSColor* color = [self isEnabled] ? theme::text() : theme::dim_text();
     const NSRect text =
         NSMakeRect(NSMinX(frame) + 7, NSMinY(frame), NSWidth(frame) - 24, NSHeight(frame));
-    theme::draw_line([self title], text, [self font], color, 0);
+    theme::draw_line([self title], text, [self font], color, NSLeftTextAlignment);
     const double x = NSMaxX(frame) - 16, y = NSMidY(frame);
     NSBezierPath* arrow = [NSBezierPath bezierPath];
     [arrow moveToPoint:NSMakePoint(x, y - 2.5)];
@@ -173,18 +120,6 @@ using namespace cocoa;
 }
 
 // Choosing.
-
-// Where the list is shown, on the screen: the selected row's middle lies on the frame's.
-- (NSRect)listRectForFrame:(NSRect)frame inView:(NSView*)view {
-    const NSRect base = [view convertRect:frame toView:nil];
-    const double row = menu_item_top(_menu, std::max<NSInteger>(0, [self indexOfSelectedItem]));
-    const double top = NSMidY(base) + theme::menu_row_height / 2 + row;
-    const NSPoint wish = [[view window] convertBaseToScreen:NSMakePoint(NSMinX(base), top)];
-    const double width = std::max(std::ceil(frame.size.width), menu_list_width(_menu));
-    const double height = menu_list_height(_menu);
-    const NSPoint corner = MenuTracker::on_screen(wish, width, height);
-    return NSMakeRect(corner.x, corner.y - height, width, height);
-}
 
 - (void)choose:(NSMenuItem*)item from:(NSView*)view {
     if (!item || [item menu] != _menu) return;
@@ -200,10 +135,14 @@ using namespace cocoa;
                           start:(NSPoint)start
                         pressed:(bool)pressed {
     if ([_menu numberOfItems] == 0 || ![view window]) return nil;
+    // The middle of the selected row is over the frame's.
+    const NSInteger selected = [self indexOfSelectedItem];
+    const NSRect base = [view convertRect:frame toView:nil];
+    const double top = NSMidY(base) + theme::menu_row_height / 2 +
+                       menu_item_top(_menu, std::max<NSInteger>(0, selected));
     MenuTracker tracker;
-    const NSRect list = [self listRectForFrame:frame inView:view];
-    tracker.open(_menu, NSMakePoint(NSMinX(list), NSMaxY(list)), NSWidth(list),
-                 [self indexOfSelectedItem]);
+    tracker.open(_menu, [[view window] convertBaseToScreen:NSMakePoint(NSMinX(base), top)],
+                 frame.size.width, selected);
     return tracker.run(start, pressed);
 }
 
@@ -217,7 +156,7 @@ using namespace cocoa;
             inRect:(NSRect)rect
             ofView:(NSView*)view
       untilMouseUp:(BOOL)__attribute__((unused))untilUp {
-    const NSPoint start = [[view window] convertBaseToScreen:[event locationInWindow]];
+    const NSPoint start = [event locationOnScreen];
     [self choose:[self runListWithFrame:rect inView:view start:start pressed:true] from:view];
     return YES;
 }

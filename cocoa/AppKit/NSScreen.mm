@@ -8,9 +8,6 @@
     static NSScreen* screen = [[NSScreen alloc] init];
     return screen;
 }
-+ (NSArray*)screens {
-    return [NSArray arrayWithObject:[self mainScreen]];
-}
 - (NSRect)frame {
     const NSSize size = cocoa::WindowServer::shared().screen_size();
     return NSMakeRect(0, 0, size.width, size.height);

@@ -1,6 +1,5 @@
 #include <AppKit/NSSlider.h>
 
-#include "Internal.h"
 #include "Theme.h"
 
 #include <algorithm>
@@ -12,64 +11,26 @@ using namespace cocoa;
 static const double knob_size = 12;
 
 @implementation NSSliderCell
-- (id)init {
-    self = [super init];
-    if (!self) return nil;
-    _maxValue = 1;
-    [self setContinuous:YES];
-    return self;
-}
-
-- (double)minValue {
-    return _minValue;
-}
-- (void)setMinValue:(double)value {
-    _minValue = value;
-    [self setDoubleValue:_value];
-}
-- (double)maxValue {
-    return _maxValue;
-}
-- (void)setMaxValue:(double)value {
-    _maxValue = value;
-    [self setDoubleValue:_value];
+- (BOOL)isContinuous {
+    return YES;
 }
 
 - (double)doubleValue {
     return _value;
 }
-// Cut to the bounds; what is no number is the lower one.
+// Clamped; NaN is 0.
 - (void)setDoubleValue:(double)value {
-    _value = value > _minValue ? std::min(value, std::max(_minValue, _maxValue)) : _minValue;
+    _value = value > 0 ? std::min(value, 1.0) : 0;
     [[self controlView] setNeedsDisplay:YES];
-}
-- (float)floatValue {
-    return static_cast<float>(_value);
 }
 - (void)setFloatValue:(float)value {
     [self setDoubleValue:value];
 }
-- (int)intValue {
-    return static_cast<int>(std::clamp(_value, -2147483648.0, 2147483647.0));
-}
-- (void)setIntValue:(int)value {
-    [self setDoubleValue:value];
-}
-- (NSInteger)integerValue {
-    return static_cast<NSInteger>(std::clamp(_value, -9.2e18, 9.2e18));
-}
-- (void)setIntegerValue:(NSInteger)value {
-    [self setDoubleValue:static_cast<double>(value)];
-}
 - (NSString*)stringValue {
-    return [[NSNumber numberWithDouble:_value] stringValue];
+    return [NSString stringWithFormat:@"%0.16g", _value];
 }
 - (void)setStringValue:(NSString*)text {
     [self setDoubleValue:[text doubleValue]];
-}
-// A slider has a value, not a state.
-- (NSInteger)nextState {
-    return [self state];
 }
 
 - (BOOL)isVerticalIn:(NSRect)bounds {
@@ -78,12 +39,8 @@ static const double knob_size = 12;
 - (double)travelIn:(NSRect)bounds {
     return std::max(1.0, std::max(NSWidth(bounds), NSHeight(bounds)) - knob_size);
 }
-- (double)fraction {
-    return _maxValue > _minValue ? (_value - _minValue) / (_maxValue - _minValue) : 0;
-}
-
 - (NSRect)knobRectInBounds:(NSRect)bounds {
-    const double along = [self fraction] * [self travelIn:bounds];
+    const double along = _value * [self travelIn:bounds];
     if ([self isVerticalIn:bounds])
         return NSMakeRect(NSMidX(bounds) - knob_size / 2,
                           NSMinY(bounds) + [self travelIn:bounds] - along, knob_size, knob_size);
@@ -115,8 +72,8 @@ static const double knob_size = 12;
     [self setHighlighted:flag];
 }
 
-// Tracking: the knob keeps its distance from the mouse that took it; a click beside it brings its
-// middle there. The value moves with the mouse wherever that goes.
+// Tracking: the knob keeps its distance from the mouse; a click beside it moves its middle there.
+// The value follows the mouse even outside of the slider.
 
 + (BOOL)prefersTrackingUntilMouseUp {
     return YES;
@@ -129,8 +86,7 @@ static const double knob_size = 12;
 - (void)moveTo:(NSPoint)point inView:(NSView*)view {
     const NSRect bounds = [view bounds];
     const double along = [self placeOf:point in:bounds] - _grip - knob_size / 2;
-    const double fraction = std::clamp(along / [self travelIn:bounds], 0.0, 1.0);
-    [self setDoubleValue:_minValue + fraction * (_maxValue - _minValue)];
+    [self setDoubleValue:along / [self travelIn:bounds]];
 }
 
 - (BOOL)startTrackingAt:(NSPoint)start inView:(NSView*)view {
@@ -165,44 +121,31 @@ static const double knob_size = 12;
 - (NSSliderCell*)sliderCell {
     return (NSSliderCell*)[self cell];
 }
-- (double)minValue {
-    return [[self sliderCell] minValue];
-}
-- (void)setMinValue:(double)value {
-    [[self sliderCell] setMinValue:value];
-}
-- (double)maxValue {
-    return [[self sliderCell] maxValue];
-}
-- (void)setMaxValue:(double)value {
-    [[self sliderCell] setMaxValue:value];
-}
-
 - (void)keyDown:(NSEvent*)event {
     NSString* characters = [event characters];
-    const double low = [self minValue], high = [self maxValue], now = [self doubleValue];
+    const double now = [[self sliderCell] doubleValue];
     double value = now;
     switch ([characters length] == 1 ? [characters characterAtIndex:0] : 0) {
     case NSLeftArrowFunctionKey:
     case NSDownArrowFunctionKey:
-        value = now - (high - low) / 20;
+        value = now - 0.05;
         break;
     case NSRightArrowFunctionKey:
     case NSUpArrowFunctionKey:
-        value = now + (high - low) / 20;
+        value = now + 0.05;
         break;
     case NSHomeFunctionKey:
-        value = low;
+        value = 0;
         break;
     case NSEndFunctionKey:
-        value = high;
+        value = 1;
         break;
     default:
         [[self nextResponder] keyDown:event];
         return;
     }
     if (![self isEnabled]) return;
-    [self setDoubleValue:value];
-    if ([self doubleValue] != now) [self sendAction:[self action] to:[self target]];
+    [[self sliderCell] setDoubleValue:value];
+    if ([[self sliderCell] doubleValue] != now) [self sendAction:[self action] to:[self target]];
 }
 @end

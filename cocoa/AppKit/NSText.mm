@@ -1,29 +1,20 @@
 // The text that is edited, its selection and its commands.
-#include <AppKit/NSText.h>
+#include "NSTextPrivate.h"
 
-#include "Internal.h"
+#include "NSWindowPrivate.h"
+#include "Setters.h"
+#include "WindowServer.h"
 
 #include <algorithm>
 #include <AppKit/AppKit.h>
 #include <string>
 #include <vector>
 
-NSString* const NSTextMovement = @"NSTextMovement";
-NSString* const NSTextDidChangeNotification = @"NSTextDidChangeNotification";
-NSString* const NSTextDidEndEditingNotification = @"NSTextDidEndEditingNotification";
-
-@interface NSObject (NSTextOwner)
-- (void)textDidChange:(NSNotification*)notification;
-- (void)textDidEndEditing:(NSNotification*)notification;
-- (void)textDidCancel;
-@end
-
 @implementation NSText
 - (id)initWithFrame:(NSRect)frame {
     self = [super initWithFrame:frame];
     if (!self) return nil;
     _text = [[NSMutableString alloc] init];
-    _editable = YES;
     return self;
 }
 
@@ -43,42 +34,16 @@ NSString* const NSTextDidEndEditingNotification = @"NSTextDidEndEditingNotificat
     _anchor = _caret = [_text length];
     [self selectionChanged];
 }
-- (NSFont*)font {
-    return _font ? _font : [NSFont systemFontOfSize:[NSFont systemFontSize]];
-}
 - (void)setFont:(NSFont*)font {
-    if (font == _font) return;
-    [_font release];
-    _font = [font retain];
+    cocoa::set_retained(_font, font);
     [self setNeedsDisplay:YES];
-}
-- (NSColor*)textColor {
-    return _textColor;
 }
 - (void)setTextColor:(NSColor*)color {
-    if (color == _textColor) return;
-    [_textColor release];
-    _textColor = [color retain];
+    cocoa::set_retained(_textColor, color);
     [self setNeedsDisplay:YES];
 }
-- (NSUInteger)alignment {
-    return _alignment;
-}
-- (void)setAlignment:(NSUInteger)alignment {
-    _alignment = alignment;
-    [self setNeedsDisplay:YES];
-}
-- (BOOL)isEditable {
-    return _editable;
-}
-- (void)setEditable:(BOOL)flag {
-    _editable = !!flag;
-}
-- (id)delegate {
-    return _delegate;
-}
-- (void)setDelegate:(id)delegate {
-    _delegate = delegate;
+- (void)setField:(NSTextField*)field {
+    _field = field;
 }
 
 - (NSRange)selectedRange {
@@ -96,44 +61,31 @@ NSString* const NSTextDidEndEditingNotification = @"NSTextDidEndEditingNotificat
     return YES;
 }
 
-// The end of the editing, whoever asked for it.
 - (BOOL)resignFirstResponder {
-    NSDictionary* info = [NSDictionary dictionaryWithObject:[NSNumber numberWithInteger:_movement]
-                                                     forKey:NSTextMovement];
-    _movement = NSIllegalTextMovement;
-    NSNotification* notification =
-        [NSNotification notificationWithName:NSTextDidEndEditingNotification
-                                      object:self
-                                    userInfo:info];
-    if ([_delegate respondsToSelector:@selector(textDidEndEditing:)])
-        [_delegate textDidEndEditing:notification];
+    [_field editorDidEnd:EditingEnd::FocusLost];
     return YES;
 }
 
-- (void)endEditingWithMovement:(NSInteger)movement {
+- (void)endEditing:(EditingEnd)end {
     NSWindow* window = [[[self window] retain] autorelease];
-    NSView* field = [[[self superview] retain] autorelease];
-    _movement = movement;
-    [window makeFirstResponder:nil];
-    _movement = NSIllegalTextMovement;
-    // Unless the action moved the focus itself.
+    NSTextField* field = [[_field retain] autorelease];
+    [field editorDidEnd:end];
+    // The action may have moved the focus or removed the field.
     if ([window firstResponder] != window || [field window] != window) return;
-    if (movement == NSReturnTextMovement)
+    if (end == EditingEnd::Return)
         [window makeFirstResponder:field];
     else
-        [window selectKeyViewAfter:field forward:movement == NSTabTextMovement];
+        [window selectKeyViewAfter:field forward:end == EditingEnd::Tab];
 }
 
 // Changes.
 
 - (void)didChange {
     [self selectionChanged];
-    if (![_delegate respondsToSelector:@selector(textDidChange:)]) return;
-    [_delegate textDidChange:[NSNotification notificationWithName:NSTextDidChangeNotification
-                                                           object:self]];
+    [_field editorDidChange];
 }
 
-// One line: line breaks and other controls become blanks, the characters of function keys go.
+// One line: line breaks and other controls become spaces; function keys' characters are dropped.
 static NSString* as_line(NSString* text) {
     std::vector<unichar> units([text length]);
     if (units.empty()) return @"";
@@ -145,7 +97,7 @@ static NSString* as_line(NSString* text) {
 }
 
 - (void)replace:(NSRange)range with:(NSString*)text {
-    if (!_editable || (range.length == 0 && [text length] == 0)) return;
+    if (range.length == 0 && [text length] == 0) return;
     [_text replaceCharactersInRange:range withString:text];
     _anchor = _caret = range.location + [text length];
     [self didChange];
@@ -155,18 +107,18 @@ static NSString* as_line(NSString* text) {
     if ([text length]) [self replace:[self selectedRange] with:as_line(text)];
 }
 
-// Positions. A pair of surrogates is one character.
+// Positions. A surrogate pair is one character.
 
 static bool is_low(unichar unit) {
     return (unit & 0xfc00) == 0xdc00;
 }
 
-- (NSUInteger)before:(NSUInteger)position {
+- (NSUInteger)positionBefore:(NSUInteger)position {
     if (position == 0) return 0;
     --position;
     return position > 0 && is_low([_text characterAtIndex:position]) ? position - 1 : position;
 }
-- (NSUInteger)after:(NSUInteger)position {
+- (NSUInteger)positionAfter:(NSUInteger)position {
     const NSUInteger length = [_text length];
     if (position >= length) return length;
     ++position;
@@ -212,16 +164,16 @@ static bool is_word(unichar unit) {
 - (void)copy:(id)__attribute__((unused))sender {
     const NSRange range = [self selectedRange];
     if (range.length == 0) return;
-    NSPasteboard* board = [NSPasteboard generalPasteboard];
-    [board declareTypes:[NSArray arrayWithObject:NSStringPboardType] owner:nil];
-    [board setString:[_text substringWithRange:range] forType:NSStringPboardType];
+    NSString* text = [_text substringWithRange:range];
+    cocoa::WindowServer::shared().display().set_clipboard([text UTF8String]);
 }
 - (void)cut:(id)sender {
     [self copy:sender];
     [self delete:sender];
 }
 - (void)paste:(id)__attribute__((unused))sender {
-    [self insertText:[[NSPasteboard generalPasteboard] stringForType:NSStringPboardType]];
+    const std::string text = cocoa::WindowServer::shared().display().clipboard();
+    [self insertText:[NSString stringWithUTF8String:text.c_str()]];
 }
 - (void)delete:(id)__attribute__((unused))sender {
     [self replace:[self selectedRange] with:@""];
@@ -235,10 +187,10 @@ static bool is_word(unichar unit) {
     [self replace:range with:@""];
 }
 - (void)deleteBackward:(id)__attribute__((unused))sender {
-    [self deleteTo:[self before:_caret]];
+    [self deleteTo:[self positionBefore:_caret]];
 }
 - (void)deleteForward:(id)__attribute__((unused))sender {
-    [self deleteTo:[self after:_caret]];
+    [self deleteTo:[self positionAfter:_caret]];
 }
 - (void)deleteWordBackward:(id)__attribute__((unused))sender {
     [self deleteTo:[self wordBefore:_caret]];
@@ -247,14 +199,14 @@ static bool is_word(unichar unit) {
     [self deleteTo:[self wordAfter:_caret]];
 }
 
-// A selection is left at the end that the arrow points to.
+// With a selection, the caret goes to the end of it that the arrow points to.
 - (void)moveLeft:(id)__attribute__((unused))sender {
     const NSRange range = [self selectedRange];
-    [self moveTo:range.length ? range.location : [self before:_caret] extending:NO];
+    [self moveTo:range.length ? range.location : [self positionBefore:_caret] extending:NO];
 }
 - (void)moveRight:(id)__attribute__((unused))sender {
     const NSRange range = [self selectedRange];
-    [self moveTo:range.length ? NSMaxRange(range) : [self after:_caret] extending:NO];
+    [self moveTo:range.length ? NSMaxRange(range) : [self positionAfter:_caret] extending:NO];
 }
 - (void)moveWordLeft:(id)__attribute__((unused))sender {
     [self moveTo:[self wordBefore:_caret] extending:NO];
@@ -269,10 +221,10 @@ static bool is_word(unichar unit) {
     [self moveTo:[_text length] extending:NO];
 }
 - (void)moveLeftAndModifySelection:(id)__attribute__((unused))sender {
-    [self moveTo:[self before:_caret] extending:YES];
+    [self moveTo:[self positionBefore:_caret] extending:YES];
 }
 - (void)moveRightAndModifySelection:(id)__attribute__((unused))sender {
-    [self moveTo:[self after:_caret] extending:YES];
+    [self moveTo:[self positionAfter:_caret] extending:YES];
 }
 - (void)moveWordLeftAndModifySelection:(id)__attribute__((unused))sender {
     [self moveTo:[self wordBefore:_caret] extending:YES];
@@ -287,15 +239,15 @@ static bool is_word(unichar unit) {
     [self moveTo:[_text length] extending:YES];
 }
 - (void)insertNewline:(id)__attribute__((unused))sender {
-    [self endEditingWithMovement:NSReturnTextMovement];
+    [self endEditing:EditingEnd::Return];
 }
 - (void)insertTab:(id)__attribute__((unused))sender {
-    [self endEditingWithMovement:NSTabTextMovement];
+    [self endEditing:EditingEnd::Tab];
 }
 - (void)insertBacktab:(id)__attribute__((unused))sender {
-    [self endEditingWithMovement:NSBacktabTextMovement];
+    [self endEditing:EditingEnd::Backtab];
 }
 - (void)cancelOperation:(id)__attribute__((unused))sender {
-    if ([_delegate respondsToSelector:@selector(textDidCancel)]) [_delegate textDidCancel];
+    [_field editorDidCancel];
 }
 @end

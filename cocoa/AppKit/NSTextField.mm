@@ -1,14 +1,9 @@
-// A field: when its editing starts, what ends it and who is told.
-#include <AppKit/NSTextField.h>
+// A text field: when its editing starts and ends.
+#include "NSTextPrivate.h"
 
-#include "Internal.h"
+#include "NSViewPrivate.h"
 
 #include <AppKit/AppKit.h>
-
-NSString* const NSControlTextDidBeginEditingNotification =
-    @"NSControlTextDidBeginEditingNotification";
-NSString* const NSControlTextDidChangeNotification = @"NSControlTextDidChangeNotification";
-NSString* const NSControlTextDidEndEditingNotification = @"NSControlTextDidEndEditingNotification";
 
 @implementation NSTextField
 + (Class)cellClass {
@@ -38,35 +33,15 @@ NSString* const NSControlTextDidEndEditingNotification = @"NSControlTextDidEndEd
 - (void)setEditable:(BOOL)flag {
     if (!flag) [self abortEditing];
     [[self cell] setEditable:flag];
-    if (!flag) [[self cell] setSelectable:NO];
-}
-- (BOOL)isSelectable {
-    return [[self cell] isSelectable];
-}
-- (void)setSelectable:(BOOL)flag {
-    if (!flag) [self abortEditing];
-    [[self cell] setSelectable:flag];
-}
-- (BOOL)isBordered {
-    return [[self cell] isBordered];
 }
 - (void)setBordered:(BOOL)flag {
     [[self cell] setBordered:flag];
 }
-- (BOOL)isBezeled {
-    return [[self cell] isBezeled];
-}
 - (void)setBezeled:(BOOL)flag {
     [[self cell] setBezeled:flag];
 }
-- (BOOL)drawsBackground {
-    return [[self textCell] drawsBackground];
-}
 - (void)setDrawsBackground:(BOOL)flag {
     [[self textCell] setDrawsBackground:flag];
-}
-- (NSColor*)backgroundColor {
-    return [[self textCell] backgroundColor];
 }
 - (void)setBackgroundColor:(NSColor*)color {
     [[self textCell] setBackgroundColor:color];
@@ -77,33 +52,17 @@ NSString* const NSControlTextDidEndEditingNotification = @"NSControlTextDidEndEd
 - (void)setTextColor:(NSColor*)color {
     [[self textCell] setTextColor:color];
 }
-- (id<NSTextFieldDelegate>)delegate {
-    return _delegate;
-}
-- (void)setDelegate:(id<NSTextFieldDelegate>)delegate {
-    _delegate = delegate;
-}
 
 - (BOOL)acceptsFirstResponder {
-    return [self isEnabled] && [self isSelectable] && ![[self cell] refusesFirstResponder];
-}
-- (BOOL)canBecomeKeyView {
-    return [super canBecomeKeyView] && [self isEditable];
+    return [self isEnabled] && [self isEditable];
 }
 
 // Editing.
 
-- (void)tell:(NSString*)name selector:(SEL)selector {
-    NSNotification* notification = [NSNotification notificationWithName:name object:self];
-    if ([_delegate respondsToSelector:selector])
-        [_delegate performSelector:selector withObject:notification];
-    [[NSNotificationCenter defaultCenter] postNotification:notification];
-}
-
-- (void)takeEditorBack {
+- (void)removeEditor {
     NSText* editor = _editor;
     _editor = nil;
-    [editor setDelegate:nil];
+    [editor setField:nil];
     [editor removeFromSuperview];
     [_original release];
     _original = nil;
@@ -115,23 +74,22 @@ NSString* const NSControlTextDidEndEditingNotification = @"NSControlTextDidEndEd
     NSWindow* window = [self window];
     if (!window || ![self acceptsFirstResponder]) return NO;
     NSText* editor = [window fieldEditor:YES forObject:self];
-    // Another field gives it back first.
+    [[self retain] autorelease];
+    // Another field that has it ends its editing first.
     if ([editor superview]) [window endEditingFor:[editor superview]];
-    if (![[self retain] autorelease] || [editor superview] || [self window] != window) return NO;
+    if ([editor superview] || [self window] != window) return NO;
     _editor = editor;
     _edited = NO;
     [_original release];
     _original = [[[self cell] stringValue] copy];
     [editor setFont:[self font]];
     [editor setTextColor:[self textColor]];
-    [editor setAlignment:[self alignment]];
-    [editor setEditable:[self isEditable]];
     [editor setFrame:[[self textCell] titleRectForBounds:[self bounds]]];
     [editor setString:_original];
-    [editor setDelegate:self];
+    [editor setField:self];
     [self addSubview:editor];
     if (![window makeFirstResponder:editor]) {
-        [self takeEditorBack];
+        [self removeEditor];
         return NO;
     }
     [self setNeedsDisplay:YES];
@@ -148,14 +106,14 @@ NSString* const NSControlTextDidEndEditingNotification = @"NSControlTextDidEndEd
 }
 
 - (void)mouseDown:(NSEvent*)event {
-    if (![self isEnabled] || ![self isSelectable]) {
+    if (![self acceptsFirstResponder]) {
         [[self nextResponder] mouseDown:event];
         return;
     }
     if ([self startEditing]) [_editor mouseDown:event];
 }
 
-// The space bar writes here.
+// Space is typed here and does not click.
 - (void)keyDown:(NSEvent*)event {
     [[self nextResponder] keyDown:event];
 }
@@ -173,17 +131,17 @@ NSString* const NSControlTextDidEndEditingNotification = @"NSControlTextDidEndEd
 - (BOOL)abortEditing {
     if (!_editor) return NO;
     NSString* original = [[_original retain] autorelease];
-    [self takeEditorBack];
+    [self removeEditor];
     if (_edited) [[self cell] setStringValue:original];
     _edited = NO;
     return YES;
 }
 
-// A field that leaves its window keeps what was typed; nobody ended the editing, so nobody is told.
+// A field that leaves its window keeps what was typed, and sends no action.
 - (void)viewWillMoveToWindow:(NSWindow*)window {
     if (_editor) {
         [self validateEditing];
-        [self takeEditorBack];
+        [self removeEditor];
         _edited = NO;
     }
     [super viewWillMoveToWindow:window];
@@ -196,32 +154,24 @@ NSString* const NSControlTextDidEndEditingNotification = @"NSControlTextDidEndEd
 
 // From the field editor.
 
-- (void)textDidChange:(NSNotification*)__attribute__((unused))notification {
-    const BOOL first = !_edited;
+- (void)editorDidChange {
     _edited = YES;
-    if (first)
-        [self tell:NSControlTextDidBeginEditingNotification
-            selector:@selector(controlTextDidBeginEditing:)];
-    [self tell:NSControlTextDidChangeNotification selector:@selector(controlTextDidChange:)];
 }
 
-- (void)textDidEndEditing:(NSNotification*)notification {
+- (void)editorDidEnd:(EditingEnd)end {
     if (!_editor) return;
     [[self retain] autorelease];
-    const NSInteger movement = [[[notification userInfo] objectForKey:NSTextMovement] integerValue];
     [self validateEditing];
     const BOOL edited = _edited;
     _edited = NO;
-    [self takeEditorBack];
-    if (edited)
-        [self tell:NSControlTextDidEndEditingNotification
-            selector:@selector(controlTextDidEndEditing:)];
-    if (movement == NSReturnTextMovement || (edited && [[self cell] sendsActionOnEndEditing]))
+    [self removeEditor];
+    if (end == EditingEnd::Return || (edited && [[self cell] sendsActionOnEndEditing]))
         [self sendAction:[self action] to:[self target]];
 }
 
-// Escape: what was typed is taken back, and the window's Cancel button is pressed where it has one.
-- (void)textDidCancel {
+// Escape restores the text and is the key equivalent of the window's Cancel button, if there is
+// one.
+- (void)editorDidCancel {
     if (!_editor) return;
     [_editor setString:_original];
     [_editor selectAll:nil];

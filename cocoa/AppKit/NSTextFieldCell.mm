@@ -1,6 +1,7 @@
 #include <AppKit/NSTextFieldCell.h>
 
-#include "Internal.h"
+#include "NSWindowPrivate.h"
+#include "Setters.h"
 #include "Theme.h"
 
 #include <AppKit/AppKit.h>
@@ -17,8 +18,8 @@ using namespace cocoa;
     self = [super initTextCell:text];
     if (!self) return nil;
     [self setSendsActionOnEndEditing:YES];
-    // Dark on light whatever the theme, as the platform has it: a program that changes one of the
-    // two counts on the other.
+    // Dark on light whatever the theme, as on the platform: a program that sets one of the two
+    // relies on the other.
     _backgroundColor = [[NSColor whiteColor] retain];
     _textColor = [[NSColor blackColor] retain];
     return self;
@@ -30,18 +31,9 @@ using namespace cocoa;
     [super dealloc];
 }
 
-- (NSColor*)backgroundColor {
-    return _backgroundColor;
-}
 - (void)setBackgroundColor:(NSColor*)color {
-    if (color != _backgroundColor) {
-        [_backgroundColor release];
-        _backgroundColor = [color retain];
-    }
+    set_retained(_backgroundColor, color);
     [[self controlView] setNeedsDisplay:YES];
-}
-- (BOOL)drawsBackground {
-    return _drawsBackground;
 }
 - (void)setDrawsBackground:(BOOL)flag {
     _drawsBackground = !!flag;
@@ -55,17 +47,17 @@ using namespace cocoa;
     NSView* view = [self controlView];
     if ([view isKindOfClass:[NSControl class]])
         [[view window] controlWillLookDifferent:(NSControl*)view];
-    [_textColor release];
-    _textColor = [color retain];
+    set_retained(_textColor, color);
 }
 
 - (BOOL)isFramed {
     return [self isBezeled] || [self isBordered];
 }
 
-// In a frame the line stands in the middle; without one the text begins at the top.
+// In the middle of a frame; without one at the top.
 - (NSRect)titleRectForBounds:(NSRect)bounds {
-    const NSRect room = NSInsetRect([self drawingRectForBounds:bounds], 2, 0);
+    const double frame_width = [self isBezeled] ? 2 : [self isBordered] ? 1 : 0;
+    const NSRect room = NSInsetRect(bounds, frame_width + 2, frame_width);
     if ([self wraps]) return room;
     const NSSize line = theme::measure(@"X", [self font]);
     const double y = [self isFramed] ? (room.size.height - line.height) / 2 : 0;
@@ -79,19 +71,14 @@ using namespace cocoa;
         NSRectFill(frame);
     }
     if ([self isFramed]) theme::draw_round(frame, 0, nil, theme::neutral(0.9));
-    [self drawInteriorWithFrame:frame inView:view];
-}
-
-- (void)drawInteriorWithFrame:(NSRect)frame inView:(NSView*)view {
-    // While it is edited, the text is the field editor's.
+    // While it is edited, the field editor draws the text.
     if ([view isKindOfClass:[NSControl class]] && [(NSControl*)view currentEditor]) return;
     NSColor* color = _textColor ? _textColor : [NSColor blackColor];
     if (![self isEnabled] && _drawsBackground)
         color = [color colorWithAlphaComponent:[color alphaComponent] * 0.45];
     const NSRect line = [self titleRectForBounds:frame];
     if (![self wraps]) {
-        theme::draw_line([self stringValue], line, [self font], color,
-                         static_cast<unsigned>([self alignment]));
+        theme::draw_line([self stringValue], line, [self font], color, [self alignment]);
         return;
     }
     NSMutableParagraphStyle* style =

@@ -1,7 +1,7 @@
-// The tree of views: who is in whom, in which window, and the order of Tab.
-#include <AppKit/NSView.h>
+// The tree of views, their window, and the order of Tab.
+#include "NSViewPrivate.h"
 
-#include "Internal.h"
+#include "NSWindowPrivate.h"
 
 @implementation NSView
 - (id)init {
@@ -13,8 +13,6 @@
     if (!self) return nil;
     _frame = frame;
     _subviews = [[NSMutableArray alloc] init];
-    _autoresizesSubviews = YES;
-    _needsDisplay = YES;
     return self;
 }
 
@@ -25,16 +23,11 @@
         [view moveToWindow:nil];
     }
     [_subviews release];
-    if (_previousKeyView) _previousKeyView->_nextKeyView = nil;
-    if (_nextKeyView) _nextKeyView->_previousKeyView = nil;
     [super dealloc];
 }
 
 - (NSArray*)subviews {
     return [NSArray arrayWithArray:_subviews];
-}
-- (NSMutableArray*)mutableSubviews {
-    return _subviews;
 }
 - (NSView*)superview {
     return _superview;
@@ -44,30 +37,20 @@
 }
 
 - (void)addSubview:(NSView*)view {
-    [self addSubview:view positioned:NSWindowAbove relativeTo:nil];
-}
-
-- (void)addSubview:(NSView*)view positioned:(NSWindowOrderingMode)place relativeTo:(NSView*)other {
-    if (!view || view == other) return;
+    if (!view) return;
     if ([self isDescendantOf:view])
         [NSException raise:NSInvalidArgumentException
                     format:@"a view cannot be added to itself or to a view below it"];
     [view retain];
     // Within one superview a view only changes its place: it never leaves the window.
-    if (view->_superview == self)
+    if (view->_superview == self) {
         [_subviews removeObjectIdenticalTo:view];
-    else
+        [_subviews addObject:view];
+    } else {
         [view removeFromSuperview];
-    NSUInteger index = other ? [_subviews indexOfObjectIdenticalTo:other] : (NSUInteger)NSNotFound;
-    if (index == (NSUInteger)NSNotFound)
-        index = place == NSWindowBelow ? 0 : [_subviews count];
-    else if (place == NSWindowAbove)
-        ++index;
-    [_subviews insertObject:view atIndex:index];
-    if (view->_superview != self) {
+        [_subviews addObject:view];
         [view setSuperviewPointer:self];
         [view moveToWindow:_window];
-        [view viewDidMoveToSuperview];
     }
     [view setNeedsDisplay:YES];
     [view release];
@@ -79,11 +62,10 @@
     [superview setNeedsDisplayInRect:_frame];
     [self retain];
     [self moveToWindow:nil];
-    // Leaving the window ended the focus, and that may have run code that moved the view already.
+    // Leaving the window ended the focus, and that may have run code that moved the view.
     if (_superview == superview) {
         [self setSuperviewPointer:nil];
         [superview->_subviews removeObjectIdenticalTo:self];
-        [self viewDidMoveToSuperview];
     }
     [self release];
 }
@@ -104,7 +86,6 @@
         if (view->_superview == self) [view moveToWindow:window];
     }
     [subviews release];
-    [self viewDidMoveToWindow];
 }
 
 - (BOOL)isDescendantOf:(NSView*)view {
@@ -125,12 +106,8 @@
 - (NSInteger)tag {
     return -1;
 }
-// Hooks for subclasses.
+// For subclasses.
 - (void)viewWillMoveToWindow:(NSWindow*)__attribute__((unused))window {
-}
-- (void)viewDidMoveToWindow {
-}
-- (void)viewDidMoveToSuperview {
 }
 
 - (BOOL)isHidden {
@@ -154,32 +131,11 @@
     return NO;
 }
 
-- (NSView*)nextKeyView {
-    return _nextKeyView;
-}
-- (NSView*)previousKeyView {
-    return _previousKeyView;
-}
-
-- (void)setNextKeyView:(NSView*)view {
-    if (_nextKeyView == view) return;
-    if (_nextKeyView) _nextKeyView->_previousKeyView = nil;
-    if (view && view->_previousKeyView) view->_previousKeyView->_nextKeyView = nil;
-    _nextKeyView = view;
-    if (view) view->_previousKeyView = self;
-}
-
 - (BOOL)canBecomeKeyView {
     return _window && [self acceptsFirstResponder] && ![self isHiddenOrHasHiddenAncestor];
 }
 
-- (NSView*)root {
-    NSView* view = self;
-    while (view->_superview) view = view->_superview;
-    return view;
-}
-
-// The view after this one, or before it, in the depth-first order of its tree, round and round.
+// The view after this one, or before it, in the depth-first order of its tree, which is circular.
 - (NSView*)neighbourInTree:(BOOL)forward {
     if (forward) {
         if ([_subviews count]) return [_subviews objectAtIndex:0];
@@ -204,21 +160,11 @@
     return view;
 }
 
-// Set key views are followed where there are some; a walk that comes back to where it was before
-// has seen all there is.
 - (NSView*)validKeyView:(BOOL)forward {
-    NSMutableArray* seen = [NSMutableArray array];
-    NSView* view = self;
-    for (;;) {
-        NSView* set = forward ? view->_nextKeyView : view->_previousKeyView;
-        view = set ? set : [view neighbourInTree:forward];
-        if (view == self || [seen indexOfObjectIdenticalTo:view] != (NSUInteger)NSNotFound)
-            return nil;
-        if ([view canBecomeKeyView]) return view;
-        [seen addObject:view];
-    }
+    NSView* view = [self neighbourInTree:forward];
+    while (view != self && ![view canBecomeKeyView]) view = [view neighbourInTree:forward];
+    return view == self ? nil : view;
 }
-
 - (NSView*)nextValidKeyView {
     return [self validKeyView:YES];
 }
@@ -226,7 +172,6 @@
     return [self validKeyView:NO];
 }
 
-// A view without a taker for the key hands it to the views below it.
 - (BOOL)performKeyEquivalent:(NSEvent*)event {
     NSArray* subviews = [self subviews];
     for (NSUInteger i = 0; i < [subviews count]; ++i) {

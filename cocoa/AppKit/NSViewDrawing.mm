@@ -1,6 +1,7 @@
-// How a tree of views is drawn: each after its superview, clipped to its bounds, its own
-// coordinates set up; and the focus of drawing outside the display cycle.
-#include "Internal.h"
+// How a tree of views is drawn: each after its superview, clipped to its bounds, in its own
+// coordinates; and drawing outside the display cycle, with the focus locked.
+#include "NSViewPrivate.h"
+#include "NSWindowPrivate.h"
 #include "Theme.h"
 
 #include <AppKit/AppKit.h>
@@ -12,24 +13,24 @@ namespace cocoa {
 
 namespace {
 
-// Makes a graphics context current for as long as it lives.
+// Makes a graphics context current while it lives.
 class CurrentContext {
   public:
     CurrentContext(CGContextRef port, BOOL flipped)
-        : previous_([[NSGraphicsContext currentContext] retain]) {
+        : _previous([[NSGraphicsContext currentContext] retain]) {
         [NSGraphicsContext
             setCurrentContext:[NSGraphicsContext graphicsContextWithGraphicsPort:port
                                                                          flipped:flipped]];
     }
     ~CurrentContext() {
-        [NSGraphicsContext setCurrentContext:previous_];
-        [previous_ release];
+        [NSGraphicsContext setCurrentContext:_previous];
+        [_previous release];
     }
     CurrentContext(const CurrentContext&) = delete;
     CurrentContext& operator=(const CurrentContext&) = delete;
 
   private:
-    NSGraphicsContext* previous_;
+    NSGraphicsContext* _previous;
 };
 
 CGContextRef make_context(unsigned char* pixels, int width, int height, double scale) {
@@ -39,7 +40,7 @@ CGContextRef make_context(unsigned char* pixels, int width, int height, double s
         static_cast<size_t>(width) * 4, space, kCGImageAlphaPremultipliedLast);
     CGColorSpaceRelease(space);
     if (!context) return nullptr;
-    // Whole points start at the top row: what does not fill a pixel is left over at the bottom.
+    // Points start at the top row: the part of a pixel that is left over is at the bottom.
     CGContextTranslateCTM(context, 0, height);
     CGContextScaleCTM(context, scale, scale);
     return context;
@@ -48,27 +49,23 @@ CGContextRef make_context(unsigned char* pixels, int width, int height, double s
 // Sets up a view's coordinates on top of its superview's.
 void enter(CGContextRef context, NSView* view, bool turned) {
     const NSRect frame = [view frame];
-    const NSPoint origin = [view bounds].origin;
     CGContextTranslateCTM(context, frame.origin.x, frame.origin.y);
     if (turned) {
         CGContextTranslateCTM(context, 0, frame.size.height);
         CGContextScaleCTM(context, 1, -1);
     }
-    CGContextTranslateCTM(context, -origin.x, -origin.y);
 }
 
-// The contexts of locked focuses, innermost last.
+// A locked focus.
 struct Focus {
     CGContextRef port;
     NSGraphicsContext* previous;
     NSWindow* window;
 };
 std::vector<Focus>& focuses() {
-    static std::vector<Focus> stack;
+    static std::vector<Focus> stack; // innermost last
     return stack;
 }
-
-} // namespace
 
 void draw_focus_ring(NSRect rect) {
     NSBezierPath* path = [NSBezierPath bezierPathWithRoundedRect:NSInsetRect(rect, -1, -1)
@@ -79,12 +76,14 @@ void draw_focus_ring(NSRect rect) {
     [path stroke];
 }
 
+} // namespace
+
 void draw_tree(NSView* root, unsigned char* pixels, int width, int height, double scale,
                NSRect dirty) {
     if (width <= 0 || height <= 0) return;
     CGContextRef context = make_context(pixels, width, height, scale);
     if (!context) return;
-    // The outside's y goes up; the picture begins at the root's upper left corner.
+    // Around the root y goes up; the picture begins at its upper left corner.
     CGContextTranslateCTM(context, -NSMinX([root frame]), -NSMaxY([root frame]));
     CGContextClipToRect(context, NSRectToCGRect(dirty));
     [root drawTreeInContext:context flipped:NO dirty:dirty];
@@ -104,40 +103,23 @@ void draw_tree(NSView* root, unsigned char* pixels, int width, int height, doubl
 } // namespace cocoa
 
 @implementation NSView (NSViewDrawing)
-- (BOOL)isOpaque {
-    return NO;
-}
-- (BOOL)needsDisplay {
-    return _needsDisplay;
-}
 
 - (void)setNeedsDisplay:(BOOL)flag {
-    if (flag)
-        [self setNeedsDisplayInRect:[self bounds]];
-    else
-        _needsDisplay = NO;
+    if (flag) [self setNeedsDisplayInRect:[self bounds]];
 }
 
 - (void)setNeedsDisplayInRect:(NSRect)rect {
-    _needsDisplay = YES;
     if (!_window || [self isHiddenOrHasHiddenAncestor]) return;
-    // The focus ring lies around the view.
+    // With the focus ring, which is around the view.
     [_window addDirtyRect:NSInsetRect([self baseRect:rect], -cocoa::theme::ring_width,
                                       -cocoa::theme::ring_width)];
-}
-
-- (void)clearNeedsDisplay {
-    _needsDisplay = NO;
 }
 
 - (void)display {
     [self setNeedsDisplay:YES];
     [_window displayIfNeeded];
 }
-- (void)displayIfNeeded {
-    [_window displayIfNeeded];
-}
-// Draws nothing: for subclasses.
+// For subclasses.
 - (void)drawRect:(NSRect)__attribute__((unused))dirty {
 }
 
@@ -147,9 +129,8 @@ void draw_tree(NSView* root, unsigned char* pixels, int width, int height, doubl
     if (NSIsEmptyRect(outside)) return;
     const BOOL flipped = [self isFlipped];
     const bool turned = flipped != superviewFlipped;
-    NSRect inside =
-        NSOffsetRect(outside, _boundsOrigin.x - _frame.origin.x, _boundsOrigin.y - _frame.origin.y);
-    if (turned) inside.origin.y = _boundsOrigin.y + NSMaxY(_frame) - NSMaxY(outside);
+    NSRect inside = NSOffsetRect(outside, -_frame.origin.x, -_frame.origin.y);
+    if (turned) inside.origin.y = NSMaxY(_frame) - NSMaxY(outside);
     CGContextSaveGState(context);
     cocoa::enter(context, self, turned);
     CGContextClipToRect(context, NSRectToCGRect(inside));
@@ -159,7 +140,6 @@ void draw_tree(NSView* root, unsigned char* pixels, int width, int height, doubl
         [self drawRect:inside];
         CGContextRestoreGState(context);
     }
-    _needsDisplay = NO;
     NSArray* subviews = [[NSArray alloc] initWithArray:_subviews];
     for (NSUInteger i = 0; i < [subviews count]; ++i)
         [[subviews objectAtIndex:i] drawTreeInContext:context flipped:flipped dirty:inside];

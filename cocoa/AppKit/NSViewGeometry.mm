@@ -1,5 +1,5 @@
-// Where views are: frames, coordinates, what follows a resize, which view a point hits.
-#include "Internal.h"
+// Where views are: frames, coordinates, resizing, which view a point hits.
+#include "NSViewPrivate.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,7 +9,7 @@
     return _frame;
 }
 - (NSRect)bounds {
-    return NSMakeRect(_boundsOrigin.x, _boundsOrigin.y, _frame.size.width, _frame.size.height);
+    return NSMakeRect(0, 0, _frame.size.width, _frame.size.height);
 }
 - (BOOL)isFlipped {
     return NO;
@@ -32,79 +32,41 @@
     if (NSEqualSizes(size, old)) return;
     [_superview setNeedsDisplayInRect:_frame];
     _frame.size = size;
-    if (_autoresizesSubviews) [self resizeSubviewsWithOldSize:old];
+    NSArray* subviews = [[NSArray alloc] initWithArray:_subviews];
+    for (NSUInteger i = 0; i < [subviews count]; ++i)
+        [[subviews objectAtIndex:i] resizeWithOldSuperviewSize:old];
+    [subviews release];
     [self setNeedsDisplay:YES];
 }
 
-- (void)setBoundsOrigin:(NSPoint)origin {
-    if (NSEqualPoints(origin, _boundsOrigin)) return;
-    _boundsOrigin = origin;
-    [self setNeedsDisplay:YES];
-}
-
-- (NSUInteger)autoresizingMask {
-    return _autoresizingMask;
-}
 - (void)setAutoresizingMask:(NSUInteger)mask {
     _autoresizingMask = mask;
 }
-- (BOOL)autoresizesSubviews {
-    return _autoresizesSubviews;
-}
-- (void)setAutoresizesSubviews:(BOOL)flag {
-    _autoresizesSubviews = !!flag;
-}
 
-- (void)resizeSubviewsWithOldSize:(NSSize)size {
-    NSArray* subviews = [[NSArray alloc] initWithArray:_subviews];
-    for (NSUInteger i = 0; i < [subviews count]; ++i)
-        [[subviews objectAtIndex:i] resizeWithOldSuperviewSize:size];
-    [subviews release];
-}
-
-// One axis: the margin before, the length and the margin after share the change among those that
-// are flexible, by their sizes, or evenly when those add up to nothing.
-static void resize_axis(double old_room, double room, bool before, bool length, bool after,
-                        double& origin, double& extent) {
-    const double change = room - old_room;
-    const int count = before + length + after;
-    if (count == 0 || change == 0) return;
-    const double sizes[3] = {before ? std::max(origin, 0.0) : 0, length ? std::max(extent, 0.0) : 0,
-                             after ? std::max(old_room - origin - extent, 0.0) : 0};
-    const double sum = sizes[0] + sizes[1] + sizes[2];
-    auto share = [&](bool flexible, double size) {
-        if (!flexible) return 0.0;
-        return sum > 0 ? change * size / sum : change / count;
-    };
-    origin += share(before, sizes[0]);
-    extent = std::max(0.0, extent + share(length, sizes[1]));
-}
-
-- (void)resizeWithOldSuperviewSize:(NSSize)size {
+- (void)resizeWithOldSuperviewSize:(NSSize)old {
     if (!_superview || _autoresizingMask == NSViewNotSizable) return;
     const NSSize room = [_superview bounds].size;
-    NSRect frame = _frame;
-    const NSUInteger mask = _autoresizingMask;
-    resize_axis(size.width, room.width, mask & NSViewMinXMargin, mask & NSViewWidthSizable,
-                mask & NSViewMaxXMargin, frame.origin.x, frame.size.width);
-    resize_axis(size.height, room.height, mask & NSViewMinYMargin, mask & NSViewHeightSizable,
-                mask & NSViewMaxYMargin, frame.origin.y, frame.size.height);
-    [self setFrame:frame];
+    NSSize size = _frame.size;
+    if (_autoresizingMask & NSViewWidthSizable)
+        size.width = std::max(0.0, size.width + (room.width - old.width));
+    if (_autoresizingMask & NSViewHeightSizable)
+        size.height = std::max(0.0, size.height + (room.height - old.height));
+    [self setFrameSize:size];
+}
+
+// Whether its y axis is opposite to its superview's. Around a view without superview y goes up.
+- (BOOL)isTurned {
+    return [self isFlipped] != [_superview isFlipped];
 }
 
 - (NSPoint)framePointOfPoint:(NSPoint)p {
-    const double x = p.x - _boundsOrigin.x, y = p.y - _boundsOrigin.y;
-    const BOOL turned = _superview && [self isFlipped] != [_superview isFlipped];
-    // A view on its own is seen by the world outside, where y goes up.
-    const BOOL flip = _superview ? turned : [self isFlipped];
-    return NSMakePoint(_frame.origin.x + x, _frame.origin.y + (flip ? _frame.size.height - y : y));
+    return NSMakePoint(_frame.origin.x + p.x,
+                       _frame.origin.y + ([self isTurned] ? _frame.size.height - p.y : p.y));
 }
 
 - (NSPoint)pointOfFramePoint:(NSPoint)p {
-    const BOOL turned = _superview && [self isFlipped] != [_superview isFlipped];
-    const BOOL flip = _superview ? turned : [self isFlipped];
-    const double x = p.x - _frame.origin.x, y = p.y - _frame.origin.y;
-    return NSMakePoint(_boundsOrigin.x + x, _boundsOrigin.y + (flip ? _frame.size.height - y : y));
+    const double y = p.y - _frame.origin.y;
+    return NSMakePoint(p.x - _frame.origin.x, [self isTurned] ? _frame.size.height - y : y);
 }
 
 - (NSPoint)basePoint:(NSPoint)point {
@@ -128,10 +90,6 @@ static NSRect rect_of(NSPoint a, NSPoint b) {
 - (NSRect)rectFromBase:(NSRect)r {
     return rect_of([self pointFromBase:r.origin],
                    [self pointFromBase:NSMakePoint(NSMaxX(r), NSMaxY(r))]);
-}
-- (NSRect)frameRectOfRect:(NSRect)r {
-    return rect_of([self framePointOfPoint:r.origin],
-                   [self framePointOfPoint:NSMakePoint(NSMaxX(r), NSMaxY(r))]);
 }
 
 - (NSPoint)convertPoint:(NSPoint)point fromView:(NSView*)view {
@@ -163,10 +121,6 @@ static NSRect rect_of(NSPoint a, NSPoint b) {
     return visible;
 }
 
-- (BOOL)mouse:(NSPoint)point inRect:(NSRect)rect {
-    return NSMouseInRect(point, rect, [self isFlipped]);
-}
-
 - (NSView*)hitTest:(NSPoint)point {
     if (_hidden || !NSMouseInRect(point, _frame, [_superview isFlipped])) return nil;
     const NSPoint inside = [self pointOfFramePoint:point];
@@ -177,7 +131,4 @@ static NSRect rect_of(NSPoint a, NSPoint b) {
     return self;
 }
 
-- (BOOL)acceptsFirstMouse:(NSEvent*)__attribute__((unused))event {
-    return NO;
-}
 @end

@@ -1,39 +1,24 @@
-// A window's life, its frame and its place on the screen.
-#include <AppKit/NSWindow.h>
+// A window's frame, its key status and its place on the screen.
+#include "NSWindowPrivate.h"
 
-#include "BorderView.h"
-#include "Internal.h"
+#include "NSApplicationPrivate.h"
+#include "NSViewPrivate.h"
+#include "NSWindowBorderView.h"
+#include "Setters.h"
 #include "WindowServer.h"
 
 #include <algorithm>
 #include <AppKit/NSScreen.h>
+#include <AppKit/NSText.h>
 #include <cmath>
 
 using cocoa::WindowServer;
 
 const CGFloat NSWindowTitleBarHeight = 22;
 
-NSString* const NSWindowWillCloseNotification = @"NSWindowWillCloseNotification";
-NSString* const NSWindowDidResizeNotification = @"NSWindowDidResizeNotification";
-NSString* const NSWindowDidMoveNotification = @"NSWindowDidMoveNotification";
-NSString* const NSWindowDidBecomeKeyNotification = @"NSWindowDidBecomeKeyNotification";
-NSString* const NSWindowDidResignKeyNotification = @"NSWindowDidResignKeyNotification";
-
 @implementation NSWindow
-+ (NSRect)frameRectForContentRect:(NSRect)content styleMask:(NSUInteger)mask {
-    if (mask & NSTitledWindowMask) content.size.height += NSWindowTitleBarHeight;
-    return content;
-}
-+ (NSRect)contentRectForFrameRect:(NSRect)frame styleMask:(NSUInteger)mask {
-    if (mask & NSTitledWindowMask)
-        frame.size.height = std::max(0.0, frame.size.height - NSWindowTitleBarHeight);
-    return frame;
-}
-- (NSRect)frameRectForContentRect:(NSRect)content {
-    return [NSWindow frameRectForContentRect:content styleMask:_styleMask];
-}
-- (NSRect)contentRectForFrameRect:(NSRect)frame {
-    return [NSWindow contentRectForFrameRect:frame styleMask:_styleMask];
+- (CGFloat)titleBarHeight {
+    return _styleMask & NSTitledWindowMask ? NSWindowTitleBarHeight : 0;
 }
 
 - (id)initWithContentRect:(NSRect)content
@@ -44,11 +29,11 @@ NSString* const NSWindowDidResignKeyNotification = @"NSWindowDidResignKeyNotific
     if (!self) return nil;
     [NSApplication sharedApplication];
     _styleMask = mask;
-    _frame = [self frameRectForContentRect:content];
+    _frame = content;
+    _frame.size.height += [self titleBarHeight];
     _title = @"";
     _releasedWhenClosed = YES;
     _firstResponder = self;
-    _minSize = NSMakeSize(80, NSWindowTitleBarHeight + 20);
     _state = new NSWindowState();
     _windowNumber = WindowServer::shared().add(self);
     _borderView = [[NSWindowBorderView alloc]
@@ -62,10 +47,9 @@ NSString* const NSWindowDidResignKeyNotification = @"NSWindowDidResignKeyNotific
 }
 
 - (void)dealloc {
-    _delegate = nil;
-    [NSApp windowIsGone:self];
+    [NSApp windowWillBeFreed:self];
     WindowServer::shared().remove(self);
-    // The views leave; the one with the focus loses it, without an action.
+    // The views leave the window; the one with the focus loses it, without an action.
     [_borderView moveToWindow:nil];
     [_borderView release];
     [_fieldEditor release];
@@ -78,14 +62,12 @@ NSString* const NSWindowDidResignKeyNotification = @"NSWindowDidResignKeyNotific
     return _title;
 }
 - (void)setTitle:(NSString*)title {
-    if (title == _title) return;
-    [_title release];
-    _title = title ? [title copy] : @"";
+    cocoa::set_copied(_title, title);
     [_borderView setNeedsDisplay:YES];
-    if ([self isKeyWindow]) [self tellTitle];
+    if ([self isKeyWindow]) [self showTitleOnDisplay];
 }
-// A window without a title (an alert) leaves the display's as it is.
-- (void)tellTitle {
+// A window without a title (an alert) leaves the display's unchanged.
+- (void)showTitleOnDisplay {
     if ([_title length]) WindowServer::shared().display().set_title([_title UTF8String]);
 }
 - (NSUInteger)styleMask {
@@ -102,15 +84,6 @@ NSString* const NSWindowDidResignKeyNotification = @"NSWindowDidResignKeyNotific
     _level = level;
     if (_visible) WindowServer::shared().order_front(self);
 }
-- (NSScreen*)screen {
-    return [NSScreen mainScreen];
-}
-- (id<NSWindowDelegate>)delegate {
-    return _delegate;
-}
-- (void)setDelegate:(id<NSWindowDelegate>)delegate {
-    _delegate = delegate;
-}
 - (BOOL)isListed {
     return YES;
 }
@@ -118,36 +91,17 @@ NSString* const NSWindowDidResignKeyNotification = @"NSWindowDidResignKeyNotific
     return NO;
 }
 
-// The delegate hears of it first, then whoever observes.
-- (void)tell:(NSString*)name selector:(SEL)selector {
-    NSNotification* notification = [NSNotification notificationWithName:name object:self];
-    if ([_delegate respondsToSelector:selector])
-        [_delegate performSelector:selector withObject:notification];
-    [[NSNotificationCenter defaultCenter] postNotification:notification];
-}
-
 - (NSRect)frame {
     return _frame;
-}
-
-- (void)sizeBorderToFrame {
-    [_borderView setFrameSize:_frame.size];
 }
 
 - (void)setFrame:(NSRect)frame display:(BOOL)display {
     frame.size.width = std::max(frame.size.width, 0.0);
     frame.size.height = std::max(frame.size.height, 0.0);
-    const BOOL moved = !NSEqualPoints(frame.origin, _frame.origin);
-    const BOOL sized = !NSEqualSizes(frame.size, _frame.size);
-    if (!moved && !sized) return;
-    [[self retain] autorelease];
+    if (NSEqualPoints(frame.origin, _frame.origin) && NSEqualSizes(frame.size, _frame.size)) return;
     _frame = frame;
     WindowServer::shared().screen_needs_update();
-    if (sized) {
-        [self sizeBorderToFrame];
-        [self tell:NSWindowDidResizeNotification selector:@selector(windowDidResize:)];
-    }
-    if (moved) [self tell:NSWindowDidMoveNotification selector:@selector(windowDidMove:)];
+    [_borderView setFrameSize:_frame.size];
     if (display) [self displayIfNeeded];
 }
 
@@ -155,20 +109,10 @@ NSString* const NSWindowDidResignKeyNotification = @"NSWindowDidResignKeyNotific
     [self setFrame:NSMakeRect(origin.x, origin.y, _frame.size.width, _frame.size.height)
            display:NO];
 }
-- (void)setFrameTopLeftPoint:(NSPoint)point {
-    [self setFrameOrigin:NSMakePoint(point.x, point.y - _frame.size.height)];
-}
 - (void)setContentSize:(NSSize)size {
-    NSRect frame =
-        [self frameRectForContentRect:NSMakeRect(_frame.origin.x, 0, size.width, size.height)];
-    frame.origin.y = NSMaxY(_frame) - frame.size.height;
-    [self setFrame:frame display:YES];
-}
-- (NSSize)minSize {
-    return _minSize;
-}
-- (void)setMinSize:(NSSize)size {
-    _minSize = size;
+    const double height = size.height + [self titleBarHeight];
+    [self setFrame:NSMakeRect(_frame.origin.x, NSMaxY(_frame) - height, size.width, height)
+           display:YES];
 }
 
 - (void)center {
@@ -199,9 +143,6 @@ NSString* const NSWindowDidResignKeyNotification = @"NSWindowDidResignKeyNotific
     return NSMakePoint(point.x - _frame.origin.x, point.y - _frame.origin.y);
 }
 
-- (NSView*)borderView {
-    return _borderView;
-}
 - (NSView*)contentView {
     return _contentView;
 }
@@ -212,10 +153,9 @@ NSString* const NSWindowDidResignKeyNotification = @"NSWindowDidResignKeyNotific
     _contentView = view;
     [old removeFromSuperview];
     if (!view) return;
-    NSRect frame = [self contentRectForFrameRect:_frame];
-    frame.origin = NSZeroPoint;
+    const double height = std::max(0.0, _frame.size.height - [self titleBarHeight]);
     [view setAutoresizingMask:NSViewWidthSizable | NSViewHeightSizable];
-    [view setFrame:frame];
+    [view setFrame:NSMakeRect(0, 0, _frame.size.width, height)];
     [_borderView addSubview:view];
 }
 
@@ -247,29 +187,15 @@ NSString* const NSWindowDidResignKeyNotification = @"NSWindowDidResignKeyNotific
     [self setVisibleFlag:NO];
     if ([self isKeyWindow]) {
         [NSApp setKeyWindow:nil];
-        [NSApp keyWindowNeeded];
+        [NSApp chooseKeyWindow];
     }
 }
 
-- (void)performClose:(id)sender {
-    if (!(_styleMask & NSClosableWindowMask)) return;
-    if ([_delegate respondsToSelector:@selector(windowShouldClose:)] &&
-        ![_delegate windowShouldClose:sender ? sender : self])
-        return;
-    [self close];
-}
-
 - (void)close {
-    // Whoever asks may be a button of this window.
+    // The action of one of its own buttons may close it.
     [[self retain] autorelease];
-    const BOOL was_visible = _visible;
-    [self tell:NSWindowWillCloseNotification selector:@selector(windowWillClose:)];
     [self orderOut:self];
     if (_releasedWhenClosed) [self release];
-    if (was_visible) [NSApp lastWindowMayHaveClosed];
-}
-- (BOOL)isReleasedWhenClosed {
-    return _releasedWhenClosed;
 }
 - (void)setReleasedWhenClosed:(BOOL)flag {
     _releasedWhenClosed = !!flag;
@@ -289,11 +215,9 @@ NSString* const NSWindowDidResignKeyNotification = @"NSWindowDidResignKeyNotific
     if (_firstResponder == self && _initialFirstResponder)
         [self makeFirstResponder:_initialFirstResponder];
     [_borderView setNeedsDisplay:YES];
-    [self tell:NSWindowDidBecomeKeyNotification selector:@selector(windowDidBecomeKey:)];
 }
 - (void)resignKeyWindow {
     [_borderView setNeedsDisplay:YES];
-    [self tell:NSWindowDidResignKeyNotification selector:@selector(windowDidResignKey:)];
 }
 @end
 

@@ -1,9 +1,11 @@
-// A window's pixels: what is to be drawn again, and when.
-#include "Internal.h"
+// A window's pixels: what is redrawn, and when.
+#include "NSViewPrivate.h"
+#include "NSWindowPrivate.h"
 #include "WindowServer.h"
 
 #include <algorithm>
 #include <AppKit/NSColor.h>
+#include <AppKit/NSTextField.h>
 #include <cmath>
 #include <utility>
 
@@ -30,7 +32,7 @@ using cocoa::WindowServer;
     _state->dirty = [_borderView frame];
 }
 
-// Whole pixels, so that nothing is blended at the edges of what is drawn again.
+// Rounded outwards to whole pixels, so that nothing is blended at the edges of what is redrawn.
 static NSRect whole_pixels(NSRect rect, double scale, double height) {
     const double left = std::floor(NSMinX(rect) * scale), right = std::ceil(NSMaxX(rect) * scale);
     const double top = std::floor((height - NSMaxY(rect)) * scale);
@@ -50,16 +52,8 @@ static NSColor* text_color(NSControl* control) {
     _state->looks.push_back({control, [control isEnabled], [text_color(control) retain]});
 }
 
-- (void)forgetLooksOf:(NSView*)view {
-    std::erase_if(_state->looks, [view](const NSWindowState::Look& look) {
-        if (look.control != (NSControl*)view) return false;
-        [look.color release];
-        return true;
-    });
-}
-
-// A plug-in may disable everything and enable it again at each idle call: nothing of that is seen.
-- (void)drawWhatLooksDifferent {
+// A plug-in may disable everything and enable it again at each idle call: that redraws nothing.
+- (void)invalidateChangedLooks {
     for (const NSWindowState::Look& look : std::exchange(_state->looks, {})) {
         NSColor* color = text_color(look.control);
         const BOOL same_color = color == look.color || [color isEqual:look.color];
@@ -71,34 +65,21 @@ static NSColor* text_color(NSControl* control) {
 
 - (void)displayIfNeeded {
     [self prepareState];
-    [self drawWhatLooksDifferent];
+    [self invalidateChangedLooks];
     if (NSIsEmptyRect(_state->dirty)) return;
     const NSRect dirty = NSIntersectionRect(
         whole_pixels(_state->dirty, _state->scale, _frame.size.height), [_borderView frame]);
     _state->dirty = NSZeroRect;
     if (NSIsEmptyRect(dirty)) return;
-    if ([self isTransparent]) {
-        // Blended windows are small: they are drawn anew as a whole, on nothing.
-        std::fill(_state->pixels.begin(), _state->pixels.end(), 0);
-        cocoa::draw_tree(_borderView, _state->pixels.data(), _state->width, _state->height,
-                         _state->scale, [_borderView frame]);
-    } else {
-        cocoa::draw_tree(_borderView, _state->pixels.data(), _state->width, _state->height,
-                         _state->scale, dirty);
-    }
+    // Transparent windows are small: they are cleared and drawn as a whole.
+    if ([self isTransparent]) std::fill(_state->pixels.begin(), _state->pixels.end(), 0);
+    cocoa::draw_tree(_borderView, _state->pixels.data(), _state->width, _state->height,
+                     _state->scale, [self isTransparent] ? [_borderView frame] : dirty);
     WindowServer::shared().screen_needs_update();
 }
 
 - (void)setViewsNeedDisplay:(BOOL)flag {
-    if (flag)
-        [self addDirtyRect:[_borderView frame]];
-    else
-        _state->dirty = NSZeroRect;
-}
-
-- (void)display {
-    [self setViewsNeedDisplay:YES];
-    [self displayIfNeeded];
+    if (flag) [self addDirtyRect:[_borderView frame]];
 }
 
 - (void)flushWindow {

@@ -1,6 +1,10 @@
 // Who in a window has the focus, and where its events go.
-#include "Internal.h"
+#include "NSViewPrivate.h"
+#include "NSWindowPrivate.h"
 
+#include <AppKit/NSApplication.h>
+#include <AppKit/NSColor.h>
+#include <AppKit/NSMenu.h>
 #include <AppKit/NSText.h>
 
 @implementation NSWindow (NSWindowResponder)
@@ -15,7 +19,7 @@
     [old retain];
     [responder retain];
     BOOL done = old == self || [old resignFirstResponder];
-    // What resigning set off (a text's action) may have moved the focus itself: that one goes too.
+    // Resigning may run code (a text's action) that moves the focus: the new one resigns too.
     for (int tries = 0; done && _firstResponder != old && _firstResponder != self && tries < 8;
          ++tries) {
         if (_firstResponder == responder) break;
@@ -44,8 +48,11 @@
 }
 
 - (void)viewWillLeave:(NSView*)view {
-    [self forgetLooksOf:view];
-    if (_mouseView == view) _mouseView = nil;
+    std::erase_if(_state->looks, [view](const NSWindowState::Look& look) {
+        if (look.control != (NSControl*)view) return false;
+        [look.color release];
+        return true;
+    });
     if (_initialFirstResponder == view) _initialFirstResponder = nil;
     if (_contentView == view) _contentView = nil;
     if (_firstResponder == view) {
@@ -54,9 +61,6 @@
     }
 }
 
-- (NSView*)initialFirstResponder {
-    return _initialFirstResponder;
-}
 - (void)setInitialFirstResponder:(NSView*)view {
     _initialFirstResponder = view;
 }
@@ -67,21 +71,21 @@
     if (next) [self makeFirstResponder:next];
 }
 
-// The view from which Tab goes on: a text being edited counts as its field.
+// A text being edited counts as its field.
 - (NSView*)focusView {
     if (_firstResponder == self || ![_firstResponder isKindOfClass:[NSView class]]) return nil;
     if (_fieldEditor && _firstResponder == _fieldEditor) return [_fieldEditor superview];
     return (NSView*)_firstResponder;
 }
 
-- (void)selectNextKeyView:(id)__attribute__((unused))sender {
+- (void)selectNextKeyView {
     NSView* view = [self focusView];
     if (!view && [_initialFirstResponder canBecomeKeyView])
         [self makeFirstResponder:_initialFirstResponder];
     else
         [self selectKeyViewAfter:view ? view : _borderView forward:YES];
 }
-- (void)selectPreviousKeyView:(id)__attribute__((unused))sender {
+- (void)selectPreviousKeyView {
     NSView* view = [self focusView];
     [self selectKeyViewAfter:view ? view : _borderView forward:NO];
 }
@@ -94,65 +98,32 @@
     if (_fieldEditor && _firstResponder == _fieldEditor) [self makeFirstResponder:nil];
 }
 
-- (BOOL)acceptsMouseMovedEvents {
-    return _acceptsMouseMoved;
-}
-- (void)setAcceptsMouseMovedEvents:(BOOL)flag {
-    _acceptsMouseMoved = !!flag;
-}
-
-// The view under the mouse when a button goes down gets all until it comes up. The view in the
-// window's border is asked first, so that the title bar works.
 - (void)sendMouseDown:(NSEvent*)event {
     if (_level < NSPopUpMenuWindowLevel) {
         if (![self isKeyWindow]) [self makeKeyWindow];
         [self orderFront:self];
     }
-    NSView* view = [_borderView hitTest:[event locationInWindow]];
-    _mouseView = view;
+    NSView* view = [[[_borderView hitTest:[event locationInWindow]] retain] autorelease];
     if (view != _firstResponder && [view takesFocusOnClick] && [view acceptsFirstResponder])
         [self makeFirstResponder:view];
-    if (_mouseView == view) [view mouseDown:event];
+    // Moving the focus may have taken it out of the window.
+    if ([view window] == self) [view mouseDown:event];
 }
 
 - (void)sendEvent:(NSEvent*)event {
     [[self retain] autorelease];
-    [[_mouseView retain] autorelease];
-    NSView* under = nil;
     switch ([event type]) {
     case NSLeftMouseDown:
         [self sendMouseDown:event];
         break;
-    case NSLeftMouseDragged:
-        [_mouseView mouseDragged:event];
-        break;
-    case NSLeftMouseUp: {
-        NSView* view = _mouseView;
-        _mouseView = nil;
-        [view mouseUp:event];
-        break;
-    }
     case NSRightMouseDown:
         [[_borderView hitTest:[event locationInWindow]] rightMouseDown:event];
         break;
-    case NSRightMouseDragged:
-        [[_borderView hitTest:[event locationInWindow]] rightMouseDragged:event];
-        break;
-    case NSRightMouseUp:
-        [[_borderView hitTest:[event locationInWindow]] rightMouseUp:event];
-        break;
-    case NSMouseMoved:
-        [_firstResponder mouseMoved:event];
-        break;
     case NSScrollWheel:
-        under = [_borderView hitTest:[event locationInWindow]];
-        [under scrollWheel:event];
+        [[_borderView hitTest:[event locationInWindow]] scrollWheel:event];
         break;
     case NSKeyDown:
         [_firstResponder keyDown:event];
-        break;
-    case NSKeyUp:
-        [_firstResponder keyUp:event];
         break;
     }
 }
@@ -161,25 +132,15 @@
     return [_borderView performKeyEquivalent:event];
 }
 
-// What no view took: Tab moves the focus, everything else may be the key equivalent of a button or
-// of a menu item that asks for no modifier.
+// Keys that no view took: Tab moves the focus, all others may be the key equivalent of a button.
 - (void)keyDown:(NSEvent*)event {
     NSString* characters = [event characters];
     const unichar character = [characters length] ? [characters characterAtIndex:0] : 0;
     if (character == NSTabCharacter && !([event modifierFlags] & NSShiftKeyMask))
-        [self selectNextKeyView:self];
+        [self selectNextKeyView];
     else if (character == NSTabCharacter || character == NSBackTabCharacter)
-        [self selectPreviousKeyView:self];
-    else if (![self performKeyEquivalent:event] &&
-             ([NSApp modalWindow] || ![[NSApp mainMenu] performKeyEquivalent:event]))
-        [super keyDown:event];
-}
-
-// The end of the chain of views.
-- (BOOL)tryToPerform:(SEL)action with:(id)object {
-    if ([super tryToPerform:action with:object]) return YES;
-    if (![(id)_delegate respondsToSelector:action]) return NO;
-    [(id)_delegate performSelector:action withObject:object];
-    return YES;
+        [self selectPreviousKeyView];
+    else
+        [self performKeyEquivalent:event];
 }
 @end

@@ -1,15 +1,14 @@
-// The looks of what AppKit itself draws: named colours, dark or light, and sizes.
+// The look of what AppKit draws: named colours, dark or light, fonts, sizes and shapes.
 #pragma once
 
-#include <Foundation/NSGeometry.h>
+#include <AppKit/NSParagraphStyle.h>
 
-@class NSColor, NSDictionary, NSFont, NSString;
+@class NSColor, NSFont;
 
 namespace cocoa::theme {
 
 void use_light(bool flag); // dark at first
 
-NSColor* desktop();
 NSColor* window();
 NSColor* title_bar(bool key);
 NSColor* outline();
@@ -36,12 +35,13 @@ constexpr double menu_row_height = 20;
 constexpr double menu_separator_height = 9;
 constexpr double ring_width = 2;
 
-// One line of text at the left (0), right (1) or middle (2) of the rectangle, in the middle of its
-// height; for flipped and other views alike.
-void draw_line(NSString* text, NSRect rect, NSFont* font, NSColor* color, unsigned alignment);
+// One line of text, in the middle of the rectangle's height, flipped or not.
+void draw_line(NSString* text, NSRect rect, NSFont* font, NSColor* color,
+               NSTextAlignment alignment);
 NSSize measure(NSString* text, NSFont* font);
 
-// A rectangle with round corners, filled and, with a colour, outlined by a line of width 1 inside.
+// A rectangle with round corners, filled, and outlined by a line of width 1 inside; nil for either
+// leaves it out.
 void draw_round(NSRect rect, double radius, NSColor* fill, NSColor* line);
 
 } // namespace cocoa::theme

@@ -21,9 +21,6 @@ static NSColor* either(unsigned dark_hex, unsigned light_hex) {
     return rgb(light ? light_hex : dark_hex);
 }
 
-NSColor* desktop() {
-    return either(0x141416, 0x8e8e93);
-}
 NSColor* window() {
     return either(0x262628, 0xececee);
 }
@@ -94,11 +91,14 @@ NSSize measure(NSString* text, NSFont* font) {
                                      dictionaryWithObjectsAndKeys:font, NSFontAttributeName, nil]];
 }
 
-void draw_line(NSString* text, NSRect rect, NSFont* font, NSColor* color, unsigned alignment) {
+void draw_line(NSString* text, NSRect rect, NSFont* font, NSColor* color,
+               NSTextAlignment alignment) {
     if ([text length] == 0) return;
     const NSSize size = measure(text, font);
     const double room = rect.size.width - size.width;
-    const double x = alignment == 1 ? room : alignment == 2 ? room / 2 : 0;
+    const double x = alignment == NSRightTextAlignment    ? room
+                     : alignment == NSCenterTextAlignment ? room / 2
+                                                          : 0;
     const double y = (rect.size.height - size.height) / 2;
     [text drawAtPoint:NSMakePoint(rect.origin.x + x, rect.origin.y + y)
         withAttributes:attributes(font, color)];

@@ -1,5 +1,5 @@
-// Which windows there are, how they lie on the screen, and which of them an event of the display
-// is for. One for the process; it lives on a headless display until another is chosen.
+// All windows, their order on the screen, and which of them an event of the display is for. One for
+// the process; it uses a headless display until another is chosen.
 #pragma once
 
 #include "display/Display.h"
@@ -16,34 +16,33 @@ class WindowServer {
   public:
     static WindowServer& shared();
 
-    Display& display() { return *display_; }
+    Display& display() { return *_display; }
     void set_display(std::unique_ptr<Display> display);
     NSSize screen_size() const;
-    double scale() const { return display_->scale(); }
+    double scale() const { return _display->scale(); }
 
-    // Windows, none of them retained. A number is never used twice.
+    // Windows are not retained. Their numbers are never reused.
     NSInteger add(NSWindow* window);
     void remove(NSWindow* window);
-    const std::vector<NSWindow*>& all() const { return all_; }
-    const std::vector<NSWindow*>& ordered() const { return ordered_; } // front to back
+    const std::vector<NSWindow*>& all() const { return _all; }
+    const std::vector<NSWindow*>& ordered() const { return _ordered; } // front to back
     NSWindow* window_with_number(NSInteger number) const;
-    NSWindow* window_at(NSPoint screen) const; // nil: none
+    NSWindow* window_at(NSPoint screen) const; // nil if there is none
 
     // Among the windows of its level.
     void order_front(NSWindow* window);
     void order_back(NSWindow* window);
     void order_out(NSWindow* window);
 
-    // nil for what is nobody's business: movements that nobody follows, a change of the screen.
+    // nil when no window needs to know: movements that nobody follows, a change of the screen.
     NSEvent* translate(const DisplayEvent& event);
-    NSPoint mouse_location() const { return mouse_; }
-    void follow_moves(bool on) { moves_ += on ? 1 : -1; }
+    void follow_moves(bool on) { _moves += on ? 1 : -1; }
 
-    // Draws the windows that need it and brings them to the display, if anybody sees it.
+    // Draws the windows that need it and presents the screen, if anybody sees it.
     void update();
-    void screen_needs_update() { stale_ = true; }
-    unsigned long frames() const { return frames_; }
-    // The screen as it looks: RGBA, rows top to bottom.
+    void screen_needs_update() { _stale = true; }
+    unsigned long frames() const { return _frames; }
+    // The screen's pixels: RGBA, rows top to bottom.
     std::vector<unsigned char> compose(int& width, int& height);
 
   private:
@@ -52,20 +51,17 @@ class WindowServer {
     NSEvent* translate_key(const DisplayEvent& event);
     void screen_changed();
 
-    std::unique_ptr<Display> display_;
-    std::vector<NSWindow*> all_;
-    std::vector<NSWindow*> ordered_;
-    NSInteger next_number_ = 1;
-    NSInteger next_event_ = 1;
-    NSInteger captured_ = 0; // number of the window that the pressed button belongs to
-    bool pressed_ = false;
-    bool right_pressed_ = false;
-    int moves_ = 0;
-    bool stale_ = true;
-    std::vector<unsigned char>
-        shown_; // what the display has; empty when it must get the screen anew
-    unsigned long frames_ = 0;
-    NSPoint mouse_ = {0, 0};
+    std::unique_ptr<Display> _display;
+    std::vector<NSWindow*> _all;
+    std::vector<NSWindow*> _ordered;
+    NSInteger _next_number = 1;
+    NSInteger _captured = 0; // number of the window that the pressed button belongs to
+    bool _pressed = false;
+    bool _right_pressed = false;
+    int _moves = 0;
+    bool _stale = true;
+    std::vector<unsigned char> _shown; // what was presented last; empty after a change of display
+    unsigned long _frames = 0;
 };
 
 } // namespace cocoa

@@ -1,17 +1,17 @@
-#include "Context.h"
+#include "CairoContext.h"
 
 #include <climits>
 #include <cstdint>
 #include <cstring>
 #include <memory>
 
-using graphics::Context;
+using graphics::CairoContext;
 using graphics::context_of;
 using graphics::Pixels;
 
 @interface CGBitmapContextObject : NSObject {
   @public
-    Context* _context;
+    CairoContext* _context;
 }
 @end
 
@@ -28,32 +28,24 @@ constexpr size_t most_pixels = 32767; // cairo's limit
 
 bool supported(const void* data, size_t width, size_t height, size_t bytes_per_row) {
     if (width < 1 || height < 1 || width > most_pixels || height > most_pixels) return false;
-    return bytes_per_row >= 4 * width && bytes_per_row % 4 == 0 &&
-           bytes_per_row <= INT_MAX / height && reinterpret_cast<uintptr_t>(data) % 4 == 0;
-}
-
-bool supported(size_t bits_per_component, CGColorSpaceRef space, CGBitmapInfo info) {
-    return bits_per_component == 8 && space &&
-           (info == kCGImageAlphaPremultipliedLast ||
-            info == (CGBitmapInfo(kCGImageAlphaPremultipliedLast) | kCGBitmapByteOrder32Big));
+    return data && reinterpret_cast<uintptr_t>(data) % 4 == 0 && bytes_per_row >= 4 * width &&
+           bytes_per_row % 4 == 0 && bytes_per_row <= INT_MAX / height;
 }
 
 } // namespace
 
-graphics::Context* graphics::context_of(CGContextRef reference) {
+graphics::CairoContext* graphics::context_of(CGContextRef reference) {
     return reference ? reinterpret_cast<CGBitmapContextObject*>(reference)->_context : nullptr;
 }
 
 CGContextRef CGBitmapContextCreate(void* data, size_t width, size_t height, size_t bitsPerComponent,
                                    size_t bytesPerRow, CGColorSpaceRef space, CGBitmapInfo info) {
-    if (!data && bytesPerRow == 0 && width <= most_pixels) bytesPerRow = 4 * width;
     if (!supported(data, width, height, bytesPerRow)) return nullptr;
-    if (!supported(bitsPerComponent, space, info)) return nullptr;
-    auto context = std::make_unique<Context>();
+    if (bitsPerComponent != 8 || !space || info != kCGImageAlphaPremultipliedLast) return nullptr;
+    auto context = std::make_unique<CairoContext>();
     if (!context->pixels.make(static_cast<unsigned char*>(data), width, height, bytesPerRow))
         return nullptr;
     context->cairo = cairo_create(context->pixels.surface);
-    context->space = CGColorSpaceRetain(space);
     cairo_set_line_width(context->cairo, 1);
     cairo_set_tolerance(context->cairo, 0.03); // small circles stay round
     context->apply_ctm();
@@ -62,20 +54,12 @@ CGContextRef CGBitmapContextCreate(void* data, size_t width, size_t height, size
     return (CGContextRef)made;
 }
 
-void* CGBitmapContextGetData(CGContextRef context) {
-    return context ? context_of(context)->pixels.data : nullptr;
-}
-
 size_t CGBitmapContextGetWidth(CGContextRef context) {
     return context ? context_of(context)->pixels.width : 0;
 }
 
 size_t CGBitmapContextGetHeight(CGContextRef context) {
     return context ? context_of(context)->pixels.height : 0;
-}
-
-size_t CGBitmapContextGetBytesPerRow(CGContextRef context) {
-    return context ? context_of(context)->pixels.bytes_per_row : 0;
 }
 
 CGImageRef CGBitmapContextCreateImage(CGContextRef context) {

@@ -1,20 +1,15 @@
 // The graphics state of contexts.
-#include "Context.h"
+#include "CairoContext.h"
 
 #include <algorithm>
 #include <cmath>
 
-using graphics::Color;
-using graphics::Context;
+using graphics::CairoContext;
 using graphics::context_of;
 
 namespace {
 
-double clamped(double component) {
-    return std::isnan(component) ? 0 : std::clamp(component, 0.0, 1.0);
-}
-
-// Cairo counts pixels downwards from the top in 24.8 fixed point.
+// In pixels: cairo's coordinates are 24.8 fixed point.
 constexpr double farthest = 4'000'000;
 
 double brought_near(double device) {
@@ -25,13 +20,16 @@ double brought_near(double device) {
 
 namespace graphics {
 
-Context::~Context() {
-    if (cairo) cairo_destroy(cairo);
-    CGColorSpaceRelease(space);
+double clamped(double component) {
+    return std::isnan(component) ? 0 : std::clamp(component, 0.0, 1.0);
 }
 
-void Context::apply_ctm() {
-    const CGAffineTransform& t = state().ctm;
+CairoContext::~CairoContext() {
+    if (cairo) cairo_destroy(cairo);
+}
+
+void CairoContext::apply_ctm() {
+    const auto& t = state().ctm;
     // The context's y points up, cairo's down.
     const cairo_matrix_t matrix = {t.a,  -t.b, t.c,
                                    -t.d, t.tx, static_cast<double>(pixels.height) - t.ty};
@@ -41,11 +39,11 @@ void Context::apply_ctm() {
     if (state().drawable) cairo_set_matrix(cairo, &matrix);
 }
 
-void Context::use(Color color) {
-    cairo_set_source_rgba(cairo, color.blue, color.green, color.red, color.alpha * state().alpha);
+void CairoContext::use(Color color) {
+    cairo_set_source_rgba(cairo, color.blue, color.green, color.red, color.alpha);
 }
 
-CGPoint Context::safe(double x, double y) const {
+CGPoint CairoContext::safe(double x, double y) const {
     double device_x = std::isfinite(x) ? x : 0, device_y = std::isfinite(y) ? y : 0;
     const CGPoint given = {device_x, device_y};
     cairo_user_to_device(cairo, &device_x, &device_y);
@@ -67,69 +65,52 @@ void CGContextRelease(CGContextRef context) {
 }
 
 void CGContextSaveGState(CGContextRef context) {
-    Context* c = context_of(context);
+    CairoContext* c = context_of(context);
     if (!c) return;
     cairo_save(c->cairo);
     c->states.push_back(c->state());
 }
 
 void CGContextRestoreGState(CGContextRef context) {
-    Context* c = context_of(context);
+    CairoContext* c = context_of(context);
     if (!c || c->states.size() == 1) return;
     c->states.pop_back();
     cairo_restore(c->cairo);
 }
 
-void CGContextConcatCTM(CGContextRef context, CGAffineTransform transform) {
-    Context* c = context_of(context);
+void CGContextScaleCTM(CGContextRef context, CGFloat sx, CGFloat sy) {
+    CairoContext* c = context_of(context);
     if (!c) return;
-    c->state().ctm = CGAffineTransformConcat(transform, c->state().ctm);
+    auto& t = c->state().ctm;
+    t = {sx * t.a, sx * t.b, sy * t.c, sy * t.d, t.tx, t.ty};
     c->apply_ctm();
 }
 
-void CGContextScaleCTM(CGContextRef context, CGFloat sx, CGFloat sy) {
-    CGContextConcatCTM(context, CGAffineTransformMakeScale(sx, sy));
-}
-
 void CGContextTranslateCTM(CGContextRef context, CGFloat tx, CGFloat ty) {
-    CGContextConcatCTM(context, CGAffineTransformMakeTranslation(tx, ty));
-}
-
-void CGContextRotateCTM(CGContextRef context, CGFloat angle) {
-    CGContextConcatCTM(context, CGAffineTransformMakeRotation(angle));
-}
-
-CGAffineTransform CGContextGetCTM(CGContextRef context) {
-    Context* c = context_of(context);
-    return c ? c->state().ctm : CGAffineTransformIdentity;
+    CairoContext* c = context_of(context);
+    if (!c) return;
+    auto& t = c->state().ctm;
+    t.tx = tx * t.a + ty * t.c + t.tx;
+    t.ty = tx * t.b + ty * t.d + t.ty;
+    c->apply_ctm();
 }
 
 void CGContextSetRGBFillColor(CGContextRef context, CGFloat red, CGFloat green, CGFloat blue,
                               CGFloat alpha) {
-    if (Context* c = context_of(context))
-        c->state().fill = {clamped(red), clamped(green), clamped(blue), clamped(alpha)};
+    if (CairoContext* c = context_of(context))
+        c->state().fill = {graphics::clamped(red), graphics::clamped(green),
+                           graphics::clamped(blue), graphics::clamped(alpha)};
 }
 
 void CGContextSetRGBStrokeColor(CGContextRef context, CGFloat red, CGFloat green, CGFloat blue,
                                 CGFloat alpha) {
-    if (Context* c = context_of(context))
-        c->state().stroke = {clamped(red), clamped(green), clamped(blue), clamped(alpha)};
-}
-
-void CGContextSetGrayFillColor(CGContextRef context, CGFloat gray, CGFloat alpha) {
-    CGContextSetRGBFillColor(context, gray, gray, gray, alpha);
-}
-
-void CGContextSetGrayStrokeColor(CGContextRef context, CGFloat gray, CGFloat alpha) {
-    CGContextSetRGBStrokeColor(context, gray, gray, gray, alpha);
-}
-
-void CGContextSetAlpha(CGContextRef context, CGFloat alpha) {
-    if (Context* c = context_of(context)) c->state().alpha = clamped(alpha);
+    if (CairoContext* c = context_of(context))
+        c->state().stroke = {graphics::clamped(red), graphics::clamped(green),
+                             graphics::clamped(blue), graphics::clamped(alpha)};
 }
 
 void CGContextSetBlendMode(CGContextRef context, CGBlendMode mode) {
-    Context* c = context_of(context);
+    CairoContext* c = context_of(context);
     if (!c) return;
     cairo_set_operator(c->cairo, mode == kCGBlendModeCopy    ? CAIRO_OPERATOR_SOURCE
                                  : mode == kCGBlendModeClear ? CAIRO_OPERATOR_CLEAR
@@ -137,47 +118,18 @@ void CGContextSetBlendMode(CGContextRef context, CGBlendMode mode) {
 }
 
 void CGContextSetShouldAntialias(CGContextRef context, bool shouldAntialias) {
-    if (Context* c = context_of(context))
+    if (CairoContext* c = context_of(context))
         cairo_set_antialias(c->cairo,
                             shouldAntialias ? CAIRO_ANTIALIAS_DEFAULT : CAIRO_ANTIALIAS_NONE);
 }
 
 void CGContextSetLineWidth(CGContextRef context, CGFloat width) {
-    Context* c = context_of(context);
+    CairoContext* c = context_of(context);
     if (c && width > 0 && std::isfinite(width)) cairo_set_line_width(c->cairo, width);
 }
 
-void CGContextSetLineCap(CGContextRef context, CGLineCap cap) {
-    if (Context* c = context_of(context))
-        cairo_set_line_cap(c->cairo, cap == kCGLineCapRound    ? CAIRO_LINE_CAP_ROUND
-                                     : cap == kCGLineCapSquare ? CAIRO_LINE_CAP_SQUARE
-                                                               : CAIRO_LINE_CAP_BUTT);
-}
-
 void CGContextSetLineJoin(CGContextRef context, CGLineJoin join) {
-    if (Context* c = context_of(context))
-        cairo_set_line_join(c->cairo, join == kCGLineJoinRound   ? CAIRO_LINE_JOIN_ROUND
-                                      : join == kCGLineJoinBevel ? CAIRO_LINE_JOIN_BEVEL
-                                                                 : CAIRO_LINE_JOIN_MITER);
-}
-
-void CGContextSetMiterLimit(CGContextRef context, CGFloat limit) {
-    Context* c = context_of(context);
-    if (c && std::isfinite(limit)) cairo_set_miter_limit(c->cairo, limit);
-}
-
-void CGContextSetLineDash(CGContextRef context, CGFloat phase, const CGFloat* lengths,
-                          size_t count) {
-    Context* c = context_of(context);
-    if (!c) return;
-    double total = 0;
-    bool valid = lengths && count > 0 && count < 1000 && std::isfinite(phase);
-    for (size_t i = 0; valid && i < count; ++i) {
-        valid = lengths[i] >= 0 && std::isfinite(lengths[i]);
-        total += lengths[i];
-    }
-    const CGAffineTransform& t = c->state().ctm;
-    const double scale = std::sqrt(std::abs(t.a * t.d - t.b * t.c));
-    valid = valid && total * scale > 0.01;
-    cairo_set_dash(c->cairo, lengths, valid ? static_cast<int>(count) : 0, valid ? phase : 0);
+    if (CairoContext* c = context_of(context))
+        cairo_set_line_join(c->cairo, join == kCGLineJoinRound ? CAIRO_LINE_JOIN_ROUND
+                                                               : CAIRO_LINE_JOIN_MITER);
 }

@@ -1,4 +1,4 @@
-#include "Context.h"
+#include "CairoContext.h"
 
 #include <cstdlib>
 
@@ -37,11 +37,10 @@ bool Pixels::make(unsigned char* given, size_t w, size_t h, size_t row) {
 }
 
 const Pixels* pixels_of(CGImageRef image) {
-    return image ? reinterpret_cast<CGPixelImage*>(image)->_pixels : nullptr;
+    return reinterpret_cast<CGPixelImage*>(image)->_pixels;
 }
 
 CGImageRef make_image(Pixels* pixels) {
-    if (!pixels) return nullptr;
     CGPixelImage* image = [[CGPixelImage alloc] init];
     image->_pixels = pixels;
     return (CGImageRef)image;
@@ -49,18 +48,6 @@ CGImageRef make_image(Pixels* pixels) {
 
 } // namespace graphics
 
-CGImageRef CGImageRetain(CGImageRef image) {
-    return (CGImageRef)[(id)image retain];
-}
-
 void CGImageRelease(CGImageRef image) {
     [(id)image release];
-}
-
-size_t CGImageGetWidth(CGImageRef image) {
-    return image ? graphics::pixels_of(image)->width : 0;
-}
-
-size_t CGImageGetHeight(CGImageRef image) {
-    return image ? graphics::pixels_of(image)->height : 0;
 }

@@ -27,15 +27,11 @@ thread_local NSAutoreleasePool* innermost = nil;
 
 + (void)addObject:(id)object {
     if (innermost) {
-        [innermost addObject:object];
+        innermost->_objects->waiting.push_back(object);
         return;
     }
     fprintf(stderr, "*** Object %p of class %s autoreleased with no pool in place - just leaking\n",
             (void*)object, object_getClassName(object));
-}
-
-- (void)addObject:(id)object {
-    if (object) _objects->waiting.push_back(object);
 }
 
 - (void)drain {
@@ -44,7 +40,7 @@ thread_local NSAutoreleasePool* innermost = nil;
 
 - (void)dealloc {
     while (innermost && innermost != self) [innermost drain];
-    // A released object may autorelease others: they land here while this pool is the innermost.
+    // Released objects may autorelease others, into this pool while it is the innermost one.
     while (!_objects->waiting.empty()) {
         std::vector<id> batch;
         batch.swap(_objects->waiting);

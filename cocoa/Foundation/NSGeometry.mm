@@ -1,16 +1,17 @@
 #include <Foundation/NSGeometry.h>
 
 #include <algorithm>
-#include <cmath>
+
+// Between a lower left and an upper right corner.
+static NSRect spanning(CGFloat left, CGFloat bottom, CGFloat right, CGFloat top) {
+    return NSMakeRect(left, bottom, right - left, top - bottom);
+}
 
 BOOL NSEqualPoints(NSPoint a, NSPoint b) {
-    return CGPointEqualToPoint(a, b);
+    return a.x == b.x && a.y == b.y;
 }
 BOOL NSEqualSizes(NSSize a, NSSize b) {
-    return CGSizeEqualToSize(a, b);
-}
-BOOL NSEqualRects(NSRect a, NSRect b) {
-    return CGPointEqualToPoint(a.origin, b.origin) && CGSizeEqualToSize(a.size, b.size);
+    return a.width == b.width && a.height == b.height;
 }
 BOOL NSIsEmptyRect(NSRect r) {
     return !(r.size.width > 0 && r.size.height > 0);
@@ -25,39 +26,18 @@ NSRect NSOffsetRect(NSRect r, CGFloat dx, CGFloat dy) {
     return NSMakeRect(r.origin.x + dx, r.origin.y + dy, r.size.width, r.size.height);
 }
 
-NSRect NSIntegralRect(NSRect r) {
-    return NSIsEmptyRect(r) ? NSZeroRect : CGRectIntegral(r);
-}
-
 NSRect NSUnionRect(NSRect a, NSRect b) {
     if (NSIsEmptyRect(a)) return NSIsEmptyRect(b) ? NSZeroRect : b;
-    return NSIsEmptyRect(b) ? a : CGRectUnion(a, b);
+    if (NSIsEmptyRect(b)) return a;
+    return spanning(std::min(NSMinX(a), NSMinX(b)), std::min(NSMinY(a), NSMinY(b)),
+                    std::max(NSMaxX(a), NSMaxX(b)), std::max(NSMaxY(a), NSMaxY(b)));
 }
 
 NSRect NSIntersectionRect(NSRect a, NSRect b) {
     if (NSIsEmptyRect(a) || NSIsEmptyRect(b)) return NSZeroRect;
-    const NSRect common = CGRectIntersection(a, b);
-    return CGRectIsNull(common) ? NSZeroRect : common;
-}
-
-void NSDivideRect(NSRect rect, NSRect* slice, NSRect* remainder, CGFloat amount, NSRectEdge edge) {
-    const bool horizontal = edge == NSMinXEdge || edge == NSMaxXEdge;
-    const CGFloat whole = horizontal ? rect.size.width : rect.size.height;
-    const CGFloat cut = std::clamp(amount, 0.0, std::max(whole, 0.0));
-    NSRect first = rect, second = rect; // first is at the smaller coordinate
-    const CGFloat at = edge == NSMinXEdge || edge == NSMinYEdge ? cut : whole - cut;
-    if (horizontal) {
-        first.size.width = at;
-        second.origin.x += at;
-        second.size.width = whole - at;
-    } else {
-        first.size.height = at;
-        second.origin.y += at;
-        second.size.height = whole - at;
-    }
-    const bool from_start = edge == NSMinXEdge || edge == NSMinYEdge;
-    *slice = from_start ? first : second;
-    *remainder = from_start ? second : first;
+    const NSRect common = spanning(std::max(NSMinX(a), NSMinX(b)), std::max(NSMinY(a), NSMinY(b)),
+                                   std::min(NSMaxX(a), NSMaxX(b)), std::min(NSMaxY(a), NSMaxY(b)));
+    return NSIsEmptyRect(common) ? NSZeroRect : common;
 }
 
 BOOL NSMouseInRect(NSPoint p, NSRect r, BOOL flipped) {
@@ -67,14 +47,4 @@ BOOL NSMouseInRect(NSPoint p, NSRect r, BOOL flipped) {
 
 BOOL NSPointInRect(NSPoint point, NSRect rect) {
     return NSMouseInRect(point, rect, YES);
-}
-
-BOOL NSContainsRect(NSRect outer, NSRect inner) {
-    return !NSIsEmptyRect(inner) && NSMinX(outer) <= NSMinX(inner) &&
-           NSMinY(outer) <= NSMinY(inner) && NSMaxX(outer) >= NSMaxX(inner) &&
-           NSMaxY(outer) >= NSMaxY(inner);
-}
-
-BOOL NSIntersectsRect(NSRect a, NSRect b) {
-    return !NSIsEmptyRect(NSIntersectionRect(a, b));
 }

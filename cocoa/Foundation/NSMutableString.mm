@@ -1,32 +1,22 @@
-#include "StringText.h"
+#include "NSStringStorage.h"
 
 #include <Foundation/NSException.h>
 
 @implementation NSMutableString
 
-+ (id)stringWithCapacity:(NSUInteger)capacity {
-    return [[[self alloc] initWithCapacity:capacity] autorelease];
-}
-
-- (id)initWithText:(std::string*)text {
-    if (!_text) _text = new NSStringText;
-    _text->set(std::move(*text));
-    return self;
-}
-
-- (id)initWithCapacity:(NSUInteger)capacity {
-    self = [self init];
-    _text->bytes.reserve(capacity);
+- (id)initWithUTF8:(std::string*)text {
+    if (!_storage) _storage = new NSStringStorage;
+    _storage->set(std::move(*text));
     return self;
 }
 
 - (void)dealloc {
-    delete _text;
+    delete _storage;
     [super dealloc];
 }
 
-- (NSTextView)textView {
-    return {_text->bytes.c_str(), _text->bytes.size(), _text->units};
+- (UTF8View)utf8View {
+    return {_storage->bytes.c_str(), _storage->bytes.size(), _storage->units};
 }
 
 - (id)copyWithZone:(NSZone*)zone {
@@ -34,37 +24,12 @@
 }
 
 - (NSString*)description {
-    return [NSString stringWithString:self];
+    return [[self copy] autorelease];
 }
 
 - (void)setString:(NSString*)string {
     if (!string) [NSException raise:NSInvalidArgumentException format:@"nil string"];
-    _text->set(std::string(text_of(string)));
-}
-
-- (void)appendString:(NSString*)string {
-    if (!string) [NSException raise:NSInvalidArgumentException format:@"nil string"];
-    const NSUInteger units = _text->units + [string length];
-    _text->bytes += std::string(text_of(string)); // a copy, for it may be this string
-    _text->units = units;
-}
-
-- (void)appendFormat:(NSString*)format, ... {
-    if (!format) [NSException raise:NSInvalidArgumentException format:@"nil format"];
-    va_list arguments;
-    va_start(arguments, format);
-    const std::string text = formatted(format, arguments);
-    va_end(arguments);
-    _text->bytes += text;
-    _text->units += encodings::utf16_length(text);
-}
-
-- (void)insertString:(NSString*)string atIndex:(NSUInteger)index {
-    [self replaceCharactersInRange:NSMakeRange(index, 0) withString:string];
-}
-
-- (void)deleteCharactersInRange:(NSRange)range {
-    [self replaceCharactersInRange:range withString:@""];
+    _storage->set(std::string(utf8_of(string)));
 }
 
 - (void)replaceCharactersInRange:(NSRange)range withString:(NSString*)string {
@@ -72,10 +37,10 @@
     NSString* before = [self substringToIndex:range.location];
     NSString* rest = [self substringFromIndex:range.location];
     NSString* after = [rest substringFromIndex:range.length];
-    std::string text(text_of(before));
-    text += text_of(string);
-    text += text_of(after);
-    _text->set(std::move(text));
+    std::string text(utf8_of(before));
+    text += utf8_of(string);
+    text += utf8_of(after);
+    _storage->set(std::move(text));
 }
 
 @end

@@ -1,5 +1,6 @@
 // Formats: printf's conversions through the C library, one at a time, and those of Foundation.
-#include "StringText.h"
+#include "NSStringStorage.h"
+#include "TextEncoding.h"
 
 #include <cstdio>
 #include <cstring>
@@ -75,13 +76,12 @@ void print_c_string(std::string& out, const Conversion& c, Arguments& arguments)
     const char* bytes = va_arg(arguments.list, const char*);
     std::string cut;
     print(cut, c.directive + "s", bytes ? bytes : "(null)");
-    const auto encoding = encoding_of([NSString defaultCStringEncoding]);
-    out += *encodings::decode(cut, *encoding); // every byte is a character there
+    out += text_encoding::from_mac_roman(cut);
 }
 
 void print_object(std::string& out, Arguments& arguments) {
     id object = va_arg(arguments.list, id);
-    out += object ? text_of([object description]) : std::string_view("(null)");
+    out += object ? utf8_of([object description]) : std::string_view("(null)");
 }
 
 void print_conversion(std::string& out, const Conversion& c, Arguments& arguments) {
@@ -118,7 +118,7 @@ void print_conversion(std::string& out, const Conversion& c, Arguments& argument
         break;
     case 'C': {
         const char16_t unit = static_cast<char16_t>(va_arg(arguments.list, int));
-        out += encodings::from_utf16({&unit, 1});
+        out += text_encoding::from_utf16({&unit, 1});
         break;
     }
     case 's':
@@ -127,7 +127,7 @@ void print_conversion(std::string& out, const Conversion& c, Arguments& argument
     case 'p':
         print(out, c.directive + "p", va_arg(arguments.list, void*));
         break;
-    default: // no conversion: it stands for itself
+    default: // not a conversion: printed as it is
         out += c.directive + c.length;
         if (c.type) out += c.type;
     }
@@ -138,7 +138,7 @@ void print_conversion(std::string& out, const Conversion& c, Arguments& argument
 std::string formatted(NSString* format, va_list given) {
     Arguments arguments;
     va_copy(arguments.list, given);
-    const std::string_view text = text_of(format);
+    const std::string_view text = utf8_of(format);
     std::string out;
     const char* at = text.data();
     const char* end = at + text.size();
@@ -151,5 +151,5 @@ std::string formatted(NSString* format, va_list given) {
         print_conversion(out, read_conversion(at, end, arguments), arguments);
     }
     va_end(arguments.list);
-    return encodings::is_utf8(out) ? out : encodings::repaired_utf8(out);
+    return text_encoding::is_utf8(out) ? out : text_encoding::repaired_utf8(out);
 }

@@ -2,18 +2,10 @@
 
 namespace cocoa {
 
-void HeadlessDisplay::set_screen(ScreenSize size, double scale) {
-    size_ = size;
-    scale_ = scale;
-    DisplayEvent event;
-    event.kind = DisplayEvent::Kind::resized;
-    events_.push_back(event);
-}
-
 bool HeadlessDisplay::next_event(DisplayEvent& event, double) {
-    if (events_.empty()) return false;
-    event = std::move(events_.front());
-    events_.pop_front();
+    if (_events.empty()) return false;
+    event = std::move(_events.front());
+    _events.pop_front();
     return true;
 }
 

@@ -1,5 +1,7 @@
 #include "SDLDisplay.h"
 
+#include "Foundation/TextEncoding.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -11,21 +13,18 @@
 namespace cocoa {
 namespace {
 
-// A character of Unicode's first plane, as UTF-8.
-std::string utf8(unsigned code) {
-    if (code < 0x80) return {static_cast<char>(code)};
-    if (code < 0x800)
-        return {static_cast<char>(0xc0 | code >> 6), static_cast<char>(0x80 | (code & 0x3f))};
-    return {static_cast<char>(0xe0 | code >> 12), static_cast<char>(0x80 | (code >> 6 & 0x3f)),
-            static_cast<char>(0x80 | (code & 0x3f))};
+std::string utf8(char32_t character) {
+    std::string text;
+    text_encoding::append_character(text, character);
+    return text;
 }
 
-// Keys that write nothing, and the characters that stand for them in key events.
+// Keys that type nothing, and the characters that stand for them in key events.
 struct FunctionKey {
     SDL_Keycode key;
     unsigned character;
 };
-constexpr std::array<FunctionKey, 18> function_keys = {{{SDLK_RETURN, 0x0d},
+constexpr std::array<FunctionKey, 15> function_keys = {{{SDLK_RETURN, 0x0d},
                                                         {SDLK_KP_ENTER, 0x03},
                                                         {SDLK_TAB, 0x09},
                                                         {SDLK_ESCAPE, 0x1b},
@@ -39,9 +38,6 @@ constexpr std::array<FunctionKey, 18> function_keys = {{{SDLK_RETURN, 0x0d},
                                                         {SDLK_END, 0xf72b},
                                                         {SDLK_PAGEUP, 0xf72c},
                                                         {SDLK_PAGEDOWN, 0xf72d},
-                                                        {SDLK_F1, 0xf704},
-                                                        {SDLK_F2, 0xf705},
-                                                        {SDLK_F5, 0xf708},
                                                         {SDLK_F10, 0xf70d}}};
 
 unsigned function_character(SDL_Keycode key) {
@@ -52,24 +48,23 @@ unsigned function_character(SDL_Keycode key) {
 
 unsigned modifiers_of(int state) {
     unsigned result = 0;
-    if (state & KMOD_SHIFT) result |= shift;
-    if (state & KMOD_CTRL) result |= control;
-    if (state & KMOD_ALT) result |= option;
-    if (state & KMOD_GUI) result |= command;
-    if (state & KMOD_CAPS) result |= caps_lock;
+    if (state & KMOD_SHIFT) result |= Shift;
+    if (state & KMOD_CTRL) result |= Control;
+    if (state & KMOD_ALT) result |= Option;
+    if (state & KMOD_GUI) result |= Command;
     return result;
 }
 
 class SDLDisplay final : public Display {
   public:
     SDLDisplay(SDL_Window* window, SDL_Renderer* renderer, double scale)
-        : window_(window), renderer_(renderer), scale_(scale) {
+        : _window(window), _renderer(renderer), _scale(scale) {
         SDL_StartTextInput();
     }
     ~SDLDisplay() override {
-        if (texture_) SDL_DestroyTexture(texture_);
-        SDL_DestroyRenderer(renderer_);
-        SDL_DestroyWindow(window_);
+        if (_texture) SDL_DestroyTexture(_texture);
+        SDL_DestroyRenderer(_renderer);
+        SDL_DestroyWindow(_window);
         SDL_QuitSubSystem(SDL_INIT_VIDEO);
     }
     SDLDisplay(const SDLDisplay&) = delete;
@@ -77,14 +72,13 @@ class SDLDisplay final : public Display {
 
     ScreenSize size() const override {
         int width = 0, height = 0;
-        SDL_GetRendererOutputSize(renderer_, &width, &height);
-        return {width / scale_, height / scale_};
+        SDL_GetRendererOutputSize(_renderer, &width, &height);
+        return {width / _scale, height / _scale};
     }
-    double scale() const override { return scale_; }
-    bool is_seen() const override { return true; }
+    double scale() const override { return _scale; }
     bool has_user() const override { return true; }
     void set_title(const std::string& title) override {
-        SDL_SetWindowTitle(window_, title.c_str());
+        SDL_SetWindowTitle(_window, title.c_str());
     }
     std::string clipboard() const override {
         char* text = SDL_GetClipboardText();
@@ -95,21 +89,21 @@ class SDLDisplay final : public Display {
     void set_clipboard(const std::string& text) override { SDL_SetClipboardText(text.c_str()); }
 
     void present(const ScreenPixels& pixels) override {
-        if (!texture_ || pixels.width != texture_width_ || pixels.height != texture_height_) {
-            if (texture_) SDL_DestroyTexture(texture_);
-            texture_ = SDL_CreateTexture(renderer_, SDL_PIXELFORMAT_RGBA32,
+        if (!_texture || pixels.width != _texture_width || pixels.height != _texture_height) {
+            if (_texture) SDL_DestroyTexture(_texture);
+            _texture = SDL_CreateTexture(_renderer, SDL_PIXELFORMAT_RGBA32,
                                          SDL_TEXTUREACCESS_STREAMING, pixels.width, pixels.height);
-            texture_width_ = pixels.width;
-            texture_height_ = pixels.height;
-            if (texture_) SDL_SetTextureBlendMode(texture_, SDL_BLENDMODE_NONE);
+            _texture_width = pixels.width;
+            _texture_height = pixels.height;
+            if (_texture) SDL_SetTextureBlendMode(_texture, SDL_BLENDMODE_NONE);
         }
-        if (!texture_) return;
-        SDL_UpdateTexture(texture_, nullptr, pixels.rgba, pixels.width * 4);
-        SDL_RenderClear(renderer_);
-        // At its own size: while the window is being resized the picture is still the old one.
+        if (!_texture) return;
+        SDL_UpdateTexture(_texture, nullptr, pixels.rgba, pixels.width * 4);
+        SDL_RenderClear(_renderer);
+        // At its own size: during a resize of the window the picture is still the old one.
         const SDL_Rect place = {0, 0, pixels.width, pixels.height};
-        SDL_RenderCopy(renderer_, texture_, nullptr, &place);
-        SDL_RenderPresent(renderer_);
+        SDL_RenderCopy(_renderer, _texture, nullptr, &place);
+        SDL_RenderPresent(_renderer);
     }
 
     bool next_event(DisplayEvent& event, double seconds) override {
@@ -118,7 +112,7 @@ class SDLDisplay final : public Display {
         const int milliseconds = static_cast<int>(std::min(std::ceil(seconds * 1000), 60000.0));
         if (!(seconds > 0 ? SDL_WaitEventTimeout(&raw, milliseconds) : SDL_PollEvent(&raw)))
             return false;
-        // All there is, so that of many movements of the mouse the last is left.
+        // Everything that waits, so that only the last of many mouse movements is left.
         do {
             translate(raw);
         } while (SDL_PollEvent(&raw));
@@ -127,29 +121,29 @@ class SDLDisplay final : public Display {
 
   private:
     bool take(DisplayEvent& event) {
-        if (pending_.empty()) return false;
-        event = std::move(pending_.front());
-        pending_.pop_front();
+        if (_pending.empty()) return false;
+        event = std::move(_pending.front());
+        _pending.pop_front();
         return true;
     }
 
     // Window coordinates of the desktop to points of the screen.
     double points(int coordinate) const {
         int window_width = 1, window_height = 1, width = 1, height = 1;
-        SDL_GetWindowSize(window_, &window_width, &window_height);
-        SDL_GetRendererOutputSize(renderer_, &width, &height);
-        return coordinate * (static_cast<double>(width) / window_width) / scale_;
+        SDL_GetWindowSize(_window, &window_width, &window_height);
+        SDL_GetRendererOutputSize(_renderer, &width, &height);
+        return coordinate * (static_cast<double>(width) / window_width) / _scale;
     }
 
     DisplayEvent make(DisplayEvent::Kind kind) const {
         DisplayEvent event;
         event.kind = kind;
-        event.modifiers = modifiers_of(held_);
+        event.modifiers = modifiers_of(_held);
         return event;
     }
 
     void push_mouse(DisplayEvent::Kind kind, int x, int y, int button, int clicks) {
-        if (kind != DisplayEvent::Kind::mouse_move && button != SDL_BUTTON_LEFT &&
+        if (kind != DisplayEvent::Kind::MouseMove && button != SDL_BUTTON_LEFT &&
             button != SDL_BUTTON_RIGHT)
             return;
         DisplayEvent event = make(kind);
@@ -157,38 +151,33 @@ class SDLDisplay final : public Display {
         event.y = points(y);
         event.right_button = button == SDL_BUTTON_RIGHT;
         event.clicks = clicks;
-        // A movement replaces the one before it that nobody has taken yet.
-        if (kind == DisplayEvent::Kind::mouse_move && !pending_.empty() &&
-            pending_.back().kind == kind)
-            pending_.back() = event;
+        // A movement replaces one that waits just before it.
+        if (kind == DisplayEvent::Kind::MouseMove && !_pending.empty() &&
+            _pending.back().kind == kind)
+            _pending.back() = event;
         else
-            pending_.push_back(event);
+            _pending.push_back(event);
     }
 
-    void push_key(DisplayEvent::Kind kind, const std::string& characters,
-                  const std::string& unmodified, const SDL_KeyboardEvent* raw) {
+    void push_key(DisplayEvent::Kind kind, const std::string& characters) {
         DisplayEvent event = make(kind);
         event.characters = characters;
-        event.characters_unmodified = unmodified;
-        if (raw) event.key_code = static_cast<unsigned short>(raw->keysym.scancode);
-        if (raw) event.repeat = raw->repeat != 0;
-        pending_.push_back(std::move(event));
+        _pending.push_back(std::move(event));
     }
 
-    // Keys that write come as text (which knows the layout and dead keys), except together with
-    // Control or the system key: then they are commands, named by the key.
+    // Keys that type come as text (which knows the layout and dead keys), except with Control or
+    // the system key: then they are commands, named by the key.
     void translate_key(const SDL_KeyboardEvent& raw) {
         const auto kind =
-            raw.type == SDL_KEYDOWN ? DisplayEvent::Kind::key_down : DisplayEvent::Kind::key_up;
+            raw.type == SDL_KEYDOWN ? DisplayEvent::Kind::KeyDown : DisplayEvent::Kind::KeyUp;
         const SDL_Keycode key = raw.keysym.sym;
         const bool shifted = raw.keysym.mod & KMOD_SHIFT;
         if (unsigned code = function_character(key)) {
             if (code == 0x09 && shifted) code = 0x19;
-            push_key(kind, utf8(code), utf8(code), &raw);
+            push_key(kind, utf8(code));
         } else if (key >= 0x20 && key < 0x7f && (raw.keysym.mod & (KMOD_CTRL | KMOD_GUI))) {
             const int letter = shifted && key >= 'a' && key <= 'z' ? key - 'a' + 'A' : key;
-            const std::string text = utf8(static_cast<unsigned>(letter));
-            push_key(kind, text, text, &raw);
+            push_key(kind, utf8(static_cast<char32_t>(letter)));
         }
     }
 
@@ -197,57 +186,56 @@ class SDLDisplay final : public Display {
         switch (raw.type) {
         case SDL_MOUSEBUTTONDOWN:
         case SDL_MOUSEBUTTONUP:
-            mouse_ = {raw.button.x, raw.button.y};
+            _mouse = {raw.button.x, raw.button.y};
             if (raw.button.button == SDL_BUTTON_LEFT)
                 SDL_CaptureMouse(raw.type == SDL_MOUSEBUTTONDOWN ? SDL_TRUE : SDL_FALSE);
-            push_mouse(raw.type == SDL_MOUSEBUTTONDOWN ? Kind::mouse_down : Kind::mouse_up,
+            push_mouse(raw.type == SDL_MOUSEBUTTONDOWN ? Kind::MouseDown : Kind::MouseUp,
                        raw.button.x, raw.button.y, raw.button.button, raw.button.clicks);
             break;
         case SDL_MOUSEMOTION:
-            mouse_ = {raw.motion.x, raw.motion.y};
-            push_mouse(Kind::mouse_move, raw.motion.x, raw.motion.y, 0, 0);
+            _mouse = {raw.motion.x, raw.motion.y};
+            push_mouse(Kind::MouseMove, raw.motion.x, raw.motion.y, 0, 0);
             break;
         case SDL_MOUSEWHEEL: {
-            DisplayEvent event = make(Kind::wheel);
-            event.x = points(mouse_.x);
-            event.y = points(mouse_.y);
+            DisplayEvent event = make(Kind::Wheel);
+            event.x = points(_mouse.x);
+            event.y = points(_mouse.y);
             const int sign = raw.wheel.direction == SDL_MOUSEWHEEL_FLIPPED ? -1 : 1;
-            event.dx = -sign * raw.wheel.x;
-            event.dy = sign * raw.wheel.y;
-            pending_.push_back(event);
+            event.lines = sign * raw.wheel.y;
+            _pending.push_back(event);
             break;
         }
         case SDL_KEYDOWN:
         case SDL_KEYUP:
-            held_ = raw.key.keysym.mod;
+            _held = raw.key.keysym.mod;
             translate_key(raw.key);
             break;
         case SDL_TEXTINPUT:
-            if (!(modifiers_of(held_) & (control | command)))
-                push_key(Kind::key_down, raw.text.text, raw.text.text, nullptr);
+            if (!(modifiers_of(_held) & (Control | Command)))
+                push_key(Kind::KeyDown, raw.text.text);
             break;
         case SDL_WINDOWEVENT:
             if (raw.window.event == SDL_WINDOWEVENT_SIZE_CHANGED ||
                 raw.window.event == SDL_WINDOWEVENT_EXPOSED)
-                pending_.push_back(make(Kind::resized));
+                _pending.push_back(make(Kind::Resized));
             break;
         case SDL_QUIT:
-            pending_.push_back(make(Kind::quit));
+            _pending.push_back(make(Kind::Quit));
             break;
         }
     }
 
-    SDL_Window* window_;
-    SDL_Renderer* renderer_;
-    SDL_Texture* texture_ = nullptr;
-    int texture_width_ = 0;
-    int texture_height_ = 0;
-    double scale_;
-    std::deque<DisplayEvent> pending_;
-    // As of the last event that was translated. The library tells how they are by now, which is of
-    // no use while earlier events wait.
-    int held_ = KMOD_NONE;
-    SDL_Point mouse_ = {0, 0};
+    SDL_Window* _window;
+    SDL_Renderer* _renderer;
+    SDL_Texture* _texture = nullptr;
+    int _texture_width = 0;
+    int _texture_height = 0;
+    double _scale;
+    std::deque<DisplayEvent> _pending;
+    // As of the last translated event. The library would report the present state, which is later
+    // than the events that wait.
+    int _held = KMOD_NONE;
+    SDL_Point _mouse = {0, 0};
 };
 
 double desktop_scale() {

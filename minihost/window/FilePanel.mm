@@ -147,10 +147,10 @@ struct FileBrowserState {
     }
     if (!options.must_exist && exists && !ask_to_replace(path.filename().string())) return;
     _state->chosen = path.string();
-    [NSApp stopModal];
+    [NSApp stopModalWithCode:0];
 }
 - (void)cancel:(id)__attribute__((unused))sender {
-    [NSApp stopModal];
+    [NSApp stopModalWithCode:0];
 }
 @end
 

@@ -66,10 +66,9 @@ NSFont* font() {
 }
 
 double text_width(const std::string& utf8) {
-    return [printable_string(utf8)
-               sizeWithAttributes:[NSDictionary dictionaryWithObject:font()
-                                                              forKey:NSFontAttributeName]]
-        .width;
+    NSDictionary* attributes =
+        [NSDictionary dictionaryWithObjectsAndKeys:font(), NSFontAttributeName, nil];
+    return [printable_string(utf8) sizeWithAttributes:attributes].width;
 }
 
 NSString* printable_string(const std::string& utf8) {

@@ -1,5 +1,6 @@
 #include "tests/ADMLibrary/support/ToolkitTest.h"
 
+#include "ADMLibrary/ADM_Mac64/Geometry.h"
 #include "ADMLibrary/ADM_Mac64/iADMDialog.h"
 
 #include <AppKit/NSDisplayStandIn.h>
@@ -26,7 +27,7 @@ TEST_F(DialogTest, APanelFillsTheHostsViewAndIsVisibleWithIt) {
     EXPECT_EQ([view superview], [_window contentView]);
     EXPECT_TRUE([view isFlipped]);
     [_window setContentSize:NSMakeSize(320, 200)];
-    EXPECT_TRUE(NSEqualRects([view frame], NSMakeRect(0, 0, 320, 200)));
+    EXPECT_EQ(adm::rect_of([view frame]), (Rect{0, 0, 200, 320}));
 
     EXPECT_TRUE(sADMDialog->IsVisible(dialog()));
     EXPECT_FALSE(sADMDialog->IsEnabled(dialog()));
@@ -41,7 +42,7 @@ TEST_F(DialogTest, AWindowIsShownWithNoItemHiddenByItsTitleBar) {
     _Opaque_ADMDialog* dialog = make_window(3);
     const Rect placed = {100, 50, 300, 350};
     sADMDialog->SetBoundsRect(dialog, &placed);
-    EXPECT_TRUE(NSEqualRects([adm::record(dialog)->_window frame], NSMakeRect(50, 100, 300, 200)));
+    EXPECT_EQ(adm::rect_of([adm::record(dialog)->_window frame]), placed);
     EXPECT_EQ(bounds(dialog), placed);
     const Rect low = {180, 10, 199, 100};
     sADMItem->Create(dialog, 1, kADMTextPushButtonType, &low, nullptr, nullptr, 0);

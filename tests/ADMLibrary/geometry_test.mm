@@ -17,8 +17,9 @@ Rect frame_of(NSView* view) {
 // The size of a text in the small font: its width, rounded up, plus the point size, and its height.
 Point text_size(NSString* text) {
     NSFont* font = GetMiniSystemFont();
-    const NSSize size = [text
-        sizeWithAttributes:[NSDictionary dictionaryWithObject:font forKey:NSFontAttributeName]];
+    const NSSize size =
+        [text sizeWithAttributes:[NSDictionary
+                                     dictionaryWithObjectsAndKeys:font, NSFontAttributeName, nil]];
     return {static_cast<std::int16_t>(size.height),
             static_cast<std::int16_t>(std::ceil(size.width) + [font pointSize])};
 }
@@ -37,7 +38,9 @@ TEST_F(GeometryTest, FramesAreTruncatedPartByPart) {
         {{{1e300, NAN}, {-1e300, 7}}, {0, -1, 7, -1}},
     };
     for (const auto& [frame, rect] : cases) EXPECT_EQ(adm::rect_of(frame), rect);
-    EXPECT_TRUE(NSEqualRects(adm::frame_of({5, 40, 25, 30}), NSMakeRect(40, 5, -10, 20)));
+    const NSRect frame = adm::frame_of({5, 40, 25, 30});
+    EXPECT_TRUE(NSEqualPoints(frame.origin, NSMakePoint(40, 5)));
+    EXPECT_TRUE(NSEqualSizes(frame.size, NSMakeSize(-10, 20)));
 }
 
 TEST_F(GeometryTest, LocalRectanglesKeepTheCorner) {

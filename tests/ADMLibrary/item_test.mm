@@ -3,17 +3,10 @@
 #include "ADMLibrary/ADM_Mac64/AEColors.h"
 #include "ADMLibrary/ADM_Mac64/iADMDialog.h"
 
-#include <cmath>
-
 namespace {
 
 using ItemTest = ToolkitTest;
 using States = std::vector<bool>;
-
-Rgb rgb_of(NSColor* color) {
-    const auto part = [](CGFloat value) { return static_cast<int>(std::lround(value * 255)); };
-    return {part([color redComponent]), part([color greenComponent]), part([color blueComponent])};
-}
 
 std::string class_of(id object) {
     return object ? class_getName([object class]) : "";
@@ -72,7 +65,7 @@ TEST_F(ItemTest, TextGoesWhereTheTypeShowsIt) {
     _Opaque_ADMItem* text = add_text(kADMTextStaticType, "Angle");
     sADMItem->SetText(text, nullptr);
     EXPECT_EQ(shown(text), "Angle");
-    EXPECT_EQ(rgb_of([label_of(text) textColor]), FakeHost::color(2));
+    EXPECT_TRUE([[label_of(text) textColor] isEqual:GetAEColor(2)]);
     add_text(kADMPicturePushButtonType, "nowhere");
 }
 
@@ -108,7 +101,7 @@ TEST_F(ItemTest, EnablingAndFontsReachControlAndLabel) {
             sADMItem->Enable(item, on);
             EXPECT_EQ(sADMItem->IsEnabled(item), on);
             EXPECT_EQ([label_of(item) isEnabled], on);
-            EXPECT_EQ(rgb_of([label_of(item) textColor]), FakeHost::color(on ? 2 : 23));
+            EXPECT_TRUE([[label_of(item) textColor] isEqual:GetAEColor(on ? 2 : 23)]);
         }
     }
     EXPECT_FALSE(sADMItem->IsEnabled(add(kADMPicturePushButtonType)));

@@ -1,25 +1,39 @@
-// A pool for the length of a test, what is left alive once it is drained, and what is raised.
+// An autorelease pool for the length of a test, with a check that no object is leaked, and the
+// names of raised exceptions.
 #pragma once
 
 #include <Foundation/NSAutoreleasePool.h>
 #include <Foundation/NSLiveObjects.h>
-#include <Foundation/NSRaisedException.h>
 #include <Foundation/NSString.h>
 
 #include <functional>
 #include <gtest/gtest.h>
+#include <map>
+#include <stdexcept>
 #include <string>
+
+// By class.
+inline std::map<std::string, NSUInteger> live_objects() {
+    std::map<std::string, NSUInteger> counts;
+    NSVisitLiveObjects(
+        [](Class visited, NSUInteger count, void* context) {
+            (*static_cast<std::map<std::string, NSUInteger>*>(context))[class_getName(visited)] =
+                count;
+        },
+        &counts);
+    return counts;
+}
 
 class PoolTest : public testing::Test {
   protected:
-    PoolTest() : _before(NSLiveObjectTotal()), _pool([[NSAutoreleasePool alloc] init]) {}
+    PoolTest() : _before(live_objects()), _pool([[NSAutoreleasePool alloc] init]) {}
     ~PoolTest() override {
         [_pool drain];
-        EXPECT_EQ(NSLiveObjectTotal(), _before) << "objects are left behind";
+        EXPECT_EQ(live_objects(), _before);
     }
 
   private:
-    NSUInteger _before;
+    std::map<std::string, NSUInteger> _before;
     NSAutoreleasePool* _pool;
 };
 
@@ -27,8 +41,9 @@ class PoolTest : public testing::Test {
 inline std::string raised(const std::function<void()>& action) {
     try {
         action();
-    } catch (const NSRaisedException& exception) {
-        return [[exception.object() name] UTF8String];
+    } catch (const std::runtime_error& exception) {
+        const std::string text = exception.what();
+        return text.substr(0, text.find(':'));
     }
     return "none";
 }

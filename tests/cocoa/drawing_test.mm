@@ -35,28 +35,20 @@ class Drawing : public PoolTest {
     Canvas _canvas;
 };
 
-TEST_F(Drawing, ColorsClampConvertAndCompare) {
-    NSColor* rgb = [NSColor colorWithDeviceRed:0.25 green:2 blue:-1 alpha:0.5];
-    EXPECT_EQ([rgb redComponent], 0.25);
-    EXPECT_EQ([rgb greenComponent], 1);
-    EXPECT_EQ([rgb blueComponent], 0);
-    EXPECT_EQ([[rgb colorWithAlphaComponent:0.75] alphaComponent], 0.75);
-    EXPECT_EQ([[rgb colorWithAlphaComponent:0.75] redComponent], 0.25);
-    NSColor* white = [NSColor colorWithDeviceWhite:0.8 alpha:1];
-    EXPECT_EQ([white whiteComponent], 0.8);
-    EXPECT_EQ(raised([&] { [white redComponent]; }), "NSInvalidArgumentException");
-    EXPECT_EQ(raised([&] { [rgb whiteComponent]; }), "NSInvalidArgumentException");
-    EXPECT_EQ([[white colorUsingColorSpaceName:NSDeviceRGBColorSpace] blueComponent], 0.8);
-    EXPECT_EQ([rgb colorUsingColorSpaceName:NSDeviceWhiteColorSpace], nil);
-    EXPECT_EQ([rgb colorUsingColorSpaceName:@"of another world"], nil);
-    EXPECT_TRUE([white isEqual:[NSColor colorWithDeviceWhite:0.8 alpha:1]]);
-    EXPECT_FALSE([white isEqual:[NSColor colorWithCalibratedWhite:0.8 alpha:1]]);
-    EXPECT_EQ([[NSColor clearColor] alphaComponent], 0);
+TEST_F(Drawing, ColorsClampAndCompare) {
+    NSColor* color = [NSColor colorWithDeviceRed:0.25 green:2 blue:-1 alpha:0.5];
+    EXPECT_EQ([[color colorWithAlphaComponent:0.75] alphaComponent], 0.75);
+    [[color colorWithAlphaComponent:7] set];
+    NSRectFill(NSMakeRect(0, 0, 1, 1));
+    EXPECT_EQ(_canvas.at(0, 0), 0x40FF00FFu);
+    EXPECT_TRUE([[NSColor whiteColor] isEqual:[NSColor colorWithDeviceWhite:1 alpha:1]]);
+    EXPECT_FALSE([[NSColor whiteColor] isEqual:[NSColor colorWithDeviceWhite:1 alpha:0.5]]);
+    EXPECT_FALSE([[NSColor whiteColor] isEqual:[NSColor blackColor]]);
 }
 
 TEST_F(Drawing, SetChoosesFillAndStroke) {
-    [[NSColor redColor] set];
-    [[NSColor blueColor] setStroke];
+    [[NSColor colorWithDeviceRed:1 green:0 blue:0 alpha:1] set];
+    [[NSColor colorWithDeviceRed:0 green:0 blue:1 alpha:1] setStroke];
     CGContextFillRect(_canvas.context(), CGRectMake(0, 0, 1, 1));
     CGContextStrokeRect(_canvas.context(), CGRectMake(2.5, 2.5, 3, 3));
     EXPECT_EQ(_canvas.at(0, 0), 0xFF0000FFu);
@@ -75,15 +67,10 @@ TEST_F(Drawing, RectanglesReplaceOrMix) {
     NSRectFillUsingOperation(NSMakeRect(4, 1, 2, 2), NSCompositeSourceOver);
     EXPECT_EQ(_canvas.at(1, 1), 0x00000033u);
     EXPECT_EQ(_canvas.at(4, 1), 0xCCCCCCFFu);
-    NSEraseRect(NSMakeRect(1, 1, 1, 1));
-    EXPECT_EQ(_canvas.at(1, 1), 0xFFFFFFFFu);
-    NSRectFillUsingOperation(NSMakeRect(0, 0, 10, 8), NSCompositeClear);
+    clear();
     [[NSColor blackColor] set];
     NSFrameRect(NSMakeRect(1, 1, 5, 4));
     EXPECT_EQ(picture(7, 6), ".......\n.#####.\n.#...#.\n.#...#.\n.#####.\n.......\n");
-    clear();
-    NSFrameRectWithWidth(NSMakeRect(0, 0, 3, 5), 2); // no wider than there is room
-    EXPECT_EQ(picture(4, 6), "###.\n###.\n###.\n###.\n###.\n....\n");
 }
 
 TEST_F(Drawing, StateIsSavedAndRestored) {
@@ -100,10 +87,8 @@ TEST_F(Drawing, StateIsSavedAndRestored) {
     [NSGraphicsContext restoreGraphicsState];
     EXPECT_EQ(graphics(), outer);
     EXPECT_TRUE([outer isFlipped]);
-    EXPECT_TRUE([outer shouldAntialias]);
     [NSGraphicsContext restoreGraphicsState]; // one too many
-    [outer restoreGraphicsState];
-    NSRectFill(NSMakeRect(0, 0, 2.5, 1)); // neither clipped nor without antialiasing
+    NSRectFill(NSMakeRect(0, 0, 2.5, 1));     // neither clipped nor without antialiasing
     EXPECT_EQ(picture(4, 1), "##+.\n");
 }
 
@@ -120,50 +105,30 @@ TEST_F(Drawing, AButtonsLinesLandOnTheirPixels) {
                               "#.......#.\n#.......#.\n#########.\n");
 }
 
-TEST_F(Drawing, PathsKnowTheirElements) {
+TEST_F(Drawing, PathsNeedACurrentPointAndHaveBounds) {
     NSBezierPath* path = [NSBezierPath bezierPath];
     EXPECT_EQ(raised([&] { [path lineToPoint:NSZeroPoint]; }), "NSGenericException");
-    EXPECT_EQ(raised([&] { [path currentPoint]; }), "NSGenericException");
     [path closePath];
     EXPECT_TRUE([path isEmpty]);
+    EXPECT_TRUE(NSIsEmptyRect([path controlPointBounds]));
     [path moveToPoint:NSMakePoint(1, 2)];
-    [path lineToPoint:NSMakePoint(5, 2)];
-    [path curveToPoint:NSMakePoint(1, 6)
-         controlPoint1:NSMakePoint(9, 3)
-         controlPoint2:NSMakePoint(3, 4)];
-    EXPECT_TRUE(NSEqualPoints([path currentPoint], NSMakePoint(1, 6)));
-    [path closePath];
-    EXPECT_TRUE(NSEqualPoints([path currentPoint], NSMakePoint(1, 2)));
-    NSPoint points[3];
-    EXPECT_EQ([path elementAtIndex:2 associatedPoints:points],
-              (NSBezierPathElement)NSCurveToBezierPathElement);
-    EXPECT_TRUE(NSEqualPoints(points[1], NSMakePoint(3, 4)));
-    EXPECT_TRUE(NSEqualRects([path controlPointBounds], NSMakeRect(1, 2, 8, 4)));
-    NSBezierPath* copy = [[path copy] autorelease];
-    [path appendBezierPath:path];
-    EXPECT_EQ([path elementCount], 8);
-    EXPECT_EQ([copy elementCount], 4);
-    EXPECT_EQ(raised([&] { [copy elementAtIndex:4 associatedPoints:nullptr]; }),
-              "NSRangeException");
+    [path lineToPoint:NSMakePoint(5, 6)];
+    const NSRect bounds = [path controlPointBounds];
+    EXPECT_TRUE(NSEqualPoints(bounds.origin, NSMakePoint(1, 2)));
+    EXPECT_TRUE(NSEqualSizes(bounds.size, NSMakeSize(4, 4)));
 }
 
-TEST_F(Drawing, PathsFillStrokeAndClip) {
-    NSBezierPath* ring = [NSBezierPath bezierPathWithRect:NSMakeRect(0, 0, 6, 6)];
-    [ring appendBezierPathWithRect:NSMakeRect(2, 2, 2, 2)];
-    [ring setWindingRule:NSEvenOddWindingRule];
+TEST_F(Drawing, PathsClip) {
+    NSBezierPath* triangle = [NSBezierPath bezierPath];
+    [triangle moveToPoint:NSMakePoint(0, 0)];
+    [triangle lineToPoint:NSMakePoint(3.5, 0)];
+    [triangle lineToPoint:NSMakePoint(0, 3.5)];
     [NSGraphicsContext saveGraphicsState];
-    [ring addClip];
-    [NSBezierPath fillRect:NSMakeRect(0, 1, 10, 2)];
+    [graphics() setShouldAntialias:NO];
+    [triangle addClip];
+    NSRectFill(NSMakeRect(0, 1, 10, 2));
     [NSGraphicsContext restoreGraphicsState];
-    EXPECT_EQ(picture(7, 4), ".......\n######.\n##..##.\n.......\n");
-    clear();
-    CGContextScaleCTM(_canvas.context(), 2, 2);
-    NSBezierPath* hairline = [NSBezierPath bezierPath];
-    [hairline setLineWidth:0];
-    [hairline moveToPoint:NSMakePoint(0, 0.25)];
-    [hairline lineToPoint:NSMakePoint(3, 0.25)];
-    [hairline stroke];
-    EXPECT_EQ(picture(7, 2), "######.\n.......\n");
+    EXPECT_EQ(picture(5, 4), ".....\n##...\n#....\n.....\n");
 }
 
 TEST_F(Drawing, OvalsAndRoundCornersHaveTheirArea) {
@@ -181,12 +146,6 @@ TEST_F(Drawing, OvalsAndRoundCornersHaveTheirArea) {
     EXPECT_NEAR(area([NSBezierPath bezierPathWithRoundedRect:rect xRadius:0 yRadius:2]), 48, 0);
     EXPECT_NEAR(area([NSBezierPath bezierPathWithRoundedRect:rect xRadius:99 yRadius:99]),
                 M_PI * 12, 0.3); // no more than an oval
-    NSBezierPath* wedge = [NSBezierPath bezierPath];
-    [wedge moveToPoint:NSMakePoint(5, 4)];
-    [wedge appendBezierPathWithArcWithCenter:NSMakePoint(5, 4) radius:4 startAngle:0 endAngle:90];
-    EXPECT_NEAR(area(wedge), M_PI * 4, 0.3);
-    EXPECT_EQ(_canvas.alpha(6, 5), 255); // towards y, which is down here
-    EXPECT_EQ(_canvas.alpha(6, 2), 0);
 }
 
 TEST_F(Drawing, GradientsFollowTheirAngle) {
@@ -225,8 +184,6 @@ TEST_F(Drawing, GradientsStayInsideTheirShape) {
     [sheen drawInRect:NSMakeRect(8, 0, 0, 5) angle:0];
     [sheen drawInBezierPath:[NSBezierPath bezierPath] angle:0];
     EXPECT_EQ(_canvas.alpha(8, 1), 0);
-    EXPECT_EQ([[NSGradient alloc] initWithColors:[NSArray arrayWithObject:[NSColor redColor]]],
-              nil);
 }
 
 } // namespace

@@ -2,23 +2,20 @@
 
 #include <Foundation/Foundation.h>
 
-@protocol Talking
-- (id)say:(id)what;
-@end
-
-// Counts what happens to it.
-@interface Probe : NSObject <Talking> {
+// Counts its deallocations.
+@interface Probe : NSObject {
   @public
     int* _deaths;
-    NSMutableArray* _log;
 }
 + (Probe*)probeWithDeaths:(int*)deaths;
-@end
-
-@interface QuietProbe : Probe
+- (id)say:(id)what;
 - (double)real;
 - (NSRect)rect;
 - (NSRange)range;
+@end
+
+@interface UnknownMessages
+- (void)noSuchMessage;
 @end
 
 @implementation Probe
@@ -34,16 +31,6 @@
 - (id)say:(id)what {
     return what;
 }
-- (void)heard:(NSNotification*)notification {
-    [_log addObject:[notification name]];
-}
-- (void)leave:(NSNotification*)notification {
-    [_log addObject:@"leaves"];
-    [[NSNotificationCenter defaultCenter] removeObserver:[notification object]];
-}
-@end
-
-@implementation QuietProbe
 - (double)real {
     return 1;
 }
@@ -55,94 +42,87 @@
 }
 @end
 
+@interface QuietProbe : Probe
+@end
+@implementation QuietProbe
+@end
+
 namespace {
 
-class Objects : public PoolTest {
-  protected:
-    // The default centre stays for good.
-    static void SetUpTestSuite() { [NSNotificationCenter defaultCenter]; }
-};
+class Objects : public PoolTest {};
 
 TEST_F(Objects, LiveByTheirReferences) {
     int deaths = 0;
     Probe* probe = [[Probe alloc] init];
     probe->_deaths = &deaths;
-    EXPECT_EQ(NSLiveObjectCount([Probe class]), 1u);
-    EXPECT_EQ([[probe retain] retainCount], 2u);
-    [probe release];
+    EXPECT_EQ(live_objects()["Probe"], 1u);
+    [[probe retain] release];
     EXPECT_EQ(deaths, 0);
     [probe release];
     EXPECT_EQ(deaths, 1);
-    EXPECT_EQ(NSLiveObjectCount([Probe class]), 0u);
+    EXPECT_EQ(live_objects().count("Probe"), 0u);
 }
 
-TEST_F(Objects, TellTheirClass) {
+TEST_F(Objects, KnowTheirClassAndMethods) {
     Probe* probe = [QuietProbe probeWithDeaths:nullptr];
     EXPECT_TRUE([probe isKindOfClass:[Probe class]]);
     EXPECT_TRUE([probe isKindOfClass:[NSObject class]]);
     EXPECT_FALSE([probe isKindOfClass:[NSString class]]);
-    EXPECT_FALSE([probe isMemberOfClass:[Probe class]]);
     EXPECT_EQ([probe class], [QuietProbe class]);
-    EXPECT_EQ([probe superclass], [Probe class]);
-    EXPECT_TRUE([probe conformsToProtocol:@protocol(Talking)]);
-    EXPECT_TRUE([probe conformsToProtocol:@protocol(NSObject)]);
-    EXPECT_FALSE([probe conformsToProtocol:@protocol(NSCopying)]);
     EXPECT_TRUE([probe respondsToSelector:@selector(say:)]);
-    EXPECT_FALSE([probe respondsToSelector:@selector(nextObject)]);
-    EXPECT_TRUE([QuietProbe instancesRespondToSelector:@selector(real)]);
+    EXPECT_FALSE([probe respondsToSelector:@selector(noSuchMessage)]);
     EXPECT_EQ([probe performSelector:@selector(say:) withObject:@"hi"], @"hi");
-    EXPECT_EQ(NSClassFromString(@"QuietProbe"), [QuietProbe class]);
-    EXPECT_STREQ([NSStringFromSelector(@selector(say:)) UTF8String], "say:");
 }
 
-TEST_F(Objects, NilAnswersZeroOfEveryKind) {
-    QuietProbe* none = nil;
+TEST_F(Objects, MessagesToNilReturnZeroOfEveryKind) {
+    Probe* none = nil;
     volatile double noise = 42.5; // leaves something in the floating-point registers
     EXPECT_EQ(noise * 2, 85);
     EXPECT_EQ([none real], 0.0);
-    EXPECT_TRUE(NSEqualRects([none rect], NSZeroRect));
-    EXPECT_TRUE(NSEqualRanges([none range], NSMakeRange(0, 0)));
+    EXPECT_EQ([none rect].origin.y + [none rect].size.height, 0);
+    EXPECT_EQ([none range].location + [none range].length, 0u);
     EXPECT_EQ([none say:@"x"], nil);
 }
 
-TEST_F(Objects, PoolsReleaseInTheirOrderAndNest) {
+TEST_F(Objects, PoolsReleaseWhenDrainedAndNest) {
     int deaths = 0;
     NSAutoreleasePool* outer = [[NSAutoreleasePool alloc] init];
     [Probe probeWithDeaths:&deaths];
     NSAutoreleasePool* inner = [[NSAutoreleasePool alloc] init];
     [Probe probeWithDeaths:&deaths];
-    [outer addObject:[[Probe probeWithDeaths:&deaths] retain]];
     [inner release];
-    EXPECT_EQ(deaths, 1); // the third is still held by the outer pool
+    EXPECT_EQ(deaths, 1);
     [[NSAutoreleasePool alloc] init];
     [Probe probeWithDeaths:&deaths];
     [outer drain]; // and with it the pool inside
-    EXPECT_EQ(deaths, 4);
+    EXPECT_EQ(deaths, 3);
 }
 
 TEST(ObjectsWithoutPool, AreReportedAndStay) {
+    int deaths = 0;
     Probe* probe = [[Probe alloc] init];
+    probe->_deaths = &deaths;
     testing::internal::CaptureStderr();
     [probe autorelease];
-    const std::string said = testing::internal::GetCapturedStderr();
-    EXPECT_NE(said.find("class Probe autoreleased with no pool"), std::string::npos) << said;
-    EXPECT_EQ([probe retainCount], 1u);
+    const std::string report = testing::internal::GetCapturedStderr();
+    EXPECT_NE(report.find("class Probe autoreleased with no pool"), std::string::npos) << report;
+    EXPECT_EQ(deaths, 0);
     [probe release];
 }
 
 TEST_F(Objects, UnknownMessagesRaise) {
-    NSString* reason = nil;
+    std::string text;
     try {
-        [(NSMutableArray*)[Probe probeWithDeaths:nullptr] removeLastObject];
-    } catch (const NSRaisedException& exception) {
-        reason = [[[exception.object() reason] retain] autorelease];
-        EXPECT_EQ([exception.object() name], NSInvalidArgumentException);
+        [(id)[Probe probeWithDeaths:nullptr] noSuchMessage];
+    } catch (const std::runtime_error& exception) {
+        text = exception.what();
     }
-    EXPECT_TRUE([reason hasPrefix:@"-[Probe removeLastObject]: unrecognized selector"]);
+    const std::string start = "NSInvalidArgumentException: -[Probe noSuchMessage]: unrecognized";
+    EXPECT_EQ(text.substr(0, start.size()), start);
 }
 
-TEST(FreedObjectsDeathTest, AreNamedWhenTheyAreSentAMessage) {
-    if (!NSFreedObjectsAreWatched()) GTEST_SKIP() << "only in Debug and sanitizer builds";
+#ifndef NDEBUG
+TEST(ZombiesDeathTest, ReportMessages) {
     const auto release_twice = [] {
         Probe* probe = [[Probe alloc] init];
         [probe release];
@@ -150,32 +130,6 @@ TEST(FreedObjectsDeathTest, AreNamedWhenTheyAreSentAMessage) {
     };
     EXPECT_DEATH(release_twice(), "-\\[Probe release\\]: message sent to deallocated instance 0x");
 }
-
-TEST_F(Objects, NotificationsReachThoseWhoAskedForThem) {
-    NSNotificationCenter* center = [NSNotificationCenter defaultCenter];
-    Probe* all = [Probe probeWithDeaths:nullptr];
-    Probe* some = [Probe probeWithDeaths:nullptr];
-    Probe* leaver = [Probe probeWithDeaths:nullptr];
-    all->_log = [NSMutableArray array];
-    some->_log = [NSMutableArray array];
-    leaver->_log = [NSMutableArray array];
-    [center addObserver:leaver selector:@selector(leave:) name:@"c" object:nil];
-    [center addObserver:all selector:@selector(heard:) name:nil object:nil];
-    [center addObserver:some selector:@selector(heard:) name:@"a" object:leaver];
-    [center addObserver:some selector:@selector(heard:) name:@"c" object:nil];
-
-    [center postNotificationName:@"a" object:leaver];
-    [center postNotificationName:@"a" object:all];
-    [center postNotificationName:@"b" object:leaver];
-    [center postNotificationName:@"c" object:some]; // leaver takes `some` out of this very posting
-    [center postNotificationName:@"a" object:leaver];
-    EXPECT_STREQ([[all->_log componentsJoinedByString:@""] UTF8String], "aabca");
-    EXPECT_STREQ([[some->_log componentsJoinedByString:@""] UTF8String], "a");
-    [center removeObserver:leaver];
-    [center removeObserver:all];
-    [center postNotificationName:@"c" object:nil];
-    EXPECT_EQ([all->_log count], 5u);
-    EXPECT_EQ([leaver->_log count], 1u);
-}
+#endif
 
 } // namespace

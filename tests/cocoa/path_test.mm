@@ -65,14 +65,11 @@ TEST_F(Paths, StrokedRectanglesAreOutlines) {
     EXPECT_EQ(canvas.picture(), "######.\n#....#.\n#....#.\n#....#.\n######.\n.......\n");
     CGContextClearRect(c, CGRectMake(0, 0, 7, 6));
     CGContextSetShouldAntialias(c, true);
-    CGContextStrokeRectWithWidth(c, CGRectMake(2, 2, 3, 2), 2);
-    EXPECT_EQ(canvas.picture(), ".......\n.#####.\n.#####.\n.#####.\n.#####.\n.......\n");
-    CGContextClearRect(c, CGRectMake(0, 0, 7, 6));
-    CGContextStrokeRect(c, CGRectMake(1.5, 1.5, 3, 3)); // the width is 1 again
+    CGContextStrokeRect(c, CGRectMake(1.5, 1.5, 3, 3));
     EXPECT_EQ(canvas.picture(), ".......\n.####..\n.#..#..\n.#..#..\n.####..\n.......\n");
 }
 
-TEST_F(Paths, PolygonsAreFilledByTheirRule) {
+TEST_F(Paths, PolygonsAreFilled) {
     Canvas canvas(8, 8);
     CGContextRef c = canvas.flip().context();
     CGContextSetShouldAntialias(c, false);
@@ -84,16 +81,6 @@ TEST_F(Paths, PolygonsAreFilledByTheirRule) {
         const int x = i % 8, row = i / 8;
         if (x + row == 7) continue; // centres on the slanted edge go either way
         EXPECT_EQ(canvas.alpha(x, row), x + row < 7 ? 255 : 0) << x << ' ' << row;
-    }
-
-    // Two squares wound alike: the hole is there by the even-odd rule alone.
-    for (const bool even_odd : {false, true}) {
-        CGContextClearRect(c, CGRectMake(0, 0, 8, 8));
-        CGContextAddRect(c, CGRectMake(0, 0, 8, 8));
-        CGContextAddRect(c, CGRectMake(2, 2, 4, 4));
-        CGContextDrawPath(c, even_odd ? kCGPathEOFill : kCGPathFill);
-        EXPECT_EQ(canvas.alpha(1, 4), 255);
-        EXPECT_EQ(canvas.alpha(4, 4), even_odd ? 0 : 255);
     }
 }
 
@@ -108,71 +95,31 @@ TEST_F(Paths, OfNothingDrawNothing) {
     CGContextClosePath(c);
     CGContextFillPath(c);
     CGContextFillRect(c, CGRectMake(1, 1, 0, 2));
-    CGContextFillRect(c, CGRectNull);
     EXPECT_EQ(canvas.picture(), "....\n....\n....\n....\n");
     CGContextFillRect(nullptr, CGRectMake(0, 0, 1, 1));
 }
 
-TEST_F(Paths, CirclesAndArcsHaveTheirArea) {
-    const auto area = [](auto draw) {
-        Canvas canvas(40, 40);
-        draw(canvas.context());
-        double sum = 0;
-        for (int i = 0; i < 1600; ++i) sum += canvas.alpha(i % 40, i / 40) / 255.0;
-        return sum;
-    };
-    const CGRect box = CGRectMake(4, 8, 30, 20);
-    EXPECT_NEAR(area([&](CGContextRef c) { CGContextFillEllipseInRect(c, box); }), M_PI * 15 * 10,
-                2);
-    const auto sector = [&](double from, double to, int clockwise) {
-        return area([&](CGContextRef c) {
-            CGContextMoveToPoint(c, 20, 20);
-            CGContextAddArc(c, 20, 20, 16, from, to, clockwise);
-            CGContextFillPath(c);
-        });
-    };
-    const double disc = M_PI * 16 * 16;
-    EXPECT_NEAR(sector(0, M_PI_2, 0), disc / 4, 2);
-    EXPECT_NEAR(sector(0, M_PI_2, 1), disc * 3 / 4, 2);
-    EXPECT_NEAR(sector(1, 1 + 2 * M_PI, 0), disc, 2);
-    EXPECT_NEAR(sector(0, 1e9, 0), disc, 2); // once round at most
-    EXPECT_NEAR(sector(0, INFINITY, 0), 0, 0);
-    Canvas canvas(40, 40);
-    CGContextMoveToPoint(canvas.context(), 20, 20);
-    CGContextAddArc(canvas.context(), 20, 20, 16, 0, M_PI_2, 0); // up and to the right
-    CGContextFillPath(canvas.context());
-    EXPECT_EQ(canvas.alpha(25, 14), 255);
-    EXPECT_EQ(canvas.alpha(25, 25), 0);
-}
-
-TEST_F(Paths, LinesHaveWidthCapsAndDashes) {
+TEST_F(Paths, LinesHaveTheirWidth) {
     Canvas canvas(12, 3);
     CGContextRef c = canvas.flip().context();
-    const auto line = [&](double from, double to) {
-        CGContextClearRect(c, CGRectMake(0, 0, 12, 3));
-        CGContextMoveToPoint(c, from, 1.5);
-        CGContextAddLineToPoint(c, to, 1.5);
-        CGContextStrokePath(c);
-        return canvas.picture().substr(13, 12); // the middle row
-    };
-    EXPECT_EQ(line(2, 10), "..########..");
-    CGContextSetLineCap(c, kCGLineCapSquare);
     CGContextSetLineWidth(c, 2);
-    EXPECT_EQ(line(2, 10), ".##########.");
-    CGContextSetLineCap(c, kCGLineCapButt);
     CGContextSetLineWidth(c, 0); // changes nothing
     CGContextSetLineWidth(c, -3);
-    EXPECT_EQ(line(2, 10), "..########..");
+    CGContextMoveToPoint(c, 2, 1.5);
+    CGContextAddLineToPoint(c, 10, 1.5);
+    CGContextStrokePath(c);
+    EXPECT_EQ(canvas.picture(), "..++++++++..\n..########..\n..++++++++..\n");
     EXPECT_NEAR(canvas.alpha(4, 0), 128, 1);
-    const CGFloat dash[] = {3, 1}, bad[] = {1, -1}, none[] = {0, 0};
-    CGContextSetLineDash(c, 0, dash, 2);
-    EXPECT_EQ(line(0, 12), "###.###.###.");
-    CGContextSetLineDash(c, 1, dash, 2);
-    EXPECT_EQ(line(0, 12), "##.###.###.#");
-    CGContextSetLineDash(c, 0, bad, 2);
-    EXPECT_EQ(line(0, 12), "############");
-    CGContextSetLineDash(c, 0, none, 2);
-    EXPECT_EQ(line(0, 12), "############");
+}
+
+TEST_F(Paths, EllipsesAreOutlines) {
+    Canvas canvas(40, 40);
+    CGContextStrokeEllipseInRect(canvas.context(), CGRectMake(4, 8, 30, 20));
+    double sum = 0;
+    for (int i = 0; i < 1600; ++i) sum += canvas.alpha(i % 40, i / 40) / 255.0;
+    EXPECT_NEAR(sum, 79.3, 1); // the circumference
+    EXPECT_GT(canvas.alpha(4, 22), 100);
+    EXPECT_EQ(canvas.alpha(19, 22), 0);
 }
 
 TEST_F(Paths, FarAwayAndEndlessCoordinatesDoNoHarm) {

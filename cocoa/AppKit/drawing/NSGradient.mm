@@ -1,11 +1,11 @@
 #include <AppKit/NSGradient.h>
 
+#include "NSColorPrivate.h"
+
 #include <AppKit/NSBezierPath.h>
-#include <AppKit/NSColor.h>
 #include <AppKit/NSGraphicsContext.h>
 
 #include <cmath>
-#include <vector>
 
 namespace {
 
@@ -19,54 +19,48 @@ NSPoint direction(CGFloat angle) {
     return {std::cos(turn * M_PI / 180), std::sin(turn * M_PI / 180)};
 }
 
+void add_stop(cairo_pattern_t* pattern, double at, NSColor* color) {
+    const graphics::Color c = [color components];
+    cairo_pattern_add_color_stop_rgba(pattern, at, c.blue, c.green, c.red, c.alpha);
+}
+
 } // namespace
 
 @implementation NSGradient
 
 - (id)initWithStartingColor:(NSColor*)start endingColor:(NSColor*)end {
-    return [self initWithColors:[NSArray arrayWithObjects:start, end, nil]];
-}
-
-- (id)initWithColors:(NSArray*)colors {
     self = [super init];
-    _count = [colors count];
-    if (_count < 2) {
-        [self release];
-        return nil;
-    }
-    std::vector<CGFloat> components(4 * _count);
-    for (NSInteger i = 0; i < _count; ++i) {
-        CGFloat* c = &components[4 * i];
-        NSColor* color = [colors objectAtIndex:i];
-        [[color colorUsingColorSpaceName:NSDeviceRGBColorSpace] getRed:c
-                                                                 green:c + 1
-                                                                  blue:c + 2
-                                                                 alpha:c + 3];
-    }
-    CGColorSpaceRef space = CGColorSpaceCreateDeviceRGB();
-    _gradient = CGGradientCreateWithColorComponents(space, components.data(), NULL, _count);
-    CGColorSpaceRelease(space);
+    if (!self) return nil;
+    _start = [start retain];
+    _end = [end retain];
     return self;
 }
 
 - (void)dealloc {
-    CGGradientRelease(_gradient);
+    [_start release];
+    [_end release];
     [super dealloc];
 }
 
-- (NSInteger)numberOfColorStops {
-    return _count;
-}
-
-// Through the middle of the rectangle, to where lines across it touch the corners.
+// Paints the current clip along a line through the middle of the rectangle, as long as the
+// rectangle is in that direction.
 - (void)drawAcross:(NSRect)rect angle:(CGFloat)angle {
+    graphics::CairoContext* context =
+        graphics::context_of([[NSGraphicsContext currentContext] CGContext]);
     const NSPoint along = direction(angle);
     const CGFloat half =
         (std::abs(along.x) * NSWidth(rect) + std::abs(along.y) * NSHeight(rect)) / 2;
+    if (!context || !context->state().drawable || !(half > 0) || !std::isfinite(half)) return;
     const NSPoint middle = NSMakePoint(NSMidX(rect), NSMidY(rect));
-    [self drawFromPoint:NSMakePoint(middle.x - half * along.x, middle.y - half * along.y)
-                toPoint:NSMakePoint(middle.x + half * along.x, middle.y + half * along.y)
-                options:NSGradientDrawsBeforeStartingLocation | NSGradientDrawsAfterEndingLocation];
+    cairo_pattern_t* pattern =
+        cairo_pattern_create_linear(middle.x - half * along.x, middle.y - half * along.y,
+                                    middle.x + half * along.x, middle.y + half * along.y);
+    add_stop(pattern, 0, _start);
+    add_stop(pattern, 1, _end);
+    cairo_pattern_set_extend(pattern, CAIRO_EXTEND_PAD);
+    cairo_set_source(context->cairo, pattern);
+    cairo_pattern_destroy(pattern);
+    cairo_paint(context->cairo);
 }
 
 - (void)drawInRect:(NSRect)rect angle:(CGFloat)angle {
@@ -85,13 +79,6 @@ NSPoint direction(CGFloat angle) {
     [path addClip];
     [self drawAcross:[path controlPointBounds] angle:angle];
     CGContextRestoreGState(context);
-}
-
-- (void)drawFromPoint:(NSPoint)start
-              toPoint:(NSPoint)end
-              options:(NSGradientDrawingOptions)options {
-    CGContextDrawLinearGradient([[NSGraphicsContext currentContext] CGContext], _gradient, start,
-                                end, static_cast<CGGradientDrawingOptions>(options));
 }
 
 @end

@@ -1,19 +1,17 @@
 #include <AppKit/NSFont.h>
 
-#include "Foundation/StringText.h"
+#include "Foundation/NSStringStorage.h"
 #include "TextLayout.h"
 
 #include <algorithm>
-#include <map>
 #include <string>
 #include <strings.h>
-#include <tuple>
 
 namespace {
 
 constexpr const char* interface_family = "Inter";
 
-// The first family of the machine that has one of the names; null without one.
+// The first of the names that is an installed family; null if none is.
 const char* installed_family(std::initializer_list<const char*> names) {
     PangoFontFamily** families = nullptr;
     int count = 0;
@@ -27,11 +25,10 @@ const char* installed_family(std::initializer_list<const char*> names) {
     return found;
 }
 
-// The platform's own typewriter faces are on every machine of the platform: here another one takes
-// their place.
+// The monospaced families of the platform are not installed here: another one replaces them.
 const char* substitute_for(const std::string& family) {
-    for (const char* typewriter : {"Courier", "Courier New", "Monaco", "Menlo"})
-        if (strcasecmp(family.c_str(), typewriter) == 0)
+    for (const char* monospaced : {"Courier", "Courier New", "Monaco", "Menlo"})
+        if (strcasecmp(family.c_str(), monospaced) == 0)
             return installed_family({"Courier Prime", "Nimbus Mono PS", "Liberation Mono",
                                      "DejaVu Sans Mono", "Monospace"});
     return nullptr;
@@ -63,54 +60,20 @@ Name parsed(const std::string& name) {
 
 } // namespace
 
-@interface NSFont (Making)
-- (BOOL)isBold;
-- (BOOL)isItalic;
+@interface NSFont (Private)
 - (id)initWithName:(NSString*)name
             family:(const char*)family
               size:(CGFloat)size
               bold:(BOOL)bold
             italic:(BOOL)italic;
+- (text::FontPointer)pangoDescription;
 @end
 
 namespace {
 
-struct Metrics {
-    double ascender = 0, descender = 0, leading = 0;
-    bool fixed_pitch = false;
-};
-
-Metrics measured(const char* family, double size, bool bold, bool italic) {
-    Metrics metrics;
-    PangoFont* font = pango_context_load_font(text::context(),
-                                              text::description(family, size, bold, italic).get());
-    if (!font) return metrics;
-    PangoFontMetrics* found = pango_font_get_metrics(font, nullptr);
-    metrics.ascender = pango_units_to_double(pango_font_metrics_get_ascent(found));
-    metrics.descender = -pango_units_to_double(pango_font_metrics_get_descent(found));
-    const double height = pango_units_to_double(pango_font_metrics_get_height(found));
-    metrics.leading = std::max(0.0, height - (metrics.ascender - metrics.descender));
-    pango_font_metrics_unref(found);
-    PangoFontFace* face = pango_font_get_face(font);
-    metrics.fixed_pitch = face && pango_font_family_is_monospace(pango_font_face_get_family(face));
-    g_object_unref(font);
-    return metrics;
-}
-
-// Measuring loads the typeface: what was measured is kept, up to a number of fonts that only a
-// program with ever new sizes exceeds.
-const Metrics& metrics_of(const char* family, double size, bool bold, bool italic) {
-    using Key = std::tuple<std::string, double, bool, bool>;
-    static std::map<Key, Metrics> known;
-    if (known.size() >= 256) known.clear();
-    const auto [place, is_new] = known.try_emplace(Key(family, size, bold, italic));
-    if (is_new) place->second = measured(family, size, bold, italic);
-    return place->second;
-}
-
 NSFont* make_font(const std::string& name, const char* family, double size, bool bold,
                   bool italic) {
-    return [[[NSFont alloc] initWithName:string_of(name)
+    return [[[NSFont alloc] initWithName:string_from_utf8(name)
                                   family:family
                                     size:size
                                     bold:bold
@@ -134,15 +97,10 @@ NSFont* system_font(CGFloat size, bool bold) {
     self = [super init];
     if (!self) return nil;
     _name = [name copy];
-    _family = [string_of(family) copy];
+    _family = [string_from_utf8(family) copy];
     _size = size;
     _bold = bold;
     _italic = italic;
-    const Metrics& metrics = metrics_of(family, size, bold, italic);
-    _ascender = metrics.ascender;
-    _descender = metrics.descender;
-    _leading = metrics.leading;
-    _fixedPitch = metrics.fixed_pitch;
     return self;
 }
 
@@ -150,11 +108,6 @@ NSFont* system_font(CGFloat size, bool bold) {
     [_name release];
     [_family release];
     [super dealloc];
-}
-
-- (id)copyWithZone:(NSZone*)zone {
-    (void)zone;
-    return [self retain];
 }
 
 + (NSFont*)systemFontOfSize:(CGFloat)size {
@@ -167,7 +120,7 @@ NSFont* system_font(CGFloat size, bool bold) {
 
 + (NSFont*)fontWithName:(NSString*)name size:(CGFloat)size {
     if (![name length]) return nil;
-    const std::string asked(text_of(name));
+    const std::string asked(utf8_of(name));
     for (const Name& wanted : {Name{asked}, parsed(asked)}) {
         const char* family = installed_family({wanted.family.c_str()});
         if (!family) family = substitute_for(wanted.family);
@@ -185,10 +138,6 @@ NSFont* system_font(CGFloat size, bool bold) {
     return 11;
 }
 
-+ (CGFloat)labelFontSize {
-    return 10;
-}
-
 + (CGFloat)systemFontSizeForControlSize:(NSUInteger)controlSize {
     switch (controlSize) {
     case 1:
@@ -204,50 +153,21 @@ NSFont* system_font(CGFloat size, bool bold) {
     return _name;
 }
 
-- (NSString*)familyName {
-    return _family;
-}
-
 - (CGFloat)pointSize {
     return _size;
 }
 
-- (CGFloat)ascender {
-    return _ascender;
-}
-
-- (CGFloat)descender {
-    return _descender;
-}
-
-- (CGFloat)leading {
-    return _leading;
-}
-
-- (BOOL)isFixedPitch {
-    return _fixedPitch;
-}
-
-- (BOOL)isBold {
-    return _bold;
-}
-
-- (BOOL)isItalic {
-    return _italic;
-}
-
-- (BOOL)isEqual:(id)other {
-    return other == self || ([other isKindOfClass:[NSFont class]] && [other pointSize] == _size &&
-                             [[other fontName] isEqualToString:_name]);
-}
-
-- (NSUInteger)hash {
-    return [_name hash] * 31 + static_cast<NSUInteger>(_size * 16);
+- (text::FontPointer)pangoDescription {
+    text::FontPointer font(pango_font_description_new());
+    pango_font_description_set_family(font.get(), [_family UTF8String]);
+    pango_font_description_set_absolute_size(font.get(), std::min(_size, 1e6) * PANGO_SCALE);
+    if (_bold) pango_font_description_set_weight(font.get(), PANGO_WEIGHT_BOLD);
+    if (_italic) pango_font_description_set_style(font.get(), PANGO_STYLE_ITALIC);
+    return font;
 }
 
 @end
 
 text::FontPointer text::description(NSFont* font) {
-    return description(std::string(text_of([font familyName])).c_str(), [font pointSize],
-                       [font isBold], [font isItalic]);
+    return [font pangoDescription];
 }

@@ -1,5 +1,4 @@
-#include "CoreGraphics/Context.h"
-#include "Foundation/StringText.h"
+#include "CoreGraphics/CairoContext.h"
 #include "TextLayout.h"
 
 #include <AppKit/NSGraphicsContext.h>
@@ -10,16 +9,15 @@ NSString* const NSParagraphStyleAttributeName = @"NSParagraphStyle";
 
 namespace {
 
-// What the current context draws with; null when there is nothing to draw on.
+// The current context's cairo; null when nothing can be drawn.
 cairo_t* current_cairo() {
-    NSGraphicsContext* current = [NSGraphicsContext currentContext];
-    graphics::Context* context =
-        graphics::context_of(static_cast<CGContextRef>([current graphicsPort]));
+    graphics::CairoContext* context =
+        graphics::context_of([[NSGraphicsContext currentContext] CGContext]);
     return context && context->state().drawable ? context->cairo : nullptr;
 }
 
-// Draws the lines that fit between the layout's top, at (x, top), and `height` below it. The
-// context has y upwards unless it is flipped; lines are set downwards from the top in both.
+// Draws the lines that fit between the layout's top, at (x, top), and `height` below it. In the
+// context y goes up unless it is flipped; the lines go down from the top in both.
 void draw_lines(PangoLayout* layout, double x, double top, double height, bool flipped) {
     cairo_t* cairo = current_cairo();
     if (!cairo) return;

@@ -1,5 +1,5 @@
-// Text as pango lays it out: one point is one unit, glyphs stand where their advances put them, and
-// nothing is hinted, so that a layout is the same at every scale.
+// Text laid out by pango: one point is one unit, and nothing is hinted, so that a layout is the
+// same at every scale.
 #pragma once
 
 #include <AppKit/NSFont.h>
@@ -20,14 +20,12 @@ struct FreeFont {
 using LayoutPointer = std::unique_ptr<PangoLayout, Release>;
 using FontPointer = std::unique_ptr<PangoFontDescription, FreeFont>;
 
-// The one context of all texts.
-PangoContext* context();
+PangoContext* context(); // shared by all texts
 
-FontPointer description(const char* family, double size, bool bold, bool italic);
 FontPointer description(NSFont* font);
 
-// One line after the other as the text has them; wrapped and aligned if `width` (points) is given.
-// Not to be changed: the layout of a text that was asked for before may be the same one.
+// The lines of the text; wrapped and aligned if `width` (points) is given. Layouts are cached and
+// shared: do not change them.
 LayoutPointer layout(NSAttributedString* string, const double* width);
 
 // In points.

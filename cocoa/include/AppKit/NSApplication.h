@@ -1,39 +1,34 @@
-// The application: its windows, its menu bar and the loop that hands events to them.
+// The application: its windows, its menu bar and the events for them.
 //
-// 1. Whoever has a program: [NSApplication sharedApplication], windows, [NSApp setMainMenu:], then
-//    [NSApp run], which tells the delegate and takes events until stop: or terminate:.
-// 2. An event: nextEventMatchingMask:... takes it from the queue or the display, firing timers
-//    while it waits; sendEvent: hands keys to key equivalents and the key window, all else to the
-//    window of the event.
-// 3. A loop of its own (tracking the mouse, a modal panel) calls nextEventMatchingMask:... itself.
+// 1. A program: [NSApplication sharedApplication], windows, [NSApp setMainMenu:], then a loop of
+//    nextEventMatchingMask:... and sendEvent:.
+// 2. nextEventMatchingMask:... takes an event from the queue or the display, firing timers while it
+//    waits; sendEvent: passes keys to key equivalents and the key window, all else to the window of
+//    the event.
+// 3. Nested loops (tracking the mouse, a modal panel) call nextEventMatchingMask:... themselves.
 //
-// On a display without a user nothing can arrive while one waits: with the queue empty and no timer
-// due before the date, nextEventMatchingMask:... answers nil at once, and every loop ends.
+// On a display without a user nothing can arrive during a wait: with the queue empty and no timer
+// due before the date, nextEventMatchingMask:... returns nil at once, and every loop ends.
 #pragma once
 
 #include <AppKit/NSEvent.h>
 #include <AppKit/NSResponder.h>
 
-@class NSArray, NSDate, NSMenu, NSMutableArray, NSNotification, NSWindow;
+@class NSArray, NSDate, NSMenu, NSMutableArray, NSWindow;
 
-enum { NSTerminateCancel = 0, NSTerminateNow = 1 };
+enum { NSTerminateCancel = 0 };
 typedef NSUInteger NSApplicationTerminateReply;
 
-enum { NSRunStoppedResponse = -1000, NSRunAbortedResponse = -1001 };
+enum { NSRunAbortedResponse = -1001 };
 
 FOUNDATION_EXPORT NSString* const NSEventTrackingRunLoopMode;
 FOUNDATION_EXPORT NSString* const NSModalPanelRunLoopMode;
-FOUNDATION_EXPORT NSString* const NSApplicationDidFinishLaunchingNotification;
-FOUNDATION_EXPORT NSString* const NSApplicationWillTerminateNotification;
 
 @class NSApplication;
 
 @protocol NSApplicationDelegate <NSObject>
 @optional
-- (void)applicationDidFinishLaunching:(NSNotification*)notification;
 - (NSApplicationTerminateReply)applicationShouldTerminate:(NSApplication*)sender;
-- (BOOL)applicationShouldTerminateAfterLastWindowClosed:(NSApplication*)sender;
-- (void)applicationWillTerminate:(NSNotification*)notification;
 @end
 
 @interface NSApplication : NSResponder {
@@ -46,36 +41,25 @@ FOUNDATION_EXPORT NSString* const NSApplicationWillTerminateNotification;
     NSInteger _modalCode;
     id<NSApplicationDelegate> _delegate; // not retained
     BOOL _modalEnded;
-    BOOL _running;
-    BOOL _stopped;
-    BOOL _launched;
 }
 + (NSApplication*)sharedApplication;
 
-- (id<NSApplicationDelegate>)delegate;
 - (void)setDelegate:(id<NSApplicationDelegate>)delegate;
-- (void)finishLaunching;
-- (void)run;
-- (BOOL)isRunning;
-- (void)stop:(id)sender;      // after the event that is being handled
 - (void)terminate:(id)sender; // asks the delegate, then exits the process
 
-// With a nil target: the first of the key window's responders, the window's delegate, the
-// application and its delegate that has the method.
+// With a nil target: the first of the key window's responders, the application and its delegate
+// that has the method.
 - (BOOL)sendAction:(SEL)action to:(id)target from:(id)sender;
 - (id)targetForAction:(SEL)action to:(id)target from:(id)sender;
 
-- (NSArray*)windows;        // all there are, in the order they were made
-- (NSArray*)orderedWindows; // those on the screen, front to back
-- (NSWindow*)windowWithWindowNumber:(NSInteger)number;
+- (NSArray*)windows; // in the order in which they were made
 - (NSWindow*)keyWindow;
 - (NSMenu*)mainMenu;
 - (void)setMainMenu:(NSMenu*)menu;
 - (void)updateWindows; // draws what needs it
 
-// Modal loops: events of the mouse reach the modal window alone.
+// Modal loops: the mouse reaches only the modal window.
 - (NSInteger)runModalForWindow:(NSWindow*)window;
-- (void)stopModal;
 - (void)stopModalWithCode:(NSInteger)code;
 - (void)abortModal;
 - (NSWindow*)modalWindow;

@@ -6,24 +6,12 @@
 #include <AppKit/NSButtonCell.h>
 #include <AppKit/NSControl.h>
 
-@class NSAttributedString;
-
-@interface NSButton : NSControl {
-  @private
-    NSButtonType _givenType;
-    BOOL _hasGivenType;
-}
+@interface NSButton : NSControl
 - (void)setButtonType:(NSButtonType)type;
-- (NSBezelStyle)bezelStyle;
 - (void)setBezelStyle:(NSBezelStyle)style;
-- (BOOL)isBordered;
-- (void)setBordered:(BOOL)flag;
 - (NSString*)title;
 - (void)setTitle:(NSString*)title;
-- (NSAttributedString*)attributedTitle;
 - (NSInteger)state;
 - (void)setState:(NSInteger)state;
-- (void)setNextState;
-- (NSString*)keyEquivalent;
 - (void)setKeyEquivalent:(NSString*)key;
 @end

@@ -3,24 +3,12 @@
 
 #include <AppKit/NSActionCell.h>
 
-enum {
-    NSMomentaryLightButton = 0,
-    NSPushOnPushOffButton = 1,
-    NSToggleButton = 2,
-    NSSwitchButton = 3,
-    NSRadioButton = 4,
-    NSMomentaryChangeButton = 5,
-    NSOnOffButton = 6,
-    NSMomentaryPushInButton = 7
-};
+@class NSAttributedString;
+
+enum { NSSwitchButton = 3, NSRadioButton = 4, NSMomentaryPushInButton = 7 };
 typedef NSUInteger NSButtonType;
 
-enum {
-    NSRoundedBezelStyle = 1,
-    NSRegularSquareBezelStyle = 2,
-    NSShadowlessSquareBezelStyle = 6,
-    NSSmallSquareBezelStyle = 12
-};
+enum { NSRoundedBezelStyle = 1 };
 typedef NSUInteger NSBezelStyle;
 
 @interface NSButtonCell : NSActionCell {
@@ -29,13 +17,13 @@ typedef NSUInteger NSBezelStyle;
     NSBezelStyle _bezelStyle;
     NSString* _keyEquivalent;
 }
-// What a click does to the state: nothing for the momentary types, the other of on and off for
-// push-on-push-off, toggle, on-off and switch; a radio button's goes on and stays on. A new cell is
-// momentary (push in).
+// What a click does to the state: a switch toggles it, a radio button sets it to on, any other type
+// leaves it. A new cell is momentary (push in).
 - (void)setButtonType:(NSButtonType)type;
-- (NSBezelStyle)bezelStyle;
-- (void)setBezelStyle:(NSBezelStyle)style;
+- (void)setBezelStyle:(NSBezelStyle)style; // any style but the rounded one has square corners
 - (NSString*)keyEquivalent;
 - (void)setKeyEquivalent:(NSString*)key;
-- (NSAttributedString*)attributedTitle; // the title in the cell's font and colour, centred
+- (NSAttributedString*)attributedTitle; // the title in the cell's font, colour and alignment
+// The title and the mark; in front of the bezel.
+- (void)drawInteriorWithFrame:(NSRect)frame inView:(NSView*)view;
 @end

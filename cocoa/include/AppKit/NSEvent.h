@@ -4,7 +4,7 @@
 
 #include <Foundation/Foundation.h>
 
-@class NSGraphicsContext, NSWindow;
+@class NSWindow;
 
 enum {
     NSLeftMouseDown = 1,
@@ -37,16 +37,13 @@ enum {
 static const NSUInteger NSAnyEventMask = (NSUInteger)-1;
 
 enum {
-    NSAlphaShiftKeyMask = 1 << 16,
     NSShiftKeyMask = 1 << 17,
     NSControlKeyMask = 1 << 18,
     NSAlternateKeyMask = 1 << 19,
-    NSCommandKeyMask = 1 << 20,
-    NSNumericPadKeyMask = 1 << 21,
-    NSFunctionKeyMask = 1 << 23
+    NSCommandKeyMask = 1 << 20
 };
 
-// Characters of keys that write none.
+// Characters that stand for keys that type none.
 enum : unsigned short {
     NSEnterCharacter = 0x0003,
     NSTabCharacter = 0x0009,
@@ -72,77 +69,27 @@ enum : unsigned short {
     NSEventType _type;
     NSPoint _location;
     NSUInteger _modifierFlags;
-    NSTimeInterval _timestamp;
     NSInteger _windowNumber;
-    NSInteger _eventNumber;
     NSInteger _clickCount;
-    float _pressure;
     NSString* _characters;
-    NSString* _charactersIgnoringModifiers;
-    BOOL _repeat;
-    unsigned short _keyCode;
     short _subtype;
-    NSInteger _data1;
-    NSInteger _data2;
-    CGFloat _deltaX;
     CGFloat _deltaY;
 }
-+ (NSEvent*)mouseEventWithType:(NSEventType)type
-                      location:(NSPoint)location
-                 modifierFlags:(NSUInteger)flags
-                     timestamp:(NSTimeInterval)time
-                  windowNumber:(NSInteger)window
-                       context:(NSGraphicsContext*)context
-                   eventNumber:(NSInteger)number
-                    clickCount:(NSInteger)clicks
-                      pressure:(float)pressure;
-+ (NSEvent*)keyEventWithType:(NSEventType)type
-                       location:(NSPoint)location
-                  modifierFlags:(NSUInteger)flags
-                      timestamp:(NSTimeInterval)time
-                   windowNumber:(NSInteger)window
-                        context:(NSGraphicsContext*)context
-                     characters:(NSString*)characters
-    charactersIgnoringModifiers:(NSString*)unmodified
-                      isARepeat:(BOOL)repeat
-                        keyCode:(unsigned short)code;
-+ (NSEvent*)otherEventWithType:(NSEventType)type
-                      location:(NSPoint)location
-                 modifierFlags:(NSUInteger)flags
-                     timestamp:(NSTimeInterval)time
-                  windowNumber:(NSInteger)window
-                       context:(NSGraphicsContext*)context
-                       subtype:(short)subtype
-                         data1:(NSInteger)data1
-                         data2:(NSInteger)data2;
-
-// Where the pointer is, in screen coordinates.
-+ (NSPoint)mouseLocation;
-
 - (NSEventType)type;
 - (NSUInteger)modifierFlags;
-- (NSTimeInterval)timestamp;
-- (NSInteger)windowNumber;
-- (NSWindow*)window; // nil when there is no such window (any more)
+- (NSWindow*)window; // nil if there is none or it was freed
 - (NSPoint)locationInWindow;
 
 // Mouse events.
-- (NSInteger)eventNumber;
 - (NSInteger)clickCount;
-- (float)pressure;
 
 // Key events.
 - (NSString*)characters;
-- (NSString*)charactersIgnoringModifiers;
-- (BOOL)isARepeat;
-- (unsigned short)keyCode;
+- (NSString*)charactersIgnoringModifiers; // the same: displays report them so
 
-// Scroll events: lines; positive deltaY moves the contents down, as the wheel turned away does.
-- (CGFloat)deltaX;
+// Scroll events: lines; positive is the wheel turned away, which moves the contents down.
 - (CGFloat)deltaY;
 
 // Application-defined events.
 - (short)subtype;
-- (NSInteger)data1;
-- (NSInteger)data2;
 @end

@@ -1,47 +1,32 @@
-// Menus: of the menu bar and of pop-up buttons. An index out of range is answered with nil or is
-// passed over.
+// Menus: of the menu bar and of pop-up buttons. For an index out of range methods return nil or do
+// nothing.
 #pragma once
 
 #include <AppKit/NSMenuItem.h>
 #include <Foundation/Foundation.h>
 
-@class NSArray, NSEvent, NSMutableArray, NSPopUpButtonCell;
+@class NSEvent, NSMutableArray, NSPopUpButtonCell;
 
 @interface NSMenu : NSObject {
   @private
     NSString* _title;
     NSMutableArray* _items;
-    NSMenu* _supermenu;            // not retained
-    NSPopUpButtonCell* _popUpCell; // whose list this is; not retained
-    BOOL _autoenablesItems;
+    NSPopUpButtonCell* _popUpCell; // whose list it is; not retained
 }
 - (id)initWithTitle:(NSString*)title;
-- (NSString*)title;
-- (void)setTitle:(NSString*)title;
+- (NSString*)title; // not shown: items with a submenu have titles of their own
 
 - (void)addItem:(NSMenuItem*)item;
 - (NSMenuItem*)addItemWithTitle:(NSString*)title action:(SEL)action keyEquivalent:(NSString*)key;
 - (void)insertItem:(NSMenuItem*)item atIndex:(NSInteger)index;
-- (NSMenuItem*)insertItemWithTitle:(NSString*)title
-                            action:(SEL)action
-                     keyEquivalent:(NSString*)key
-                           atIndex:(NSInteger)index;
-- (void)removeItem:(NSMenuItem*)item;
 - (void)removeItemAtIndex:(NSInteger)index;
-- (void)removeAllItems;
 - (NSInteger)numberOfItems;
-- (NSArray*)itemArray;
 - (NSMenuItem*)itemAtIndex:(NSInteger)index;
-- (NSMenuItem*)itemWithTitle:(NSString*)title;
-- (NSMenuItem*)itemWithTag:(NSInteger)tag;
-- (NSInteger)indexOfItem:(NSMenuItem*)item; // -1 if it is none of the menu's
+- (NSInteger)indexOfItem:(NSMenuItem*)item; // -1 if it is not in the menu
 - (NSInteger)indexOfItemWithTitle:(NSString*)title;
-- (NSMenu*)supermenu;
 
-// With autoenabling (the default) update enables each item that has an action and no submenu
-// exactly when something would take the action and its validateMenuItem:, if any, says YES.
-- (BOOL)autoenablesItems;
-- (void)setAutoenablesItems:(BOOL)flag;
+// Enables an item that has an action and no submenu if there is a target for the action whose
+// validateMenuItem:, if it has one, returns YES; disables it otherwise.
 - (void)update;
 
 // Performs the enabled item whose key equivalent the event is, in this menu or one below it. The

@@ -13,17 +13,14 @@
   @private
     NSString* _title;
     NSString* _keyEquivalent;
-    NSUInteger _keyMask;
     NSMenu* _menu; // not retained
     NSMenu* _submenu;
     id _target; // not retained
     SEL _action;
     NSInteger _tag;
     NSInteger _state;
-    id _representedObject;
     BOOL _enabled;
     BOOL _separator;
-    BOOL _hidden;
 }
 + (NSMenuItem*)separatorItem;
 - (id)initWithTitle:(NSString*)title action:(SEL)action keyEquivalent:(NSString*)key;
@@ -33,8 +30,6 @@
 - (void)setTitle:(NSString*)title;
 - (BOOL)isEnabled; // YES
 - (void)setEnabled:(BOOL)flag;
-- (BOOL)isHidden;
-- (void)setHidden:(BOOL)flag;
 - (NSInteger)state;
 - (void)setState:(NSInteger)state;
 - (NSInteger)tag;
@@ -42,14 +37,8 @@
 - (id)target;
 - (void)setTarget:(id)target;
 - (SEL)action;
-- (void)setAction:(SEL)action;
-- (id)representedObject;
-- (void)setRepresentedObject:(id)object;
 - (NSMenu*)submenu;
 - (void)setSubmenu:(NSMenu*)menu;
 - (BOOL)hasSubmenu;
-- (NSString*)keyEquivalent; // an upper case letter means Shift as well
-- (void)setKeyEquivalent:(NSString*)key;
-- (NSUInteger)keyEquivalentModifierMask; // the command key
-- (void)setKeyEquivalentModifierMask:(NSUInteger)mask;
+- (NSString*)keyEquivalent; // typed with the command key; an upper case letter means Shift as well
 @end

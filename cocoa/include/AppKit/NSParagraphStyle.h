@@ -1,38 +1,18 @@
-// How the lines of a text are set.
+// How the lines of a text are set. Lines wrap at words.
 #pragma once
 
 #include <Foundation/Foundation.h>
 
-enum {
-    NSLeftTextAlignment = 0,
-    NSRightTextAlignment = 1,
-    NSCenterTextAlignment = 2,
-    NSJustifiedTextAlignment = 3,
-    NSNaturalTextAlignment = 4
-};
+enum { NSLeftTextAlignment = 0, NSRightTextAlignment = 1, NSCenterTextAlignment = 2 };
 typedef NSUInteger NSTextAlignment;
 
-enum {
-    NSLineBreakByWordWrapping = 0,
-    NSLineBreakByCharWrapping,
-    NSLineBreakByClipping,
-    NSLineBreakByTruncatingHead,
-    NSLineBreakByTruncatingTail,
-    NSLineBreakByTruncatingMiddle
-};
-typedef NSUInteger NSLineBreakMode;
-
-@interface NSParagraphStyle : NSObject <NSCopying, NSMutableCopying> {
+@interface NSParagraphStyle : NSObject <NSMutableCopying> {
     NSTextAlignment _alignment;
-    NSLineBreakMode _lineBreakMode;
 }
-+ (NSParagraphStyle*)defaultParagraphStyle; // natural alignment, wrapping at words
++ (NSParagraphStyle*)defaultParagraphStyle; // left
 - (NSTextAlignment)alignment;
-- (NSLineBreakMode)lineBreakMode;
 @end
 
 @interface NSMutableParagraphStyle : NSParagraphStyle
 - (void)setAlignment:(NSTextAlignment)alignment;
-- (void)setLineBreakMode:(NSLineBreakMode)mode;
-- (void)setParagraphStyle:(NSParagraphStyle*)other;
 @end

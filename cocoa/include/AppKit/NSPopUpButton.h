@@ -7,23 +7,11 @@
 #include <AppKit/NSPopUpButtonCell.h>
 
 @interface NSPopUpButton : NSButton
-- (id)initWithFrame:(NSRect)frame pullsDown:(BOOL)pullsDown; // as of the cell
+- (id)initWithFrame:(NSRect)frame pullsDown:(BOOL)pullsDown; // there are no pull-downs: NO
 - (NSMenu*)menu;
 - (void)setMenu:(NSMenu*)menu;
 - (void)addItemWithTitle:(NSString*)title;
-- (void)insertItemWithTitle:(NSString*)title atIndex:(NSInteger)index;
-- (void)removeItemAtIndex:(NSInteger)index;
-- (void)removeAllItems;
-- (NSInteger)numberOfItems;
-- (NSArray*)itemArray;
-- (NSArray*)itemTitles;
-- (NSMenuItem*)itemAtIndex:(NSInteger)index;
-- (NSString*)itemTitleAtIndex:(NSInteger)index;
-- (NSInteger)indexOfItemWithTitle:(NSString*)title;
-- (NSMenuItem*)selectedItem;
 - (NSInteger)indexOfSelectedItem;
 - (NSString*)titleOfSelectedItem;
-- (void)selectItem:(NSMenuItem*)item;
 - (void)selectItemAtIndex:(NSInteger)index;
-- (void)selectItemWithTitle:(NSString*)title;
 @end

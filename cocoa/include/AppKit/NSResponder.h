@@ -1,10 +1,10 @@
-// The chain of objects that an event or an action passes along until one of them takes it:
-// view, superview, ..., content view, window, application.
+// The chain of objects along which an event passes until one of them takes it: view, superview,
+// ..., content view, window.
 #pragma once
 
 #include <Foundation/Foundation.h>
 
-@class NSEvent, NSMenu;
+@class NSEvent;
 
 @interface NSResponder : NSObject {
   @private
@@ -20,20 +20,7 @@
 
 // Each passes the event on to the next responder; at the end of the chain it is dropped.
 - (void)mouseDown:(NSEvent*)event;
-- (void)mouseDragged:(NSEvent*)event;
-- (void)mouseUp:(NSEvent*)event;
-- (void)mouseMoved:(NSEvent*)event;
 - (void)rightMouseDown:(NSEvent*)event;
-- (void)rightMouseDragged:(NSEvent*)event;
-- (void)rightMouseUp:(NSEvent*)event;
 - (void)scrollWheel:(NSEvent*)event;
 - (void)keyDown:(NSEvent*)event;
-- (void)keyUp:(NSEvent*)event;
-
-// NO unless a subclass takes the key.
-- (BOOL)performKeyEquivalent:(NSEvent*)event;
-
-// Performs the action if the receiver has such a method, else tries the next responder.
-- (BOOL)tryToPerform:(SEL)action with:(id)object;
-- (void)doCommandBySelector:(SEL)command;
 @end

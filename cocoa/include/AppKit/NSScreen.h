@@ -7,7 +7,6 @@
 
 @interface NSScreen : NSObject
 + (NSScreen*)mainScreen;
-+ (NSArray*)screens;
 - (NSRect)frame;
 - (NSRect)visibleFrame; // without the menu bar
 - (CGFloat)backingScaleFactor;

@@ -1,7 +1,6 @@
-// A knob on a line: a number between two bounds. Wider than high it is horizontal (smallest at the
-// left), otherwise vertical (smallest at the bottom). It sends its action at each step of a drag,
-// or at its end alone if it is not continuous. With the focus, the arrows move it by a twentieth of
-// its range, Home and End to the bounds.
+// A knob on a line: a number from 0 to 1. A slider that is wider than high is horizontal (0 at the
+// left), otherwise vertical (0 at the bottom). It sends its action at each step of a drag. With the
+// focus, the arrows move it by a twentieth, Home and End to its ends.
 #pragma once
 
 #include <AppKit/NSActionCell.h>
@@ -10,20 +9,9 @@
 @interface NSSliderCell : NSActionCell {
   @private
     double _value;
-    double _minValue;
-    double _maxValue;
     CGFloat _grip; // from the knob's middle to where the mouse took it
 }
-- (double)minValue; // 0
-- (void)setMinValue:(double)value;
-- (double)maxValue; // 1
-- (void)setMaxValue:(double)value;
-- (NSRect)knobRectInBounds:(NSRect)bounds;
 @end
 
 @interface NSSlider : NSControl
-- (double)minValue;
-- (void)setMinValue:(double)value;
-- (double)maxValue;
-- (void)setMaxValue:(double)value;
 @end

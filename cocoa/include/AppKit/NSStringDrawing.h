@@ -1,9 +1,8 @@
 // Measuring and drawing text, in the current graphics context.
 //
 // Points and rectangles are in the current coordinates. In a flipped context a text's origin is its
-// upper left corner, otherwise its lower left; it stands upright in both. Attributes that are
-// missing: Helvetica's place is taken by the system font in 12 points, black, the default paragraph
-// style.
+// upper left corner, otherwise its lower left; it is upright in both. The defaults of the
+// attributes are the system font in 12 points, black and the default paragraph style.
 #pragma once
 
 #include <Foundation/Foundation.h>
@@ -18,8 +17,8 @@ FOUNDATION_EXPORT NSString* const NSParagraphStyleAttributeName;  // NSParagraph
 - (NSSize)sizeWithAttributes:(NSDictionary*)attributes;
 // Without wrapping.
 - (void)drawAtPoint:(NSPoint)point withAttributes:(NSDictionary*)attributes;
-// Wrapped to the rectangle's width and clipped to the rectangle; a line that no longer fits into
-// its height is left out, but for the first.
+// Wrapped to the rectangle's width and clipped to the rectangle; lines that do not fit its height
+// are left out, except the first.
 - (void)drawInRect:(NSRect)rect withAttributes:(NSDictionary*)attributes;
 @end
 

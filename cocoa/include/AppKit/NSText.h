@@ -1,53 +1,31 @@
 // A line of text that is edited: the window's field editor. It works on UTF-16 units but never
-// splits a pair of surrogates. A delegate hears of changes and of the end of the editing.
+// splits a surrogate pair.
 #pragma once
 
 #include <AppKit/NSView.h>
 
-@class NSColor, NSFont, NSMutableString, NSNotification;
-
-// How editing ended, under the key NSTextMovement of NSTextDidEndEditingNotification's user info.
-enum {
-    NSIllegalTextMovement = 0,
-    NSReturnTextMovement = 0x10,
-    NSTabTextMovement = 0x11,
-    NSBacktabTextMovement = 0x12,
-    NSCancelTextMovement = 0x17
-};
-FOUNDATION_EXPORT NSString* const NSTextMovement;
-FOUNDATION_EXPORT NSString* const NSTextDidChangeNotification;
-FOUNDATION_EXPORT NSString* const NSTextDidEndEditingNotification;
+@class NSColor, NSFont, NSMutableString, NSTextField;
 
 @interface NSText : NSView {
   @private
     NSMutableString* _text;
     NSFont* _font;
     NSColor* _textColor;
-    NSUInteger _alignment;
-    id _delegate;       // not retained
-    NSUInteger _anchor; // the end of the selection that stays
-    NSUInteger _caret;  // the end that moves
-    CGFloat _scroll;    // how far the text is moved to the left
-    NSInteger _movement;
-    BOOL _editable;
+    NSTextField* _field; // that it edits; not retained
+    NSUInteger _anchor;  // the end of the selection that stays
+    NSUInteger _caret;   // the end that moves
+    CGFloat _scroll;     // how far the text is shifted to the left
 }
 - (NSString*)string;
-- (void)setString:(NSString*)text; // the caret goes to its end; nobody is told
-- (NSFont*)font;
+- (void)setString:(NSString*)text; // the caret goes to its end
 - (void)setFont:(NSFont*)font;
-- (NSColor*)textColor;
 - (void)setTextColor:(NSColor*)color;
-- (NSUInteger)alignment;
-- (void)setAlignment:(NSUInteger)alignment;
-- (BOOL)isEditable;
-- (void)setEditable:(BOOL)flag;
-- (id)delegate;
-- (void)setDelegate:(id)delegate;
 
 - (NSRange)selectedRange;
-- (void)setSelectedRange:(NSRange)range; // cut to the text
-- (void)insertText:(id)text; // in place of the selection; line breaks and controls become blanks
+- (void)setSelectedRange:(NSRange)range; // clamped to the text
+- (void)insertText:(id)text; // replaces the selection; line breaks and controls become spaces
 
+// Commands, performed by name.
 - (void)selectAll:(id)sender;
 - (void)copy:(id)sender;
 - (void)cut:(id)sender;

@@ -11,9 +11,7 @@
     NSColor* _textColor;
     BOOL _drawsBackground;
 }
-- (NSColor*)backgroundColor;
 - (void)setBackgroundColor:(NSColor*)color;
-- (BOOL)drawsBackground;
 - (void)setDrawsBackground:(BOOL)flag;
 - (NSColor*)textColor;
 - (void)setTextColor:(NSColor*)color;

@@ -1,5 +1,4 @@
-// Types of Core Foundation and the counting of references. Every reference type is an Objective-C
-// object underneath: CFRetain and CFRelease are retain and release.
+// Types of Core Foundation, and CFRelease. Every reference is an Objective-C object underneath.
 #pragma once
 
 #include <stddef.h>
@@ -12,25 +11,11 @@
 #endif
 
 typedef unsigned char Boolean;
-typedef uint8_t UInt8;
-typedef uint16_t UInt16;
 typedef uint32_t UInt32;
-typedef int8_t SInt8;
-typedef int16_t SInt16;
-typedef int32_t SInt32;
-typedef UInt16 UniChar;
-
 typedef long CFIndex;
-typedef unsigned long CFHashCode;
 typedef const void* CFTypeRef;
 typedef const struct __CFString* CFStringRef;
 typedef const struct __CFAllocator* CFAllocatorRef;
 
-// The only allocator.
-CF_EXPORT const CFAllocatorRef kCFAllocatorDefault;
-
 // NULL is not allowed and aborts, as on the platform.
-CF_EXPORT CFTypeRef CFRetain(CFTypeRef object);
 CF_EXPORT void CFRelease(CFTypeRef object);
-CF_EXPORT CFIndex CFGetRetainCount(CFTypeRef object);
-CF_EXPORT Boolean CFEqual(CFTypeRef a, CFTypeRef b);

@@ -1,4 +1,4 @@
-// The part of Core Foundation that Cocoa code reaches for: references and strings.
+// Core Foundation: references and strings.
 #pragma once
 
 #include <CoreFoundation/CFBase.h>

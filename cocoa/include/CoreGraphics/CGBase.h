@@ -1,4 +1,4 @@
-// The scalar type of Core Graphics and the marks of its declarations.
+// The scalar type of Core Graphics and the macros of its declarations.
 #pragma once
 
 #include <stdbool.h>
@@ -13,6 +13,3 @@
 #define CG_INLINE static inline
 
 typedef double CGFloat;
-#define CGFLOAT_MIN 2.2250738585072014e-308
-#define CGFLOAT_MAX 1.7976931348623157e+308
-#define CGFLOAT_IS_DOUBLE 1

@@ -1,4 +1,4 @@
-// All of Foundation: objects, strings, collections, values, geometry, notifications.
+// All of Foundation: objects, strings, collections, geometry, dates and timers.
 #pragma once
 
 #include <CoreFoundation/CoreFoundation.h>
@@ -10,13 +10,10 @@
 #include <Foundation/NSAutoreleasePool.h>
 #include <Foundation/NSDate.h>
 #include <Foundation/NSDictionary.h>
-#include <Foundation/NSEnumerator.h>
 #include <Foundation/NSException.h>
 #include <Foundation/NSGeometry.h>
-#include <Foundation/NSNotification.h>
 #include <Foundation/NSObject.h>
 #include <Foundation/NSRange.h>
 #include <Foundation/NSRunLoop.h>
 #include <Foundation/NSString.h>
 #include <Foundation/NSTimer.h>
-#include <Foundation/NSValue.h>

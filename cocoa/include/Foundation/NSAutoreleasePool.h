@@ -12,7 +12,6 @@ struct NSPoolObjects;
 }
 // To the innermost pool.
 + (void)addObject:(id)object;
-- (void)addObject:(id)object;
 // Releases the objects and the pool itself, as -release does.
 - (void)drain;
 @end

@@ -9,12 +9,10 @@ typedef double NSTimeInterval; // seconds
   @private
     NSTimeInterval _seconds; // since the start of 2001, UTC
 }
-+ (id)date; // now
 + (id)dateWithTimeIntervalSinceNow:(NSTimeInterval)seconds;
 + (id)dateWithTimeIntervalSinceReferenceDate:(NSTimeInterval)seconds;
 + (id)distantPast;
 + (id)distantFuture;
 + (NSTimeInterval)timeIntervalSinceReferenceDate;
 - (NSTimeInterval)timeIntervalSinceReferenceDate;
-- (NSTimeInterval)timeIntervalSinceNow; // negative for the past
 @end

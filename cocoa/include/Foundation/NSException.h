@@ -1,29 +1,16 @@
-// Exceptions as objects, thrown inside C++ exceptions (Foundation/NSRaisedException.h). One that
-// nobody catches is named on standard error and aborts.
+// Exceptions. One is raised as a C++ exception, a std::runtime_error of the name, a colon and the
+// reason: the compiler matches no handler for Objective-C classes. Code that is written for the
+// platform too catches everything with catch (...).
 #pragma once
 
 #include <Foundation/NSObject.h>
-
-@class NSDictionary;
 
 FOUNDATION_EXPORT NSString* const NSGenericException;
 FOUNDATION_EXPORT NSString* const NSRangeException;
 FOUNDATION_EXPORT NSString* const NSInvalidArgumentException;
 FOUNDATION_EXPORT NSString* const NSInternalInconsistencyException;
 
-@interface NSException : NSObject <NSCopying> {
-    NSString* _name;
-    NSString* _reason;
-    NSDictionary* _userInfo;
-}
-+ (NSException*)exceptionWithName:(NSString*)name
-                           reason:(NSString*)reason
-                         userInfo:(NSDictionary*)userInfo;
-+ (void)raise:(NSString*)name format:(NSString*)format, ...;
-- (id)initWithName:(NSString*)name reason:(NSString*)reason userInfo:(NSDictionary*)userInfo;
+@interface NSException : NSObject
 // Does not return.
-- (void)raise;
-- (NSString*)name;
-- (NSString*)reason;
-- (NSDictionary*)userInfo;
++ (void)raise:(NSString*)name format:(NSString*)format, ...;
 @end

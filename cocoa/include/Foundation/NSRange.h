@@ -1,4 +1,4 @@
-// A location and a length, in units of whatever is being counted.
+// A location and a length.
 #pragma once
 
 #include <Foundation/NSObjCRuntime.h>
@@ -14,10 +14,4 @@ NS_INLINE NSRange NSMakeRange(NSUInteger location, NSUInteger length) {
 }
 NS_INLINE NSUInteger NSMaxRange(NSRange range) {
     return range.location + range.length;
-}
-NS_INLINE BOOL NSLocationInRange(NSUInteger location, NSRange range) {
-    return location >= range.location && location - range.location < range.length;
-}
-NS_INLINE BOOL NSEqualRanges(NSRange a, NSRange b) {
-    return a.location == b.location && a.length == b.length;
 }

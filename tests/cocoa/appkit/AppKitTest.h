@@ -1,13 +1,13 @@
-// What the tests of windows and controls share: a titled key window on a headless display of
-// 1440 x 900 points with a flipped content view, a target that writes down the actions it gets, and
-// the demand that a test leaves no object behind.
+// The fixture of the tests of windows and controls: a titled key window on a headless display of
+// 1440 x 900 points with a flipped content view, a target that logs its actions, and a check that
+// no object is leaked.
 #pragma once
+
+#include "tests/cocoa/Pool.h"
 
 #include <AppKit/NSDisplayStandIn.h>
 #include <Cocoa/Cocoa.h>
-#include <Foundation/NSLiveObjects.h>
 
-#include <Foundation/NSRaisedException.h>
 #include <functional>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -17,14 +17,14 @@
 @interface TestFlippedView : NSView
 @end
 
-// Takes the focus and writes down its mouse, wheel and key events.
+// Takes the focus and logs its mouse, wheel and key events.
 @interface TestEventView : NSView {
   @public
     std::vector<std::string>* log;
 }
 @end
 
-// Writes "<tag>" for each action, or "<tag>=<string value>" with `values` set.
+// Logs "<tag>" for each action, or "<tag>=<string value>" with `values` set.
 @interface TestTarget : NSObject {
   @public
     std::vector<std::string>* log;
@@ -50,13 +50,16 @@ class AppKitTest : public testing::Test {
         [content addSubview:view];
         return [view autorelease];
     }
-    // Controls of the kinds there are, with the target; 0 as tag: no action.
+    // Controls with the target; 0 as tag: no action.
     NSButton* button(NSRect frame, NSButtonType type, int tag);
     NSTextField* field(NSRect frame, NSString* text, int tag);
     NSPopUpButton* pop_up(NSRect frame, std::vector<NSString*> titles, int tag);
 
     std::vector<std::string> take_log();
     static std::string text(NSString* string) { return string ? [string UTF8String] : "(nil)"; }
+    static bool equal(NSRect a, NSRect b) {
+        return NSEqualPoints(a.origin, b.origin) && NSEqualSizes(a.size, b.size);
+    }
     static NSPoint middle(NSView* view);
     void click(NSView* view, NSInteger clicks = 1);
     void key(unichar character, NSUInteger modifiers = 0);
@@ -70,7 +73,8 @@ class AppKitTest : public testing::Test {
     static std::function<void(id)> hook; // called for each action
 
   private:
-    NSAutoreleasePool* pool_ = nil;
+    std::map<std::string, NSUInteger> _before;
+    NSAutoreleasePool* _pool = nil;
 };
 
 } // namespace appkit_test

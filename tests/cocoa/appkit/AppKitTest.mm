@@ -14,12 +14,6 @@
     const NSPoint at = [self convertPoint:[event locationInWindow] fromView:nil];
     log->push_back("down " + std::to_string(int(at.x)) + " " + std::to_string(int(at.y)));
 }
-- (void)mouseDragged:(NSEvent*)__attribute__((unused))event {
-    log->push_back("drag");
-}
-- (void)mouseUp:(NSEvent*)__attribute__((unused))event {
-    log->push_back("up");
-}
 - (BOOL)acceptsFirstResponder {
     return YES;
 }
@@ -50,45 +44,29 @@ namespace appkit_test {
 
 std::function<void(id)> AppKitTest::hook;
 
-namespace {
-std::string live_objects() {
-    std::string all;
-    NSVisitLiveObjects(
-        [](Class aClass, NSUInteger count, void* context) {
-            // What the process keeps for good: the application and shared objects made on demand.
-            *static_cast<std::string*>(context) +=
-                std::string(class_getName(aClass)) + " " + std::to_string(count) + "\n";
-        },
-        &all);
-    return all;
-}
-std::string before;
-} // namespace
-
 void AppKitTest::SetUp() {
-    pool_ = [[NSAutoreleasePool alloc] init];
+    _pool = [[NSAutoreleasePool alloc] init];
     static const bool warm = [] {
-        // Shared objects that stay come to life before anything is counted.
+        // Shared objects that are never freed are made before anything is counted.
         [NSApplication sharedApplication];
         [NSScreen mainScreen];
-        [NSPasteboard generalPasteboard];
-        [NSRunLoop mainRunLoop];
-        [NSNotificationCenter defaultCenter];
+        [NSRunLoop currentRunLoop];
         NSWindow* any = [[NSWindow alloc] initWithContentRect:NSMakeRect(0, 0, 50, 50)
                                                     styleMask:NSTitledWindowMask
                                                       backing:NSBackingStoreBuffered
                                                         defer:YES];
         [any setTitle:@"X"];
-        NSRenderWindow(any, 1);
+        NSRenderView([any contentView], 1);
+        [any displayIfNeeded];
         NSPostKey('x');
         NSDispatchEvents();
         [any release];
         return true;
     }();
     (void)warm;
-    [pool_ drain];
-    before = live_objects();
-    pool_ = [[NSAutoreleasePool alloc] init];
+    [_pool drain];
+    _before = live_objects();
+    _pool = [[NSAutoreleasePool alloc] init];
     NSUseHeadlessDisplay(NSMakeSize(1440, 900), 1);
     target = [[TestTarget alloc] init];
     window = [[NSWindow alloc] initWithContentRect:NSMakeRect(100, 200, 400, 300)
@@ -107,11 +85,11 @@ void AppKitTest::TearDown() {
     [window close];
     [window release];
     [target release];
-    // The last event stays with the application until the next comes.
+    // The application retains the last event until the next comes.
     NSPostKey(' ');
     NSDispatchEvents();
-    [pool_ drain];
-    EXPECT_EQ(live_objects(), before);
+    [_pool drain];
+    EXPECT_EQ(live_objects(), _before);
 }
 
 NSButton* AppKitTest::button(NSRect frame, NSButtonType type, int tag) {

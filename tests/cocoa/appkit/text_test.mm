@@ -12,7 +12,10 @@ class TextTest : public AppKitTest {
         one = field(NSMakeRect(10, 10, 100, 20), @"one", 1);
         two = field(NSMakeRect(10, 40, 100, 20), @"two", 2);
     }
-    NSRange selection() { return [(NSText*)[window firstResponder] selectedRange]; }
+    bool selected(NSUInteger location, NSUInteger length) {
+        const NSRange range = [(NSText*)[window firstResponder] selectedRange];
+        return range.location == location && range.length == length;
+    }
     NSTextField* one = nil;
     NSTextField* two = nil;
 };
@@ -20,7 +23,7 @@ class TextTest : public AppKitTest {
 TEST_F(TextTest, TabEditsOneFieldAfterTheOtherAndActsWhereTextChanged) {
     [window makeFirstResponder:one];
     EXPECT_EQ([one currentEditor], [window firstResponder]);
-    EXPECT_TRUE(NSEqualRanges(selection(), NSMakeRange(0, 3)));
+    EXPECT_TRUE(selected(0, 3));
     type(@"12");
     EXPECT_EQ(text([one stringValue]), "12");
     EXPECT_THAT(take_log(), IsEmpty());
@@ -44,11 +47,11 @@ TEST_F(TextTest, ReturnActsAndKeepsTheFocusWithAllSelected) {
     click(one);
     key('\r');
     EXPECT_THAT(take_log(), ElementsAre("1=one"));
-    EXPECT_TRUE(NSEqualRanges(selection(), NSMakeRange(0, 3)));
+    EXPECT_TRUE(selected(0, 3));
     type(@"5");
     key(NSEnterCharacter);
     EXPECT_THAT(take_log(), ElementsAre("1=5"));
-    // An action that moves the focus has its way.
+    // The action moves the focus.
     hook = [this](id) { [window makeFirstResponder:two]; };
     type(@"6");
     key('\r');
@@ -56,7 +59,7 @@ TEST_F(TextTest, ReturnActsAndKeepsTheFocusWithAllSelected) {
     EXPECT_EQ(text([one stringValue]), "6");
 }
 
-TEST_F(TextTest, EscapeBringsBackTheTextFromBefore) {
+TEST_F(TextTest, EscapeRestoresTheText) {
     [window makeFirstResponder:one];
     type(@"zzz");
     key(NSEscapeCharacter);
@@ -74,7 +77,7 @@ TEST_F(TextTest, EscapePressesTheCancelButtonFromWithinAField) {
     EXPECT_THAT(take_log(), ElementsAre("3=Button"));
 }
 
-TEST_F(TextTest, KeysEditAsTheyShould) {
+TEST_F(TextTest, KeysEdit) {
     constexpr NSUInteger S = NSShiftKeyMask, C = NSControlKeyMask;
     struct Step {
         unichar key;
@@ -100,7 +103,7 @@ TEST_F(TextTest, KeysEditAsTheyShould) {
         {@"", {{NSDeleteCharacter, 0}, {NSDeleteFunctionKey, 0}, {NSLeftArrowFunctionKey, 0}}, ""},
         {@"a\U0001F600", {{NSDeleteCharacter, 0}}, "a"},
         {@"a\U0001F600", {{NSLeftArrowFunctionKey, 0}, {'x', 0}}, "ax\U0001F600"},
-        {@"abc", {{0xF704, 0}, {'q', C}}, "abc"}, // keys that mean nothing here
+        {@"abc", {{0xF704, 0}, {'q', C}}, "abc"}, // keys without a command
     };
     for (const Case& c : cases) {
         [window makeFirstResponder:nil];
@@ -112,12 +115,9 @@ TEST_F(TextTest, KeysEditAsTheyShould) {
     }
 }
 
-TEST_F(TextTest, PastedTextStaysOnOneLine) {
-    NSPasteboard* board = [NSPasteboard generalPasteboard];
-    [board declareTypes:[NSArray arrayWithObject:NSStringPboardType] owner:nil];
-    [board setString:@"a\nb\tc" forType:NSStringPboardType];
+TEST_F(TextTest, InsertedTextStaysOnOneLine) {
     [window makeFirstResponder:one];
-    key('v', NSControlKeyMask);
+    [[one currentEditor] insertText:@"a\nb\tc"];
     EXPECT_EQ(text([one stringValue]), "a b c");
 }
 
@@ -125,25 +125,25 @@ TEST_F(TextTest, TheMouseSetsTheCaretAndSelects) {
     [one setStringValue:@"12.5 px"];
     NSPostClick(one, NSMakePoint(99, 10));
     NSDispatchEvents();
-    EXPECT_TRUE(NSEqualRanges(selection(), NSMakeRange(7, 0)));
+    EXPECT_TRUE(selected(7, 0));
     NSPostClick(one, NSMakePoint(2, 10));
     NSDispatchEvents();
-    EXPECT_TRUE(NSEqualRanges(selection(), NSMakeRange(0, 0)));
+    EXPECT_TRUE(selected(0, 0));
     NSPostClick(one, NSMakePoint(99, 10), 1, NSShiftKeyMask);
     NSDispatchEvents();
-    EXPECT_TRUE(NSEqualRanges(selection(), NSMakeRange(0, 7)));
+    EXPECT_TRUE(selected(0, 7));
     NSPostClick(one, NSMakePoint(8, 10), 2);
     NSDispatchEvents();
-    EXPECT_TRUE(NSEqualRanges(selection(), NSMakeRange(0, 4)));
+    EXPECT_TRUE(selected(0, 4));
     NSPostClick(one, NSMakePoint(8, 10), 3);
     NSDispatchEvents();
-    EXPECT_TRUE(NSEqualRanges(selection(), NSMakeRange(0, 7)));
+    EXPECT_TRUE(selected(0, 7));
     NSPostDrag(one, NSMakePoint(99, 10), NSMakePoint(-50, 10));
     NSDispatchEvents();
-    EXPECT_TRUE(NSEqualRanges(selection(), NSMakeRange(0, 7)));
+    EXPECT_TRUE(selected(0, 7));
 }
 
-TEST_F(TextTest, AClickOnAButtonLeavesTheEditingAloneOneOnAnotherFieldEndsIt) {
+TEST_F(TextTest, AClickOnAnotherFieldEndsTheEditingOneOnAButtonDoesNot) {
     NSButton* b = button(NSMakeRect(200, 10, 80, 20), NSMomentaryPushInButton, 3);
     [b setTitle:@"b"];
     click(one);
@@ -157,7 +157,7 @@ TEST_F(TextTest, AClickOnAButtonLeavesTheEditingAloneOneOnAnotherFieldEndsIt) {
     EXPECT_NE([two currentEditor], nil);
 }
 
-TEST_F(TextTest, ProgramsMayChangeTheFieldUnderTheUsersHands) {
+TEST_F(TextTest, ProgramsMayChangeAFieldThatIsEdited) {
     [window makeFirstResponder:one];
     type(@"x");
     [one setStringValue:@"new"];
@@ -176,7 +176,7 @@ TEST_F(TextTest, ProgramsMayChangeTheFieldUnderTheUsersHands) {
     EXPECT_THAT(take_log(), IsEmpty());
 }
 
-TEST_F(TextTest, LabelsTakeNoFocusAndPassTheMouseOn) {
+TEST_F(TextTest, LabelsTakeNoFocus) {
     [one setEditable:NO];
     EXPECT_TRUE(NSTextFieldIsLabel(one));
     EXPECT_FALSE(NSTextFieldIsLabel(two));
@@ -184,32 +184,4 @@ TEST_F(TextTest, LabelsTakeNoFocusAndPassTheMouseOn) {
     EXPECT_EQ([window firstResponder], window);
     key('\t');
     EXPECT_NE([two currentEditor], nil);
-}
-
-@interface TestTextDelegate : NSObject <NSTextFieldDelegate> {
-  @public
-    std::vector<std::string>* log;
-}
-@end
-@implementation TestTextDelegate
-- (void)controlTextDidBeginEditing:(NSNotification*)__attribute__((unused))notification {
-    log->push_back("begin");
-}
-- (void)controlTextDidChange:(NSNotification*)notification {
-    log->push_back(std::string("change ") + [[[notification object] stringValue] UTF8String]);
-}
-- (void)controlTextDidEndEditing:(NSNotification*)__attribute__((unused))notification {
-    log->push_back("end");
-}
-@end
-
-TEST_F(TextTest, TheDelegateHearsOfBeginChangesAndEndBeforeTheAction) {
-    TestTextDelegate* delegate = [[[TestTextDelegate alloc] init] autorelease];
-    delegate->log = target->log;
-    [one setDelegate:delegate];
-    [window makeFirstResponder:one];
-    type(@"ab");
-    key('\t');
-    EXPECT_THAT(take_log(), ElementsAre("begin", "change a", "change ab", "end", "1=ab"));
-    [one setDelegate:nil];
 }

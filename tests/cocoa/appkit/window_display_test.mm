@@ -7,7 +7,7 @@
 using appkit_test::AppKitTest;
 using testing::ElementsAre;
 
-// The display in a window of the desktop, on SDL's driver for no desktop.
+// The display in a window of the desktop, with SDL's dummy driver.
 class WindowDisplayTest : public AppKitTest {
   protected:
     void SetUp() override {
@@ -20,7 +20,7 @@ class WindowDisplayTest : public AppKitTest {
         NSUseHeadlessDisplay(NSMakeSize(1440, 900), 1);
         AppKitTest::TearDown();
     }
-    // Nothing here waits: events that are there are taken, then the call answers.
+    // Does not wait.
     static void drain() { NSDispatchEvents(); }
     // A point of a view as the desktop counts: pixels from the upper left corner.
     SDL_Point pixel(NSView* view) {
@@ -116,11 +116,12 @@ TEST_F(WindowDisplayTest, TheDesktopsMouseAndKeysReachTheControls) {
 - (NSApplicationTerminateReply)applicationShouldTerminate:(NSApplication*)__attribute__((unused))
                                                           app {
     ++asked;
+    if ([NSApp modalWindow]) [NSApp abortModal];
     return NSTerminateCancel;
 }
 @end
 
-TEST_F(WindowDisplayTest, ClosingTheWindowAsksWhoeverRunsIt) {
+TEST_F(WindowDisplayTest, ClosingTheWindowAsksTheDelegate) {
     QuitRefuser* refuser = [[[QuitRefuser alloc] init] autorelease];
     [NSApp setDelegate:refuser];
     SDL_Event quit = {};
@@ -129,8 +130,8 @@ TEST_F(WindowDisplayTest, ClosingTheWindowAsksWhoeverRunsIt) {
     drain();
     EXPECT_EQ(refuser->asked, 1);
     NSPopUpButton* list = pop_up(NSMakeRect(10, 10, 100, 20), {@"one", @"two"}, 1);
-    push_button(SDL_MOUSEBUTTONDOWN,
-                pixel(list)); // opens it; closing chooses nothing, then it asks
+    // Opens the list. The quit event closes it without a choice, then reaches the delegate.
+    push_button(SDL_MOUSEBUTTONDOWN, pixel(list));
     push_button(SDL_MOUSEBUTTONUP, pixel(list));
     SDL_PushEvent(&quit);
     drain();
@@ -139,7 +140,30 @@ TEST_F(WindowDisplayTest, ClosingTheWindowAsksWhoeverRunsIt) {
     [NSApp setDelegate:nil];
 }
 
-TEST_F(WindowDisplayTest, BringsToTheScreenWhatIsDrawnAndCountsIt) {
+TEST_F(WindowDisplayTest, AlertPanelsRunByKeysAndEndWithTheWindow) {
+    QuitRefuser* refuser = [[[QuitRefuser alloc] init] autorelease];
+    [NSApp setDelegate:refuser];
+    struct Case {
+        std::vector<unichar> keys;
+        NSInteger answer;
+    } cases[] = {{{'\r'}, NSAlertDefaultReturn},
+                 {{NSEscapeCharacter}, NSAlertOtherReturn},
+                 {{'\t', '\t', ' '}, NSAlertAlternateReturn},
+                 {{NSBackTabCharacter, ' '}, NSAlertOtherReturn},
+                 {{}, NSAlertErrorReturn}};
+    for (const Case& c : cases) {
+        for (unichar character : c.keys) NSPostKey(character);
+        SDL_Event quit = {};
+        quit.type = SDL_QUIT;
+        SDL_PushEvent(&quit);
+        EXPECT_EQ(NSRunAlertPanel(@"Title", @"Text", @"Yes", @"No", @"Cancel"), c.answer);
+        EXPECT_TRUE([window isKeyWindow]);
+        drain();
+    }
+    [NSApp setDelegate:nil];
+}
+
+TEST_F(WindowDisplayTest, FramesAreDrawnWhenSomethingChanges) {
     const NSUInteger before = NSFramesDrawn();
     drain();
     EXPECT_EQ(NSFramesDrawn(), before) << "nothing is drawn without a cause";

@@ -11,8 +11,8 @@
     NSInteger _highlighted;
 }
 - (id)initWithMenu:(NSMenu*)menu frame:(NSRect)frame;
-- (NSInteger)highlightedItem; // -1: none
+- (NSInteger)highlightedItem; // -1 for none
 - (void)setHighlightedItem:(NSInteger)index;
-- (NSInteger)itemAtPoint:(NSPoint)point; // -1: none
+- (NSInteger)itemAtPoint:(NSPoint)point; // -1 for none
 - (NSRect)rectOfItem:(NSInteger)index;
 @end

@@ -1,10 +1,12 @@
 #include <AppKit/NSDisplayStandIn.h>
 
-#include "Alerts.h"
+#include "AlertRecord.h"
 #include "display/HeadlessDisplay.h"
 #include "display/SDLDisplay.h"
-#include "Internal.h"
-#include "MenuTracker.h"
+#include "NSButtonPrivate.h"
+#include "NSEventPrivate.h"
+#include "NSViewPrivate.h"
+#include "NSWindowPrivate.h"
 #include "Theme.h"
 #include "WindowServer.h"
 
@@ -36,20 +38,17 @@ NSUInteger NSFramesDrawn() {
     return WindowServer::shared().frames();
 }
 
+static void post(NSEvent* event) {
+    [[NSApplication sharedApplication] postEvent:event atStart:NO];
+}
+
 void NSPostMouse(NSWindow* window, NSEventType type, NSPoint location, NSInteger clicks,
                  NSUInteger modifiers) {
-    static NSInteger number = 0;
-    [[NSApplication sharedApplication]
-        postEvent:[NSEvent mouseEventWithType:type
-                                     location:location
-                                modifierFlags:modifiers
-                                    timestamp:[NSDate timeIntervalSinceReferenceDate]
-                                 windowNumber:[window windowNumber]
-                                      context:nil
-                                  eventNumber:++number
-                                   clickCount:clicks
-                                     pressure:1]
-          atStart:NO];
+    post([NSEvent mouseEvent:type
+                          at:location
+               modifierFlags:modifiers
+                windowNumber:[window windowNumber]
+                  clickCount:clicks]);
 }
 
 void NSPostClick(NSView* view, NSPoint point, NSInteger clicks, NSUInteger modifiers) {
@@ -70,58 +69,35 @@ void NSPostDrag(NSView* view, NSPoint from, NSPoint to) {
     NSPostMouse([view window], NSLeftMouseUp, end, 1, 0);
 }
 
-void NSPostScroll(NSView* view, NSPoint point, CGFloat deltaX, CGFloat deltaY) {
-    [[NSApplication sharedApplication] postEvent:[NSEvent scrollEventAt:[view convertPoint:point
-                                                                                    toView:nil]
-                                                          modifierFlags:0
-                                                           windowNumber:[[view window] windowNumber]
-                                                                 deltaX:deltaX
-                                                                 deltaY:deltaY]
-                                         atStart:NO];
+void NSPostScroll(NSView* view, NSPoint point, CGFloat, CGFloat deltaY) {
+    post([NSEvent scrollEventAt:[view convertPoint:point toView:nil]
+                  modifierFlags:0
+                   windowNumber:[[view window] windowNumber]
+                         deltaY:deltaY]);
 }
 
-static BOOL post_to_display(cocoa::DisplayEvent event, NSPoint screen) {
+BOOL NSPostScreenMouse(NSEventType type, NSPoint screen, NSInteger clicks) {
+    using Kind = cocoa::DisplayEvent::Kind;
     auto* display = dynamic_cast<cocoa::HeadlessDisplay*>(&WindowServer::shared().display());
     if (!display) return NO;
+    cocoa::DisplayEvent event;
+    event.kind = type == NSLeftMouseDown ? Kind::MouseDown
+                 : type == NSLeftMouseUp ? Kind::MouseUp
+                                         : Kind::MouseMove;
+    event.clicks = static_cast<int>(clicks);
     event.x = screen.x;
     event.y = display->size().height - screen.y;
     display->post(event);
     return YES;
 }
 
-BOOL NSPostScreenMouse(NSEventType type, NSPoint screen, NSInteger clicks) {
-    using Kind = cocoa::DisplayEvent::Kind;
-    cocoa::DisplayEvent event;
-    event.kind = type == NSLeftMouseDown ? Kind::mouse_down
-                 : type == NSLeftMouseUp ? Kind::mouse_up
-                                         : Kind::mouse_move;
-    event.clicks = static_cast<int>(clicks);
-    return post_to_display(event, screen);
-}
-
-BOOL NSPostScreenScroll(NSPoint screen, CGFloat deltaX, CGFloat deltaY) {
-    cocoa::DisplayEvent event;
-    event.kind = cocoa::DisplayEvent::Kind::wheel;
-    event.dx = deltaX;
-    event.dy = deltaY;
-    return post_to_display(event, screen);
-}
-
 static void post_key(NSString* characters, NSUInteger modifiers) {
-    NSApplication* application = [NSApplication sharedApplication];
+    NSWindow* key = [[NSApplication sharedApplication] keyWindow];
     for (const NSEventType type : {NSKeyDown, NSKeyUp})
-        [application
-            postEvent:[NSEvent keyEventWithType:type
-                                             location:NSZeroPoint
-                                        modifierFlags:modifiers
-                                            timestamp:[NSDate timeIntervalSinceReferenceDate]
-                                         windowNumber:[[application keyWindow] windowNumber]
-                                              context:nil
-                                           characters:characters
-                          charactersIgnoringModifiers:characters
-                                            isARepeat:NO
-                                              keyCode:0]
-              atStart:NO];
+        post([NSEvent keyEvent:type
+                    characters:characters
+                 modifierFlags:modifiers
+                  windowNumber:[key windowNumber]]);
 }
 
 void NSPostKey(unichar character, NSUInteger modifiers) {
@@ -167,10 +143,6 @@ NSPicture NSRenderView(NSView* view, CGFloat scale) {
     return picture;
 }
 
-NSPicture NSRenderWindow(NSWindow* window, CGFloat scale) {
-    return NSRenderView([window borderView], scale);
-}
-
 NSPicture NSRenderScreen() {
     WindowServer& server = WindowServer::shared();
     NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
@@ -182,24 +154,12 @@ NSPicture NSRenderScreen() {
     return picture;
 }
 
-NSPicture NSWindowPixels(NSWindow* window) {
-    const NSWindowState* state = [window state];
-    if (!state) return {};
-    return {state->width, state->height, state->pixels};
-}
-
 void NSSetNextAlertAnswer(NSUInteger button) {
     cocoa::alert_record().next_answer = button;
 }
-void NSSetAlertsInteractive(BOOL flag) {
-    cocoa::alert_record().interactive = flag;
-}
 
 std::vector<NSShownAlert> NSShownAlerts() {
-    std::vector<NSShownAlert> alerts;
-    for (const cocoa::ShownAlert& alert : cocoa::alert_record().shown)
-        alerts.push_back({alert.title, alert.message, alert.buttons});
-    return alerts;
+    return cocoa::alert_record().shown;
 }
 void NSForgetShownAlerts() {
     cocoa::alert_record().shown.clear();
@@ -214,19 +174,4 @@ NSButtonType NSTypeOfButton(NSButton* button) {
 }
 BOOL NSTextFieldIsLabel(NSTextField* field) {
     return ![field isEditable];
-}
-
-NSRect NSRectOfPopUpItem(NSPopUpButton* button, NSInteger index) {
-    NSMenu* menu = [button menu];
-    if (![menu itemAtIndex:index] || ![button window]) return NSZeroRect;
-    NSPopUpButtonCell* cell = [button cell];
-    const NSRect bounds = [button bounds];
-    const NSRect list = [cell listRectForFrame:bounds inView:button];
-    const double top = NSMaxY(list) - cocoa::menu_item_top(menu, index);
-    const double height = [[menu itemAtIndex:index] isSeparatorItem]
-                              ? cocoa::theme::menu_separator_height
-                              : cocoa::theme::menu_row_height;
-    const NSPoint corner =
-        [[button window] convertScreenToBase:NSMakePoint(NSMinX(list), top - height)];
-    return [button convertRect:NSMakeRect(corner.x, corner.y, NSWidth(list), height) fromView:nil];
 }

@@ -1,4 +1,4 @@
-#include "ObjectStore.h"
+#include "ObjectMemory.h"
 
 #include <Foundation/NSLiveObjects.h>
 
@@ -19,7 +19,7 @@
 #define ASAN_UNPOISON_MEMORY_REGION(address, size) ((void)(address), (void)(size))
 #endif
 
-// What a freed object is turned into. It has no methods: every message ends in the forwarding hook.
+// The class of zombies. It has no methods: every message ends in the forwarding hook.
 __attribute__((objc_root_class))
 @interface NSFreedObject {
     Class isa;
@@ -41,8 +41,7 @@ Prefix* prefix_of(id object) {
 
 struct LiveCounts {
     std::mutex lock;
-    std::unordered_map<Class, NSUInteger> of_class;
-    NSUInteger total = 0;
+    std::unordered_map<Class, NSUInteger> by_class;
 };
 // Never destroyed: objects are freed until the very end of the process.
 LiveCounts& live_counts() {
@@ -53,26 +52,25 @@ LiveCounts& live_counts() {
 void count(Class of_class, int change) {
     LiveCounts& counts = live_counts();
     std::lock_guard guard(counts.lock);
-    counts.of_class[of_class] += change;
-    counts.total += change;
+    counts.by_class[of_class] += change;
 }
 
 #ifdef COCOA_ZOMBIES
-// The latest freed objects; older ones are given back to the allocator.
-constexpr size_t kept_zombies = 100000;
+// Older ones are really freed.
+constexpr size_t most_zombies = 100000;
 
-void entomb(id object, Class was, size_t size) {
+void make_zombie(id object, Class was, size_t size) {
     static std::mutex lock;
     static std::deque<id>* zombies = new std::deque<id>;
     prefix_of(object)->freed_class = was;
     char* body = reinterpret_cast<char*>(object) + sizeof(Class);
-    // Overwritten so that nothing seems reachable through it.
+    // Overwritten so that the leak checker reaches nothing through it.
     memset(body, 0x55, size - sizeof(Class));
     ASAN_POISON_MEMORY_REGION(body, size - sizeof(Class));
     *reinterpret_cast<Class*>(object) = objc_lookUpClass("NSFreedObject");
     std::lock_guard guard(lock);
     zombies->push_back(object);
-    if (zombies->size() <= kept_zombies) return;
+    if (zombies->size() <= most_zombies) return;
     free(prefix_of(zombies->front()));
     zombies->pop_front();
 }
@@ -80,11 +78,10 @@ void entomb(id object, Class was, size_t size) {
 
 } // namespace
 
-namespace object_store {
+namespace object_memory {
 
-id make(Class of_class, size_t extra_bytes) {
-    const size_t size = class_getInstanceSize(of_class) + extra_bytes;
-    void* memory = calloc(1, sizeof(Prefix) + size);
+id allocate(Class of_class) {
+    void* memory = calloc(1, sizeof(Prefix) + class_getInstanceSize(of_class));
     if (!memory) return nil;
     Prefix* prefix = new (memory) Prefix{1, Nil};
     *reinterpret_cast<Class*>(prefix + 1) = of_class;
@@ -92,11 +89,11 @@ id make(Class of_class, size_t extra_bytes) {
     return reinterpret_cast<id>(prefix + 1);
 }
 
-void dispose(id object) {
+void deallocate(id object) {
     Class of_class = object_getClass(object);
     count(of_class, -1);
 #ifdef COCOA_ZOMBIES
-    entomb(object, of_class, class_getInstanceSize(of_class));
+    make_zombie(object, of_class, class_getInstanceSize(of_class));
 #else
     free(prefix_of(object));
 #endif
@@ -110,11 +107,7 @@ bool drop_reference(id object) {
     return prefix_of(object)->references.fetch_sub(1, std::memory_order_acq_rel) > 1;
 }
 
-NSUInteger reference_count(id object) {
-    return prefix_of(object)->references.load();
-}
-
-void refuse_zombie(id object, SEL selector) {
+void check_zombie(id object, SEL selector) {
     static Class freed = objc_lookUpClass("NSFreedObject");
     if (object_getClass(object) != freed) return;
     fprintf(stderr, "*** -[%s %s]: message sent to deallocated instance %p\n",
@@ -122,39 +115,18 @@ void refuse_zombie(id object, SEL selector) {
     abort();
 }
 
-} // namespace object_store
-
-NSUInteger NSLiveObjectCount(Class aClass) {
-    LiveCounts& counts = live_counts();
-    std::lock_guard guard(counts.lock);
-    const auto found = counts.of_class.find(aClass);
-    return found == counts.of_class.end() ? 0 : found->second;
-}
-
-NSUInteger NSLiveObjectTotal(void) {
-    LiveCounts& counts = live_counts();
-    std::lock_guard guard(counts.lock);
-    return counts.total;
-}
+} // namespace object_memory
 
 void NSVisitLiveObjects(NSLiveObjectVisitor visitor, void* context) {
     std::vector<std::pair<Class, NSUInteger>> found;
     {
         LiveCounts& counts = live_counts();
         std::lock_guard guard(counts.lock);
-        for (const auto& entry : counts.of_class)
+        for (const auto& entry : counts.by_class)
             if (entry.second > 0) found.push_back(entry);
     }
     std::sort(found.begin(), found.end(), [](const auto& a, const auto& b) {
         return strcmp(class_getName(a.first), class_getName(b.first)) < 0;
     });
     for (const auto& [of_class, number] : found) visitor(of_class, number, context);
-}
-
-BOOL NSFreedObjectsAreWatched(void) {
-#ifdef COCOA_ZOMBIES
-    return YES;
-#else
-    return NO;
-#endif
 }

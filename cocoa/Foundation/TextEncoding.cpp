@@ -1,14 +1,14 @@
-#include "Encodings.h"
+#include "TextEncoding.h"
 
 #include <algorithm>
 #include <array>
 
-namespace encodings {
+namespace text_encoding {
 namespace {
 
 constexpr char32_t replacement = 0xFFFD;
 
-// The upper half of Mac Roman as it has been since 1998, with the euro sign at 0xDB.
+// The upper half of Mac Roman as of 1998, with the euro sign at 0xDB.
 constexpr std::array<char16_t, 128> mac_roman_upper = {
     0x00C4, 0x00C5, 0x00C7, 0x00C9, 0x00D1, 0x00D6, 0x00DC, 0x00E1, 0x00E0, 0x00E2, 0x00E4, 0x00E3,
     0x00E5, 0x00E7, 0x00E9, 0x00E8, 0x00EA, 0x00EB, 0x00ED, 0x00EC, 0x00EE, 0x00EF, 0x00F1, 0x00F3,
@@ -22,7 +22,7 @@ constexpr std::array<char16_t, 128> mac_roman_upper = {
     0x00CF, 0x00CC, 0x00D3, 0x00D4, 0xF8FF, 0x00D2, 0x00DA, 0x00DB, 0x00D9, 0x0131, 0x02C6, 0x02DC,
     0x00AF, 0x02D8, 0x02D9, 0x02DA, 0x00B8, 0x02DD, 0x02DB, 0x02C7};
 
-// The length of the character that starts at `at`, and the character; 0 when there is none.
+// The number of bytes of the character that starts at `at`; 0 when they are not UTF-8.
 size_t read_character(std::string_view text, size_t at, char32_t& character) {
     const auto byte = [&](size_t i) { return static_cast<unsigned char>(text[i]); };
     const unsigned char lead = byte(at);
@@ -40,17 +40,6 @@ size_t read_character(std::string_view text, size_t at, char32_t& character) {
     constexpr char32_t least[] = {0, 0, 0x80, 0x800, 0x10000};
     const bool surrogate = character >= 0xD800 && character < 0xE000;
     return character < least[length] || character > 0x10FFFF || surrogate ? 0 : length;
-}
-
-int byte_in(Encoding encoding, char32_t character) {
-    if (character < 0x80) return static_cast<int>(character);
-    if (encoding == Encoding::iso_latin1)
-        return character < 0x100 ? static_cast<int>(character) : -1;
-    if (encoding != Encoding::mac_roman) return -1;
-    const auto found = std::find(mac_roman_upper.begin(), mac_roman_upper.end(), character);
-    return found == mac_roman_upper.end()
-               ? -1
-               : 0x80 + static_cast<int>(found - mac_roman_upper.begin());
 }
 
 } // namespace
@@ -95,27 +84,26 @@ std::string repaired_utf8(std::string_view text) {
     return repaired;
 }
 
-std::optional<std::string> decode(std::string_view bytes, Encoding encoding) {
-    if (encoding == Encoding::utf8)
-        return is_utf8(bytes) ? std::optional(std::string(bytes)) : std::nullopt;
+std::string from_mac_roman(std::string_view bytes) {
     std::string text;
     text.reserve(bytes.size());
-    for (unsigned char byte : bytes) {
-        if (byte >= 0x80 && encoding == Encoding::ascii) return std::nullopt;
-        const bool mapped = byte >= 0x80 && encoding == Encoding::mac_roman;
-        append_character(text, mapped ? mac_roman_upper[byte - 0x80] : byte);
-    }
+    for (unsigned char byte : bytes)
+        append_character(text, byte < 0x80 ? byte : mac_roman_upper[byte - 0x80]);
     return text;
 }
 
-std::optional<std::string> encode(std::string_view text, Encoding encoding) {
-    if (encoding == Encoding::utf8) return std::string(text);
+std::optional<std::string> to_mac_roman(std::string_view text) {
     std::string bytes;
     bytes.reserve(text.size());
     for (size_t at = 0; at < text.size();) {
-        const int byte = byte_in(encoding, next_character(text, at));
-        if (byte < 0) return std::nullopt;
-        bytes += static_cast<char>(byte);
+        const char32_t character = next_character(text, at);
+        if (character < 0x80) {
+            bytes += static_cast<char>(character);
+            continue;
+        }
+        const auto found = std::find(mac_roman_upper.begin(), mac_roman_upper.end(), character);
+        if (found == mac_roman_upper.end()) return std::nullopt;
+        bytes += static_cast<char>(0x80 + (found - mac_roman_upper.begin()));
     }
     return bytes;
 }
@@ -155,4 +143,4 @@ std::string from_utf16(std::u16string_view units) {
     return text;
 }
 
-} // namespace encodings
+} // namespace text_encoding

@@ -1,5 +1,5 @@
-// Puts the windows' pictures together to the picture of the screen.
-#include "Internal.h"
+// Composes the screen from the windows' pictures.
+#include "NSWindowPrivate.h"
 #include "WindowServer.h"
 
 #include <algorithm>
@@ -17,9 +17,9 @@ struct Picture {
     int height;
 };
 
-constexpr std::array<unsigned char, 4> desktop_colour = {0x14, 0x14, 0x16, 0xff};
+constexpr std::array<unsigned char, 4> desktop_color = {0x14, 0x14, 0x16, 0xff};
 
-// Part of a row or column that is on the screen.
+// The part of a row or column that is on the screen.
 struct Span {
     int begin;
     int end;
@@ -53,7 +53,7 @@ void place(Picture screen, const NSWindowState& state, int left, int top, bool t
     }
 }
 
-// Darkens the surroundings of a window, the less the farther away.
+// Darkens the surroundings of a window, less with the distance.
 void cast_shadow(Picture screen, int left, int top, int width, int height, int reach) {
     const Span rows = clip(top - reach, height + 2 * reach, screen.height);
     const Span columns = clip(left - reach, width + 2 * reach, screen.width);
@@ -79,22 +79,22 @@ void cast_shadow(Picture screen, int left, int top, int width, int height, int r
 } // namespace
 
 std::vector<unsigned char> WindowServer::compose(int& width, int& height) {
-    const double scale = display_->scale();
+    const double scale = _display->scale();
     const NSSize size = screen_size();
     width = std::max(1, static_cast<int>(std::lround(size.width * scale)));
     height = std::max(1, static_cast<int>(std::lround(size.height * scale)));
     std::vector<unsigned char> pixels(static_cast<size_t>(width) * height * 4);
     for (size_t i = 0; i < pixels.size(); i += 4)
-        std::memcpy(pixels.data() + i, desktop_colour.data(), 4);
+        std::memcpy(pixels.data() + i, desktop_color.data(), 4);
     const Picture screen = {pixels.data(), width, height};
-    for (auto i = ordered_.rbegin(); i != ordered_.rend(); ++i) {
+    for (auto i = _ordered.rbegin(); i != _ordered.rend(); ++i) {
         NSWindow* window = *i;
         const NSWindowState& state = *[window state];
         if (state.pixels.empty()) continue;
         const NSRect frame = [window frame];
         const int left = static_cast<int>(std::lround(NSMinX(frame) * scale));
         const int top = static_cast<int>(std::lround((size.height - NSMaxY(frame)) * scale));
-        // What goes from edge to edge lies beside the others, not above them.
+        // No shadow of windows as wide as the screen.
         if (frame.size.width < size.width)
             cast_shadow(screen, left, top, state.width, state.height, static_cast<int>(12 * scale));
         place(screen, state, left, top, [window isTransparent]);
@@ -103,19 +103,19 @@ std::vector<unsigned char> WindowServer::compose(int& width, int& height) {
 }
 
 void WindowServer::update() {
-    if (!display_->is_seen()) return;
-    const std::vector<NSWindow*> windows = ordered_;
+    if (!_display->has_user()) return;
+    const std::vector<NSWindow*> windows = _ordered;
     for (NSWindow* window : windows)
-        if (std::find(ordered_.begin(), ordered_.end(), window) != ordered_.end())
+        if (std::find(_ordered.begin(), _ordered.end(), window) != _ordered.end())
             [window displayIfNeeded];
-    if (!stale_) return;
-    stale_ = false;
+    if (!_stale) return;
+    _stale = false;
     int width = 0, height = 0;
     std::vector<unsigned char> pixels = compose(width, height);
-    ++frames_;
-    if (pixels == shown_) return; // its size changes with the screen's alone
-    shown_ = std::move(pixels);
-    display_->present({shown_.data(), width, height});
+    ++_frames;
+    if (pixels == _shown) return; // of the same size: a change of display clears _shown
+    _shown = std::move(pixels);
+    _display->present({_shown.data(), width, height});
 }
 
 } // namespace cocoa

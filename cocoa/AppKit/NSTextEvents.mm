@@ -1,16 +1,13 @@
-// How the edited text looks and how keys and mouse work on it.
-#include "Internal.h"
-#include "Theme.h"
+// The keys and the mouse in the edited text.
+#include "NSTextPrivate.h"
 
-#include <algorithm>
+#include "NSApplicationPrivate.h"
+
 #include <AppKit/AppKit.h>
-#include <cmath>
-
-using namespace cocoa;
 
 namespace {
 
-// Which command a key stands for. The first entry that fits counts; `shift` -1 fits both.
+// The command of a key: that of the first entry that matches. A `shift` of -1 matches both.
 struct KeyCommand {
     unsigned short character;
     int shift;
@@ -53,85 +50,7 @@ constexpr struct {
 
 } // namespace
 
-@implementation NSText (Display)
-// Coordinates like those of the field around it.
-- (BOOL)isFlipped {
-    return YES;
-}
-
-// How far from the start of the text a position is.
-- (CGFloat)offsetOf:(NSUInteger)position {
-    if (position == 0) return 0;
-    return theme::measure([_text substringToIndex:position], [self font]).width;
-}
-
-- (CGFloat)startOfText {
-    const double room = [self bounds].size.width;
-    const double width = [self offsetOf:[_text length]];
-    if (width > room || _alignment == NSLeftTextAlignment) return -_scroll;
-    return _alignment == NSRightTextAlignment ? room - width - 1 : (room - width) / 2;
-}
-
-// The caret stays in sight, and no room is left empty that text could fill.
-- (void)selectionChanged {
-    const double room = [self bounds].size.width - 1;
-    const double caret = [self offsetOf:_caret], width = [self offsetOf:[_text length]];
-    _scroll = std::min(_scroll, std::max(0.0, width - room));
-    if (caret - _scroll > room) _scroll = caret - room;
-    if (caret < _scroll) _scroll = caret;
-    [self setNeedsDisplay:YES];
-}
-
-- (void)setFrameSize:(NSSize)size {
-    [super setFrameSize:size];
-    [self selectionChanged];
-}
-
-- (NSUInteger)positionAt:(CGFloat)x {
-    x -= [self startOfText];
-    NSUInteger low = 0, high = [_text length];
-    // The last position that does not lie behind x, then the nearer of it and the next.
-    while (low < high) {
-        const NSUInteger middle = (low + high + 1) / 2;
-        if ([self offsetOf:middle] <= x)
-            low = middle;
-        else
-            high = middle - 1;
-    }
-    if (low > 0 && low < [_text length] && ([_text characterAtIndex:low] & 0xfc00) == 0xdc00) --low;
-    const NSUInteger next = [self after:low];
-    return x - [self offsetOf:low] > [self offsetOf:next] - x ? next : low;
-}
-
-- (void)drawRect:(NSRect)__attribute__((unused))dirty {
-    const NSRect bounds = [self bounds];
-    const double start = [self startOfText];
-    const NSRange range = [self selectedRange];
-    NSColor* color = _textColor ? _textColor : theme::text();
-    if (range.length) {
-        const double from = start + [self offsetOf:range.location];
-        const double to = start + [self offsetOf:NSMaxRange(range)];
-        [[theme::accent() colorWithAlphaComponent:0.45] setFill];
-        NSRectFillUsingOperation(NSMakeRect(from, NSMinY(bounds), to - from, NSHeight(bounds)),
-                                 NSCompositeSourceOver);
-    }
-    theme::draw_line(_text, NSMakeRect(start, NSMinY(bounds), NSWidth(bounds), NSHeight(bounds)),
-                     [self font], color, NSLeftTextAlignment);
-    if (range.length == 0 && _editable) {
-        [color setFill];
-        const double caret = std::min(start + [self offsetOf:_caret], NSWidth(bounds) - 1);
-        NSRectFill(NSMakeRect(std::max(caret, 0.0), NSMinY(bounds), 1, NSHeight(bounds)));
-    }
-}
-
-// The ring is the field's.
-- (NSRect)focusRingRect {
-    return NSZeroRect;
-}
-- (BOOL)canBecomeKeyView {
-    return NO;
-}
-
+@implementation NSText (Events)
 // One click sets the caret, two select a word, three all; a drag extends.
 - (void)mouseDown:(NSEvent*)event {
     NSPoint point = [self convertPoint:[event locationInWindow] fromView:nil];
@@ -145,20 +64,14 @@ constexpr struct {
     }
     const BOOL extends = [event clickCount] < 2;
     while (extends) {
-        event = [NSApp nextEventMatchingMask:NSLeftMouseDraggedMask | NSLeftMouseUpMask
-                                   untilDate:[NSDate distantFuture]
-                                      inMode:NSEventTrackingRunLoopMode
-                                     dequeue:YES];
+        event = [NSApp nextDragOrMouseUp];
         if ([event type] != NSLeftMouseDragged) return;
         point = [self convertPoint:[event locationInWindow] fromView:nil];
         [self moveTo:[self positionAt:point.x] extending:YES];
     }
 }
-// What the mouse does to the text is no business of the field's.
-- (void)mouseUp:(NSEvent*)__attribute__((unused))event {
-}
 
-// Copying and its like go before the key equivalents of the menu bar, for the view with the focus.
+// Copy, cut, paste and select all take precedence over the key equivalents of the menu bar.
 - (BOOL)performKeyEquivalent:(NSEvent*)event {
     if ([[self window] firstResponder] != self) return NO;
     NSString* key = [event charactersIgnoringModifiers];
@@ -166,7 +79,7 @@ constexpr struct {
         return NO;
     for (const auto& entry : edit_commands)
         if (entry.character == [key characterAtIndex:0]) {
-            [self doCommandBySelector:sel_registerName(entry.command)];
+            [self performSelector:sel_registerName(entry.command) withObject:nil];
             return YES;
         }
     return NO;
@@ -182,13 +95,13 @@ constexpr struct {
     for (const KeyCommand& entry : key_commands) {
         if (entry.character != character || entry.word != word) continue;
         if (entry.shift != -1 && entry.shift != shift) continue;
-        [self doCommandBySelector:sel_registerName(entry.command)];
+        [self performSelector:sel_registerName(entry.command) withObject:nil];
         return;
     }
     const bool command = flags & (NSCommandKeyMask | NSControlKeyMask);
-    const bool writes =
+    const bool types =
         character >= ' ' && character != 0x7f && !(character >= 0xf700 && character < 0xf900);
-    if (writes && !command)
+    if (types && !command)
         [self insertText:characters];
     else
         [super keyDown:event];

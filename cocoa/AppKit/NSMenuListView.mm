@@ -1,20 +1,17 @@
-#include "MenuList.h"
+#include "NSMenuListView.h"
 
-#include "Internal.h"
 #include "MenuTracker.h"
 #include "Theme.h"
 
 #include <algorithm>
 #include <AppKit/AppKit.h>
 #include <cmath>
-#include <string>
 
 namespace cocoa {
 
 static const double list_padding = 4;
 
 static double row_height(NSMenuItem* item) {
-    if ([item isHidden]) return 0;
     return [item isSeparatorItem] ? theme::menu_separator_height : theme::menu_row_height;
 }
 
@@ -29,25 +26,19 @@ double menu_list_height(NSMenu* menu) {
     return menu_item_top(menu, [menu numberOfItems]) + list_padding;
 }
 
-// The key equivalent as it is written in a menu: modifiers in words, the key in upper case.
+// A key equivalent as menus show it: the modifiers' names and the key in upper case.
 static NSString* key_text(NSMenuItem* item) {
     NSString* key = [item keyEquivalent];
     if ([key length] != 1) return @"";
     unichar character = [key characterAtIndex:0];
-    const NSUInteger mask = [item keyEquivalentModifierMask];
-    const bool upper = character >= 'A' && character <= 'Z';
+    const bool shift = character >= 'A' && character <= 'Z';
     if (character >= 'a' && character <= 'z') character = (unichar)(character - 'a' + 'A');
     NSString* name = [NSString stringWithCharacters:&character length:1];
     if (character == NSDeleteCharacter || character == 0x08) name = @"Backspace";
     if (character == NSDeleteFunctionKey) name = @"Delete";
     if (character == '\r') name = @"Return";
     if (character == ' ') name = @"Space";
-    NSString* text = @"";
-    if (mask & (NSCommandKeyMask | NSControlKeyMask))
-        text = [text stringByAppendingString:@"Ctrl+"];
-    if (mask & NSAlternateKeyMask) text = [text stringByAppendingString:@"Alt+"];
-    if (upper || (mask & NSShiftKeyMask)) text = [text stringByAppendingString:@"Shift+"];
-    return [text stringByAppendingString:name];
+    return [shift ? @"Ctrl+Shift+" : @"Ctrl+" stringByAppendingString:name];
 }
 
 double menu_list_width(NSMenu* menu) {
@@ -128,7 +119,6 @@ using namespace cocoa;
 - (void)drawRow:(NSInteger)index {
     NSMenuItem* item = [_menu itemAtIndex:index];
     const NSRect row = [self rectOfItem:index];
-    if ([item isHidden]) return;
     if ([item isSeparatorItem]) {
         [theme::separator() setFill];
         NSRectFill(NSMakeRect(NSMinX(row) + 8, std::floor(NSMidY(row)), NSWidth(row) - 16, 1));
@@ -143,8 +133,8 @@ using namespace cocoa;
     if (lit) color = theme::accent_text();
     if ([item state] != NSOffState) [self drawCheck:row color:color];
     const NSRect text = NSMakeRect(NSMinX(row) + 22, NSMinY(row), NSWidth(row) - 36, NSHeight(row));
-    theme::draw_line([item title], text, theme::menu_font(), color, 0);
-    theme::draw_line(key_text(item), text, theme::menu_font(), color, 1);
+    theme::draw_line([item title], text, theme::menu_font(), color, NSLeftTextAlignment);
+    theme::draw_line(key_text(item), text, theme::menu_font(), color, NSRightTextAlignment);
     if ([item hasSubmenu]) [self drawSubmenuArrow:row color:color];
 }
 
