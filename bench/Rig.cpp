@@ -78,7 +78,7 @@ Rig::~Rig() {
     try {
         visit([&] { _host.shut_down(); });
     } catch (const std::exception&) {
-        // It was told of when it happened, or the measuring is over.
+        // Reported when it happened, or the measuring is over.
     }
 }
 

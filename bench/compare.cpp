@@ -1,5 +1,5 @@
-// Compares two files of figures: bench_compare A.json B.json. Ratios to the peer are told rather
-// than times where there is a peer: they hold from machine to machine.
+// Compares two files of figures: bench_compare A.json B.json. Prints ratios to
+// the peer rather than times where there is a peer: they hold from machine to machine.
 
 #include <nlohmann/json.hpp>
 

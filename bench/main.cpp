@@ -55,8 +55,8 @@ void measure(benchmark::State& state, const Case& it, std::vector<Figure>& figur
     }
 }
 
-// Megabytes at the peak of a process that does a case once; 0 when it failed. The process tells it
-// itself: what its parent would be told counts the parent's own memory too.
+// Megabytes at the peak of a process that does a case once; 0 when it failed. The process
+// measures itself: what the system reports to its parent includes the parent's own memory.
 double peak_of(const std::string& name) {
     const std::string program = std::filesystem::read_symlink("/proc/self/exe");
     FILE* const child = ::popen(("exec '" + program + "' --once '" + name + "'").c_str(), "r");

@@ -1,5 +1,5 @@
 // The bytes of a fuzz target's input, taken as values one after the other; after their end come
-// zeros. What a target asserts goes through require(), so that a failure tells what was wrong.
+// zeros. What a target asserts goes through require(), so that a failure says what was wrong.
 
 #pragma once
 

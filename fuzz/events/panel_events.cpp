@@ -63,7 +63,8 @@ void fuzz::try_input(Bytes& bytes) {
     std::string reports;
     Session session(parse_scene(scene, "scene"), {}, make_dialog_driver(), out,
                     [&](const std::string& line) {
-                        // The scene may lose a layer that the next idle call would have told of.
+                        // The scene may lose a layer that the plug-in notices only at its next idle
+                        // call.
                         if (!line.ends_with("a layer that is no more")) reports += line + "\n";
                     });
     session.load(PLUGIN);
