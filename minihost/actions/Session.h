@@ -33,8 +33,8 @@ struct Dialog {
 class Session {
   public:
     // `out` receives what actions print, `report` messages.
-    Session(Scene scene, HostOptions options, std::unique_ptr<DialogDriver> driver, std::ostream& out,
-            Host::Reporter report);
+    Session(Scene scene, HostOptions options, std::unique_ptr<DialogDriver> driver,
+            std::ostream& out, Host::Reporter report);
     ~Session();
 
     // Loads the plug-in and the names of its controls. Throws LoadError or SceneError.

@@ -4,8 +4,8 @@
 #include "minihost/check/Checks.h"
 #include "minihost/check/ReplayCommands.h"
 #include "minihost/check/Report.h"
-#include "minihost/model/OutputFile.h"
 #include "minihost/dialog/DialogDriver.h"
+#include "minihost/model/OutputFile.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -29,8 +29,8 @@ const char* const scene = R"({"format": "minihost scene 1",
 class Plugin : public testing::Test {
   protected:
     void start(HostOptions options = {}) {
-        session.emplace(parse_scene(scene, "test"), std::move(options), make_dialog_driver(), printed,
-                        [this](const std::string& line) { messages.push_back(line); });
+        session.emplace(parse_scene(scene, "test"), std::move(options), make_dialog_driver(),
+                        printed, [this](const std::string& line) { messages.push_back(line); });
         session->load(PLUGIN);
     }
     void act(std::initializer_list<Words> lines) {
