@@ -1,6 +1,5 @@
 #include "cylinder/MainDlg.h"
 
-#include "ADMLibrary/HostPointers.h"
 #include "cylinder/control_ids.h"
 #include "cylinder/layout.h"
 #include "cylinder/orientation.h"

@@ -1,5 +1,7 @@
 #include "cylinder/scaling.h"
 
+#include "core/truncated.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>

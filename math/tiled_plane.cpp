@@ -42,7 +42,7 @@ FPoint TiledPlane::get_tile_pos(double w, double h, std::int64_t cell) const {
     if (_cols == 1 && _rows == 1)
         return {aligned(_anchor % 3, w, width), aligned(_anchor / 3, h, height)};
     const double cw = width / _cols, ch = height / _rows;
-    const auto column = static_cast<double>(cell % _cols), row = static_cast<double>(cell / _cols);
+    const auto column = cell % _cols, row = cell / _cols;
     return {column * cw - width / 2 + cw / 2, row * ch - height / 2 + ch / 2};
 }
 

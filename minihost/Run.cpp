@@ -94,7 +94,7 @@ class SessionRunner {
   private:
     void report(const std::string& line) {
         _progress.stop();
-        std::cerr << "minihost: " << line << std::endl;
+        std::cerr << "minihost: " << line << '\n';
     }
 
     // Reports an error and goes on.
@@ -129,7 +129,7 @@ int show(const Request& request, Scene scene) {
     try {
         window.emplace(window_options(request));
     } catch (const std::exception& error) {
-        std::cerr << "minihost: " << error.what() << std::endl;
+        std::cerr << "minihost: " << error.what() << '\n';
         return failure_status;
     }
     return SessionRunner(request, std::move(scene), window->make_dialog_driver())
@@ -153,10 +153,10 @@ int run(const Request& request) {
         const std::vector<ParsedAction> actions = actions_of(request);
         return SessionRunner(request, std::move(scene), make_dialog_driver()).run(actions);
     } catch (const OutputError& error) {
-        std::cerr << "minihost: " << error.what() << std::endl;
+        std::cerr << "minihost: " << error.what() << '\n';
         return failure_status;
     } catch (const std::exception& error) { // bad input, or no memory
-        std::cerr << "minihost: " << error.what() << std::endl;
+        std::cerr << "minihost: " << error.what() << '\n';
         return bad_input_status;
     }
 }

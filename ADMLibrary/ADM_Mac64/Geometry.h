@@ -13,9 +13,6 @@ constexpr std::int16_t wrap16(std::int64_t value) {
     return static_cast<std::int16_t>(value);
 }
 
-// Truncates toward zero and clamps to 32 bits; 0 for NaN.
-int truncated(double value);
-
 NSRect frame_of(const Rect& r);
 // Truncates x, y, width and height before adding them up.
 Rect rect_of(const NSRect& frame);

@@ -1,17 +1,11 @@
 #include "ADMLibrary/ADM_Mac64/Geometry.h"
 
+#include "core/truncated.h"
+
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace adm {
-
-int truncated(double value) {
-    if (std::isnan(value)) return 0;
-    constexpr double lowest = std::numeric_limits<int>::min();
-    constexpr double highest = std::numeric_limits<int>::max();
-    return static_cast<int>(std::clamp(value, lowest, highest));
-}
 
 NSRect frame_of(const Rect& r) {
     return NSMakeRect(r.left, r.top, r.right - r.left, r.bottom - r.top);

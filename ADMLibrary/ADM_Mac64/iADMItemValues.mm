@@ -1,10 +1,10 @@
 // The values of items: on or off, alone or in a radio group, and numbers with a range.
 
 #include "ADMLibrary/ADM_Mac64/Assertions.h"
-#include "ADMLibrary/ADM_Mac64/Geometry.h"
 #include "ADMLibrary/ADM_Mac64/iADMDialog.h"
 #include "ADMLibrary/ADM_Mac64/iADMItem.h"
 #include "ADMLibrary/ADM_Mac64/NumberText.h"
+#include "core/truncated.h"
 
 #include <algorithm>
 #include <limits>
@@ -76,14 +76,14 @@ float iADMItem::GetFloatValue() {
 
 int iADMItem::GetIntValue() {
     char text[128];
-    if (!read_text(text)) return adm::truncated(_value);
+    if (!read_text(text)) return truncated(_value);
     int n = 0;
-    if (!adm::text_to_int(text, &n)) return adm::truncated(_value);
+    if (!adm::text_to_int(text, &n)) return truncated(_value);
     int result = n;
     if (static_cast<float>(n) > _maxValue)
-        result = adm::truncated(_maxValue);
+        result = truncated(_maxValue);
     else if (static_cast<float>(n) < _minValue)
-        result = adm::truncated(_minValue);
+        result = truncated(_minValue);
     _value = static_cast<float>(result);
     return result;
 }

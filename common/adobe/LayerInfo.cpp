@@ -2,15 +2,6 @@
 
 #include "common/adobe/angles.h"
 
-#include <limits>
-
-int truncated(double value) {
-    using Limits = std::numeric_limits<int>;
-    if (value >= Limits::max()) return Limits::max();
-    if (value <= Limits::min()) return Limits::min();
-    return value == value ? static_cast<int>(value) : 0;
-}
-
 void LayerInfo::refresh_mat() {
     using Matrix = math::TMatrix3D<double>;
     using Vector = math::TGeomVector3D<double>;

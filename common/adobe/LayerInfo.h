@@ -6,9 +6,6 @@
 #include "math/matrix.h"
 #include "sdk/Host.h"
 
-// `value` truncated toward zero; what does not fit gives the nearest int, no number gives 0.
-int truncated(double value);
-
 struct LayerInfo {
     A_long index = 0;                           // in its composition; the default sort key
     A_long sel_index = 0;                       // among the items of the selection it came from

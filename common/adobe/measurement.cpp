@@ -3,6 +3,7 @@
 #include "ADMLibrary/HostPointers.h"
 #include "common/adobe/angles.h"
 #include "common/adobe/AssistantDlg.h"
+#include "core/truncated.h"
 
 namespace {
 
@@ -12,15 +13,15 @@ using Vector = math::TGeomVector3D<double>;
 class LayerReader {
   public:
     LayerReader(AEGP_SuiteHandler& suites, AEGP_LayerH layer)
-        : streams(suites.StreamSuite4()), layer_suite(suites.LayerSuite5()), layer(layer) {}
+        : _streams(suites.StreamSuite4()), _layer_suite(suites.LayerSuite5()), _layer(layer) {}
 
     A_Err current_time(A_Time* time) const {
-        return layer_suite.AEGP_GetLayerCurrentTime(layer, AEGP_LTimeMode_CompTime, time);
+        return _layer_suite.AEGP_GetLayerCurrentTime(_layer, AEGP_LTimeMode_CompTime, time);
     }
 
     A_Err value(AEGP_LayerStream stream, const A_Time& time, AEGP_StreamVal* value) const {
-        return streams.AEGP_GetLayerStreamValue(layer, stream, AEGP_LTimeMode_CompTime, &time,
-                                                false, value);
+        return _streams.AEGP_GetLayerStreamValue(_layer, stream, AEGP_LTimeMode_CompTime, &time,
+                                                 false, value);
     }
 
     // Orientation with the three rotations added to it.
@@ -43,9 +44,9 @@ class LayerReader {
     }
 
   private:
-    const AEGP_StreamSuite4& streams;
-    const AEGP_LayerSuite5& layer_suite;
-    AEGP_LayerH layer;
+    const AEGP_StreamSuite4& _streams;
+    const AEGP_LayerSuite5& _layer_suite;
+    AEGP_LayerH _layer;
 };
 
 } // namespace

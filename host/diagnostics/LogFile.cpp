@@ -18,8 +18,10 @@ bool started = false;
 
 void start_log() {
     const std::time_t now = std::time(nullptr);
+    char date[32];
+    std::strftime(date, sizeof date, "%a %b %e %H:%M:%S %Y\n", std::localtime(&now));
     if (const File file{std::fopen(logfile_name, "wt")})
-        std::fprintf(file.get(), "Log file started %s\n", std::asctime(std::localtime(&now)));
+        std::fprintf(file.get(), "Log file started %s\n", date);
 }
 
 } // namespace

@@ -233,11 +233,15 @@ ParsedAction parse_action(const Words& words, const std::string& location) {
         const bool fits = count >= action.min_arguments &&
                           (action.max_arguments < 0 || count <= action.max_arguments);
         if (!fits || (action.run == set && arguments[0].find('=') == std::string::npos)) {
-            const std::string usage =
-                action.min_arguments == 0 && action.max_arguments == 0
-                    ? "takes no argument"
-                    : std::string("is used as: ") + action.name + " " + action.arguments;
-            throw UsageError(location + ": \"" + action.name + "\" " + usage);
+            std::string message = location + ": \"" + action.name + "\" ";
+            if (action.max_arguments == 0)
+                message += "takes no argument";
+            else
+                message.append("is used as: ")
+                    .append(action.name)
+                    .append(" ")
+                    .append(action.arguments);
+            throw UsageError(message);
         }
         return {&action, arguments, location};
     }

@@ -23,10 +23,10 @@ double number(const std::string& word) {
 }
 
 bool take_modifier(const std::string& word, RawEvent& event) {
-    constexpr std::pair<const char*, unsigned> keys[] = {{"shift", shift_key},
-                                                         {"control", control_key},
-                                                         {"option", option_key},
-                                                         {"command", command_key}};
+    constexpr std::pair<const char*, unsigned> keys[] = {{"shift", ShiftKey},
+                                                         {"control", ControlKey},
+                                                         {"option", OptionKey},
+                                                         {"command", CommandKey}};
     for (const auto& [name, bit] : keys) {
         if (word != name) continue;
         event.modifiers |= bit;

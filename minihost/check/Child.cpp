@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cmath>
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
@@ -182,7 +183,7 @@ void Child::check_limits() {
     const double seconds = std::chrono::duration<double>(limit).count();
     _result.kind = ChildResult::Kind::TimedOut;
     _result.last_checkpoint = _progress->last_checkpoint();
-    _result.cause = "did not end within " + std::to_string(static_cast<int>(seconds + 0.5)) + " s";
+    _result.cause = "did not end within " + std::to_string(std::lround(seconds)) + " s";
     _result.error_lines = last_error_lines();
 }
 

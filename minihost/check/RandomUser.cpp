@@ -4,7 +4,6 @@
 #include "minihost/actions/EventActions.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace minihost {
 

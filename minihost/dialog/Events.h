@@ -11,7 +11,7 @@
 namespace minihost {
 
 // Modifier keys, as bits.
-enum ModifierKeys : unsigned { shift_key = 1, control_key = 2, option_key = 4, command_key = 8 };
+enum ModifierKeys : unsigned { ShiftKey = 1, ControlKey = 2, OptionKey = 4, CommandKey = 8 };
 
 struct RawEvent {
     enum class Kind { MouseDown, MouseUp, MouseMove, Wheel, Key, Text };

@@ -12,10 +12,10 @@ namespace {
 
 NSUInteger flags(unsigned modifiers) {
     NSUInteger mask = 0;
-    if (modifiers & shift_key) mask |= NSShiftKeyMask;
-    if (modifiers & control_key) mask |= NSControlKeyMask;
-    if (modifiers & option_key) mask |= NSAlternateKeyMask;
-    if (modifiers & command_key) mask |= NSCommandKeyMask;
+    if (modifiers & ShiftKey) mask |= NSShiftKeyMask;
+    if (modifiers & ControlKey) mask |= NSControlKeyMask;
+    if (modifiers & OptionKey) mask |= NSAlternateKeyMask;
+    if (modifiers & CommandKey) mask |= NSCommandKeyMask;
     return mask;
 }
 

@@ -167,9 +167,9 @@ class SceneBuilder : public SceneJsonHandler {
 
     void on_key(const std::string& key) override {
         const FieldPath path{nullptr, key};
-        const auto name = std::find(std::begin(_names), std::end(_names), key);
-        if (name == std::end(_names)) reject(path, "unknown field");
-        bool& seen = _seen[name - std::begin(_names)];
+        const auto name = std::find(std::begin(names), std::end(names), key);
+        if (name == std::end(names)) reject(path, "unknown field");
+        bool& seen = _seen[name - std::begin(names)];
         if (seen) reject(path, "given twice");
         seen = true;
     }
@@ -214,8 +214,8 @@ class SceneBuilder : public SceneJsonHandler {
     }
 
   private:
-    static constexpr const char* _names[] = {"format", "composition", "active",
-                                             "layers", "selection",   "undo"};
+    static constexpr const char* names[] = {"format", "composition", "active",
+                                            "layers", "selection",   "undo"};
 
     static void read_format(const JsonValue& value, const FieldPath& path) {
         if (read_text(value, path) != "minihost scene 1")
@@ -268,7 +268,7 @@ class SceneBuilder : public SceneJsonHandler {
     Scene _scene;
     std::vector<LayerDraft> _drafts;
     std::vector<std::optional<double>> _selection; // indices; none for "other"
-    bool _seen[std::size(_names)] = {};
+    bool _seen[std::size(names)] = {};
 };
 
 } // namespace

@@ -30,8 +30,8 @@ struct Brush {
     std::vector<Stop> stops;
 
     Brush(const Rgba& color) : stops{{0, color}} {}
-    Brush(Kind kind_, Point from_, Point to_, std::vector<Stop> stops_)
-        : kind(kind_), from(from_), to(to_), stops(std::move(stops_)) {}
+    Brush(Kind brush_kind, Point start, Point end, std::vector<Stop> color_stops)
+        : kind(brush_kind), from(start), to(end), stops(std::move(color_stops)) {}
 };
 
 class Canvas {

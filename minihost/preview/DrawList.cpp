@@ -114,7 +114,7 @@ class Builder {
             DrawItem item = item_of(i);
             item.selected = !_is_window && selected.contains(item.id);
             if (item.is_mark()) {
-                if (place_mark(item)) marks.push_back(std::move(item));
+                if (project_mark(item)) marks.push_back(std::move(item));
                 continue;
             }
             if (item.flat) append_sorted(group);
@@ -170,7 +170,7 @@ class Builder {
     }
 
     // False if the light or camera is not in the picture.
-    bool place_mark(DrawItem& item) const {
+    bool project_mark(DrawItem& item) const {
         const Vector v = _list.camera.to_view(item.center);
         if (!is_finite(v) || v.z < _list.camera.near_distance()) return false;
         item.depth = v.z;

@@ -56,8 +56,8 @@ Path shape(const LayerFace& face) {
 
 } // namespace
 
-LayerFace::LayerFace(Canvas& canvas_, const DrawList& list, const DrawItem& item_)
-    : canvas(canvas_), item(item_), point(list.point), shading(list, item_) {
+LayerFace::LayerFace(Canvas& target, const DrawList& list, const DrawItem& drawn)
+    : canvas(target), item(drawn), point(list.point), shading(list, drawn) {
     const double side = std::min(item.quad.width(), item.quad.height());
     extent = item.quad.stretch(0.5, 0.5).smallest * side / point;
     if (!std::isfinite(extent)) extent = 0;

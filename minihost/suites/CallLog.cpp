@@ -4,7 +4,7 @@
 
 namespace minihost {
 
-std::size_t CallLog::begin(const CallName& name, std::string arguments) {
+std::size_t CallLog::begin(const CallName& name, const std::string& arguments) {
     const std::size_t number = _written + _pending.size() + 1;
     Line line;
     JsonWriter json(line.text);

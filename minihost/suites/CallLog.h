@@ -26,7 +26,7 @@ class CallLog {
 
     // Returns the call's number, for end(); `arguments` is a JSON object. Calls nest, as the host
     // may enter the plug-in during one: a line is written when all before it are complete.
-    std::size_t begin(const CallName& name, std::string arguments);
+    std::size_t begin(const CallName& name, const std::string& arguments);
     void end(std::size_t call, std::int32_t result);
 
   private:

@@ -4,7 +4,6 @@
 #include "minihost/suites/SuiteFunctions.h"
 #include "minihost/suites/TimeConversion.h"
 
-#include <algorithm>
 #include <cstring>
 
 namespace minihost {

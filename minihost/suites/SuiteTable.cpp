@@ -1,7 +1,6 @@
 #include "minihost/suites/SuiteTable.h"
 
 #include "minihost/suites/SuiteFunctions.h"
-#include "sdk/Host.h"
 
 namespace minihost {
 

@@ -143,15 +143,15 @@ constexpr double scroll_bar_width = 12, min_knob_height = 24, rows_per_wheel_lin
         return;
     }
     const NSInteger row = [self rowAt:point.y];
-    const BOOL onRow = row < [self rowCount];
-    if (onRow) [self setCursor:row];
-    [self pressRow:onRow ? row : -1 modifiers:[event modifierFlags]];
-    if (onRow && [event clickCount] == 2) {
+    const bool on_row = row < [self rowCount];
+    if (on_row) [self setCursor:row];
+    [self pressRow:on_row ? row : -1 modifiers:[event modifierFlags]];
+    if (on_row && [event clickCount] == 2) {
         [self openRow:row];
         return;
     }
     NSInteger last = row;
-    while (onRow && (event = [self nextDrag])) {
+    while (on_row && (event = [self nextDrag])) {
         point = [self convertPoint:[event locationInWindow] fromView:nil];
         const NSInteger at = std::min([self rowAt:point.y], [self rowCount] - 1);
         if (at == last || at < 0) continue;

@@ -97,19 +97,9 @@ preview::Framing Viewpoint::framing(const Scene& scene, double width, double hei
 }
 
 std::string Viewpoint::title(const Scene& scene) const {
-    switch (_kind) {
-    case ViewKind::Camera:
-        return preview::scene_camera_name(scene);
-    case ViewKind::Front:
-        return "Front";
-    case ViewKind::Top:
-        return "Top";
-    case ViewKind::Left:
-        return "Left";
-    case ViewKind::Custom:
-        break;
-    }
-    return "Custom";
+    constexpr const char* names[view_kinds] = {"Camera", "Front", "Top", "Left", "Custom"};
+    return _kind == ViewKind::Camera ? preview::scene_camera_name(scene)
+                                     : names[static_cast<int>(_kind)];
 }
 
 } // namespace minihost

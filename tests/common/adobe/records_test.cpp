@@ -3,29 +3,13 @@
 #include "common/adobe/LayerInfo.h"
 #include "common/adobe/RemainingIndices.h"
 
-#include <climits>
 #include <gtest/gtest.h>
-#include <limits>
 #include <list>
 #include <random>
 
 namespace {
 
 using Vector = math::TGeomVector3D<double>;
-
-TEST(LayerInfo, TruncatesTowardZeroAndNeverOverflows) {
-    const struct {
-        double value;
-        int wanted;
-    } cases[] = {{3.33, 3},
-                 {-3.99, -3},
-                 {0.999, 0},
-                 {2147483646.5, 2147483646},
-                 {1e300, INT_MAX},
-                 {-1e300, INT_MIN},
-                 {std::numeric_limits<double>::quiet_NaN(), 0}};
-    for (const auto& c : cases) EXPECT_EQ(truncated(c.value), c.wanted) << c.value;
-}
 
 TEST(LayerInfo, MatrixTurnsAboutZThenYThenXAndShifts) {
     LayerInfo record;
