@@ -45,22 +45,22 @@ class NullDialogDriver : public DialogDriver {
     void with_pool(const std::function<void()>& body) override { body(); }
 };
 
-bool writes_files(const ParsedAction& step) {
-    const std::string_view name = step.action->name;
+bool writes_files(const ParsedAction& parsed) {
+    const std::string_view name = parsed.action->name;
     return name == "save" || name == "preview" || name == "panel";
 }
 
-void carry_out(const std::vector<ParsedAction>& steps) {
+void carry_out(const std::vector<ParsedAction>& actions) {
     std::ostringstream out;
     Session session(parse_scene(R"({"format": "minihost scene 1", "layers": [
                         {"name": "A", "kind": "shape", "three_d": true},
                         {"name": "B C", "kind": "camera"}], "selection": [0]})",
                                 "small"),
                     {}, std::make_unique<NullDialogDriver>(), out, [](const std::string&) {});
-    for (const ParsedAction& step : steps) {
-        if (writes_files(step)) continue;
+    for (const ParsedAction& parsed : actions) {
+        if (writes_files(parsed)) continue;
         try {
-            run_action(session, step);
+            run_action(session, parsed);
         } catch (const ActionError&) {
         }
     }
@@ -71,14 +71,15 @@ void carry_out(const std::vector<ParsedAction>& steps) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     try {
-        const std::vector<ParsedAction> steps = parse_actions(text, "input");
-        for (const ParsedAction& step : steps) {
-            const int count = static_cast<int>(step.arguments.size());
-            fuzz::require(count >= step.action->least &&
-                              (step.action->greatest < 0 || count <= step.action->greatest),
-                          "as many arguments as the action takes");
+        const std::vector<ParsedAction> actions = parse_actions(text, "input");
+        for (const ParsedAction& parsed : actions) {
+            const int count = static_cast<int>(parsed.arguments.size());
+            fuzz::require(
+                count >= parsed.action->min_arguments &&
+                    (parsed.action->max_arguments < 0 || count <= parsed.action->max_arguments),
+                "as many arguments as the action takes");
         }
-        carry_out(steps);
+        carry_out(actions);
     } catch (const UsageError& error) {
         fuzz::require(std::string_view(error.what()).starts_with("input:"),
                       "an error names file and line");

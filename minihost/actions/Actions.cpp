@@ -2,7 +2,7 @@
 
 #include "minihost/actions/EventActions.h"
 #include "minihost/actions/State.h"
-#include "minihost/model/ParseNumber.h"
+#include "minihost/model/Numbers.h"
 
 #include <ostream>
 

@@ -1,6 +1,6 @@
 #include "minihost/actions/ControlNames.h"
 
-#include "minihost/model/ParseNumber.h"
+#include "minihost/model/Numbers.h"
 #include "minihost/model/SceneReader.h"
 
 #include <climits>

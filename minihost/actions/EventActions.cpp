@@ -1,6 +1,6 @@
 #include "minihost/actions/EventActions.h"
 
-#include "minihost/model/ParseNumber.h"
+#include "minihost/model/Numbers.h"
 
 namespace minihost {
 

@@ -1,6 +1,7 @@
 #include "minihost/check/Report.h"
 
 #include "minihost/model/JsonWriter.h"
+#include "minihost/model/Numbers.h"
 
 #include <array>
 #include <cstdio>
@@ -46,9 +47,8 @@ std::string result_text(const CheckResult& result) {
 std::string summary_text(const std::vector<CheckResult>& results, double seconds) {
     std::array<std::size_t, 5> counts{};
     for (const CheckResult& it : results) ++counts[static_cast<int>(it.findings.outcome())];
-    std::string text = std::to_string(results.size()) +
-                       (results.size() == 1 ? " check: " : " checks: ") +
-                       std::to_string(counts[0]) + " passed";
+    std::string text =
+        counted(results.size(), "check") + ": " + std::to_string(counts[0]) + " passed";
     constexpr const char* words[] = {"", " with warnings", " skipped", " failed", " crashed"};
     for (std::size_t i = 1; i < counts.size(); ++i)
         if (counts[i]) text += ", " + std::to_string(counts[i]) + words[i];

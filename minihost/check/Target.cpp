@@ -64,8 +64,8 @@ constexpr const char* built_in_scene = R"({"format": "minihost scene 1",
 Limits Target::limits() const {
     using std::chrono::seconds;
     const std::size_t layers = small_scene.empty() ? 0 : scene.size() / 400; // about
-    const seconds step{(2 + level + static_cast<int>(layers / 100)) * sanitizer_factor};
-    return {20 * step, step};
+    const seconds limit{(2 + level + static_cast<int>(layers / 100)) * sanitizer_factor};
+    return {20 * limit, limit};
 }
 
 void read_scenes(Target& target) {

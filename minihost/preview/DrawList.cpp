@@ -1,5 +1,6 @@
 #include "minihost/preview/DrawList.h"
 
+#include "minihost/model/Numbers.h"
 #include "minihost/preview/OcclusionGrid.h"
 #include "minihost/preview/PreviewColors.h"
 #include "minihost/preview/PrintableText.h"
@@ -274,10 +275,9 @@ DrawList make_draw_list(const Scene& scene, double scale) {
     Framing framing{pixels(w), pixels(h), scale, scene_camera(scene)};
     framing.camera.unit = framing.width >= framing.height ? framing.width / w : framing.height / h;
     DrawList list = Builder(scene, framing, false).build();
-    const std::size_t count = scene.layer_count();
     list.caption = printable_text(scene.composition.name) + "   \u00b7   " +
-                   scene_camera_name(scene) + "   \u00b7   " + std::to_string(count) +
-                   (count == 1 ? " layer" : " layers");
+                   scene_camera_name(scene) + "   \u00b7   " +
+                   counted(scene.layer_count(), "layer");
     return list;
 }
 

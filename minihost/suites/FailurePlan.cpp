@@ -1,6 +1,6 @@
 #include "minihost/suites/FailurePlan.h"
 
-#include "minihost/model/ParseNumber.h"
+#include "minihost/model/Numbers.h"
 
 #include <stdexcept>
 

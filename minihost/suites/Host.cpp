@@ -1,5 +1,7 @@
 #include "minihost/suites/Host.h"
 
+#include "minihost/model/Numbers.h"
+
 #include <utility>
 
 namespace minihost {
@@ -17,8 +19,8 @@ constexpr A_long default_sleep = 30; // 60ths of a second
 
 constexpr std::size_t max_violations = 5000;
 
-std::string counted(std::size_t count, const std::string& noun) {
-    return count == 1 ? "one " + noun : std::to_string(count) + " " + noun + "s";
+std::string held_count(std::size_t count, const std::string& noun) {
+    return count == 1 ? "one " + noun : counted(count, noun);
 }
 
 } // namespace
@@ -177,16 +179,17 @@ std::vector<Violation> Host::held_objects() const {
         if (count > 0)
             held.push_back({ViolationKind::HeldSuite,
                             suite.first + " " + std::to_string(suite.second) + ", acquired " +
-                                std::to_string(count) + (count == 1 ? " time" : " times") +
+                                counted(static_cast<std::size_t>(count), "time") +
                                 " more than released"});
     if (const std::size_t count = handles.open_streams().size())
-        held.push_back({ViolationKind::HeldStream, counted(count, "stream") + " not disposed of"});
+        held.push_back(
+            {ViolationKind::HeldStream, held_count(count, "stream") + " not disposed of"});
     if (const std::size_t count = handles.open_collections().size())
         held.push_back(
-            {ViolationKind::HeldCollection, counted(count, "collection") + " not disposed of"});
+            {ViolationKind::HeldCollection, held_count(count, "collection") + " not disposed of"});
     if (document.open_groups() > 0)
         held.push_back({ViolationKind::OpenUndoGroup,
-                        counted(static_cast<std::size_t>(document.open_groups()), "undo group") +
+                        held_count(static_cast<std::size_t>(document.open_groups()), "undo group") +
                             " left open"});
     return held;
 }

@@ -1,7 +1,7 @@
 #include "minihost/suites/MisbehaviourPlan.h"
 
 #include "minihost/model/Document.h"
-#include "minihost/model/ParseNumber.h"
+#include "minihost/model/Numbers.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,5 +1,5 @@
-// A plug-in module. Loading takes three steps; a step that fails undoes those before it, and its
-// error names the step, the file and the cause.
+// A plug-in module. Loading has three stages; one that fails undoes those before it, and its error
+// names the stage, the file and the cause.
 
 #pragma once
 

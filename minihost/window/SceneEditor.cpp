@@ -1,19 +1,12 @@
 #include "minihost/window/SceneEditor.h"
 
 #include "minihost/actions/Actions.h"
+#include "minihost/model/Numbers.h"
 
 #include <cstdio>
 #include <filesystem>
 
 namespace minihost {
-
-namespace {
-
-std::string count_of(std::size_t count, const char* what) {
-    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
-}
-
-} // namespace
 
 SceneEditor::SceneEditor(Session& session, std::string path)
     : _session(session), _path(std::move(path)), _saved_state(session.host().document.state()) {}
@@ -90,7 +83,7 @@ std::string SceneEditor::status() const {
     std::snprintf(time, sizeof time, "%.2f s", composition.time);
     return composition.name + "   " + std::to_string(composition.width) + " × " +
            std::to_string(composition.height) + "   " + time + "   " +
-           count_of(scene().layer_count(), "layer") + ", " + std::to_string(selected) + " selected";
+           counted(scene().layer_count(), "layer") + ", " + std::to_string(selected) + " selected";
 }
 
 SceneEditor::DisplayState SceneEditor::display_state() const {
