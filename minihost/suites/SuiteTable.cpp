@@ -1,6 +1,7 @@
 #include "minihost/suites/SuiteTable.h"
 
 #include "minihost/suites/SuiteFunctions.h"
+#include "sdk/Host.h"
 
 namespace minihost {
 
