@@ -67,7 +67,10 @@ void AssistantDlg::Destroy() {
 
 void AssistantDlg::Enable(unsigned char enable) {
     BaseDlg::Enable(enable);
-    if (enable) enable_repeat_layers();
+    if (enable) {
+        enable_repeat_layers();
+        enable_towards_camera();
+    }
     if (item(item_crop_text))
         enable_item(item_crop_text, host_measures_text() && max_width != 0 && max_height != 0);
 }

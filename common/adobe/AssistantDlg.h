@@ -159,6 +159,8 @@ class AssistantDlg : public BaseDlg {
     A_Err read_cameras(std::optional<CameraList>* found) const;
     void show_cameras(_Opaque_ADMList* list, const CameraList& found);
     int chosen_camera(_Opaque_ADMList* list) const;
+    bool offers_camera() const;
+    void enable_towards_camera();
 
     math::TGeomVector3D<double> start_value() const;
 };

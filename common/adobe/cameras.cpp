@@ -50,15 +50,20 @@ A_Err AssistantDlg::fill_combo_camera() {
         sADMList->NumberOfEntries(list) != static_cast<int>(cameras.size()))
         show_cameras(list, *found);
 
-    if (item(item_towards_camera)) {
-        const bool any = sADMList->NumberOfEntries(list) > 0;
-        enable_item(item_towards_camera, any);
-        if (!any && is_on(item_towards_camera)) {
-            set_on(item_towards_camera, false);
-            set_on(item_orient_none, true);
-        }
+    if (IsEnabled()) enable_towards_camera();
+    if (!offers_camera() && is_on(item_towards_camera)) {
+        set_on(item_towards_camera, false);
+        set_on(item_orient_none, true);
     }
     return A_Err_NONE;
+}
+
+bool AssistantDlg::offers_camera() const {
+    return sADMList->NumberOfEntries(sADMItem->GetList(item(item_camera))) > 0;
+}
+
+void AssistantDlg::enable_towards_camera() {
+    if (item(item_camera)) enable_item(item_towards_camera, offers_camera());
 }
 
 // The index of the chosen entry, as far as it names one of `cameras`; -1 otherwise.

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <functional>
+#include <utility>
 
 namespace {
 
@@ -38,8 +39,8 @@ unsigned int mask_bit(AEGP_ObjectType type, bool is_3d) {
 void AssistantDlg::release_selection() {
     if (!selection) return;
     AEGP_SuiteHandler suites(sSPBasic);
-    suites.CollectionSuite1().AEGP_DisposeCollection(selection);
-    selection = nullptr;
+    const AEGP_CollectionSuite1& collections = suites.CollectionSuite1();
+    collections.AEGP_DisposeCollection(std::exchange(selection, nullptr));
 }
 
 A_Err AssistantDlg::active_comp(AEGP_SuiteHandler& suites, AEGP_ItemH* item, AEGP_CompH* found) {
@@ -63,11 +64,12 @@ A_Err AssistantDlg::save_selection() {
     if (const A_Err err = active_comp(suites, &item, &comp)) return err;
     if (!item || !comp) return A_Err_NONE; // the composition of an earlier time stays known
 
-    if (const A_Err err = suites.CompSuite4().AEGP_GetNewCollectionFromCompSelection(
-            plugin_id, comp, &selection)) {
-        selection = nullptr;
+    AEGP_CollectionH found = nullptr;
+    if (const A_Err err =
+            suites.CompSuite4().AEGP_GetNewCollectionFromCompSelection(plugin_id, comp, &found))
         return err;
-    }
+    release_selection(); // held again when the host has made an idle call inside one of ours
+    selection = found;
     // A composition of unknown size is no reason to give up the selection.
     suites.ItemSuite3().AEGP_GetItemDimensions(item, &comp_width, &comp_height);
     max_width = max_height = 0;

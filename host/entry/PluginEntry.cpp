@@ -44,6 +44,12 @@ void refresh() {
     _main_dlg->Enable(placeable);
 }
 
+// The items of a new dialog are enabled, whatever the dialog object remembers of an earlier one:
+// the refresh that follows disables them when there is nothing to place.
+void note_new_dialog() {
+    _main_dlg->Enable(true);
+}
+
 A_Err on_destroy(AEGP_GlobalRefcon, AEGP_DeathRefcon) {
     const A_Err err = guarded([] {
         const std::unique_ptr<MainDlg> dialog(_main_dlg);
@@ -61,7 +67,7 @@ void show_floating_dialog() {
     if (!toolkit_dialog()) {
         _main_dlg->Create(nullptr, _dialog_id, 0, floating_dialog_style, 0);
         sADMDialog->Show(*_main_dlg, false);
-        _main_dlg->Enable(false);
+        note_new_dialog();
     }
     refresh();
     sADMDialog->Show(*_main_dlg, true);
@@ -122,13 +128,18 @@ A_Err on_create_panel(AEGP_GlobalRefcon, AEGP_CreatePanelRefcon, NSView* contain
         if (!_main_dlg) return A_Err_NONE;
         _main_dlg->CreatePanel(nullptr, _dialog_id, 0, sAEGPPanelSuite, panel, container, functions,
                                refcon);
+        note_new_dialog();
         refresh();
         return A_Err_NONE;
     });
 }
 
+// A message that cannot be shown is no error of its own.
 void report(AEGP_SuiteHandler& suites, const char* text) {
-    suites.UtilitySuite3().AEGP_ReportInfo(_plugin_id, text);
+    try {
+        suites.UtilitySuite3().AEGP_ReportInfo(_plugin_id, text);
+    } catch (int) {
+    }
 }
 
 // The dialog object outlives its toolkit dialogs: every later one reuses it.

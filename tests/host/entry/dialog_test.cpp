@@ -151,6 +151,36 @@ TEST(Dialog, EnablesWhatTheChoicesLeaveMeaningful) {
     for (const char* name : placement) EXPECT_TRUE(enabled(name)) << name;
 }
 
+TEST_P(EveryDialog, IsDisabledAsAWholeWhileThereIsNothingToPlace) {
+    const auto enabled = [](PluginHost& host) {
+        std::vector<std::string> names;
+        const Json state = host.state();
+        for (const Json& control : state["controls"])
+            if (control["enabled"].get<bool>() && control["kind"] != "box")
+                names.push_back(control["name"].is_null() ? control["text"] : control["name"]);
+        return names;
+    };
+    PluginHost host(plain_scene, options());
+    host.play("deselect\nmenu");
+    EXPECT_THAT(enabled(host), testing::IsEmpty()) << "from the first refresh on";
+    if (GetParam()) {
+        host.play("close-panel\nmenu");
+        EXPECT_THAT(enabled(host), testing::IsEmpty()) << "made anew";
+    }
+    const Json before = host.state();
+    host.play("idle\nidle");
+    EXPECT_EQ(host.state()["controls"], before["controls"])
+        << "a further idle call changes nothing";
+
+    host.play("select S\nidle");
+    EXPECT_TRUE(host.control("orientation.towards-camera")["enabled"].get<bool>());
+    host.play("remove Camera\nidle\ndeselect\nidle\nidle");
+    EXPECT_THAT(enabled(host), testing::IsEmpty());
+    host.play("select S\nidle");
+    EXPECT_FALSE(host.control("orientation.towards-camera")["enabled"].get<bool>());
+    EXPECT_TRUE(host.control("size.x")["enabled"].get<bool>());
+}
+
 TEST(Dialog, CroppingNeedsANeighbourAndAHostThatMeasures) {
     const std::string title = R"({"name": "T", "kind": "text", "three_d": true})";
     const auto can_crop = [](const std::string& scene, HostOptions options) {

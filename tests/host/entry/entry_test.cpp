@@ -72,6 +72,25 @@ TEST(Entry, ReportsWhatTheHostRefuses) {
     }
 }
 
+// The utility suite, which shows the message, is the fifth suite acquired: after those of
+// registration, of the two optional ones and of the commands.
+TEST(Entry, AMessageThatCannotBeShownIsNoError) {
+    const struct {
+        const char* call;
+        const char* error; // in the load's message; empty when it goes on
+    } cases[] = {{"AEGP Register Suite.RegisterIdleHook", "77"},
+                 {"AEGP Command Suite.GetUniqueCommand", ""}};
+    for (const auto& c : cases) {
+        HostOptions options = failing(c.call, 1, 77);
+        options.without = {"AEGP Utility Suite 3"};
+        PluginHost host(scene_of({solid("S")}), options, false);
+        const std::string error = load_error(host);
+        EXPECT_EQ(error.empty(), !*c.error) << error;
+        EXPECT_THAT(error, HasSubstr(c.error));
+        EXPECT_EQ(error.find("516"), std::string::npos) << error;
+    }
+}
+
 TEST(Entry, EndsWithTheCodeOfAMissingSuite) {
     // The register suite is acquired first, the command suite after the two optional ones.
     for (const int number : {1, 4}) {
