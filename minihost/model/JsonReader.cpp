@@ -95,7 +95,9 @@ class SceneJsonParser {
         return finish();
     }
     bool start(Type type) {
-        _open.push_back(&add(type));
+        JsonValue& value = add(type);
+        value.items.reserve(8); // most have fewer, so that they need not be moved
+        _open.push_back(&value);
         return true;
     }
     bool end() {
