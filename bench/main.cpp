@@ -62,8 +62,8 @@ double peak_of(const std::string& name) {
     FILE* const child = ::popen(("exec '" + program + "' --once '" + name + "'").c_str(), "r");
     if (!child) return 0;
     double kilobytes = 0;
-    const int told = std::fscanf(child, "%lf", &kilobytes);
-    return ::pclose(child) == 0 && told == 1 ? kilobytes / 1024 : 0;
+    const int numbers_read = std::fscanf(child, "%lf", &kilobytes);
+    return ::pclose(child) == 0 && numbers_read == 1 ? kilobytes / 1024 : 0;
 }
 
 long peak_in_kilobytes() {

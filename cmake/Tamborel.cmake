@@ -39,7 +39,7 @@ if(TAMBOREL_WERROR)
 endif()
 # Every operation on doubles rounds as it is written: no fused multiply-add.
 add_compile_options(-ffp-contract=off)
-# CMake knows no language level of Objective-C++ for g++, so it is told here.
+# CMake knows no language level of Objective-C++ for g++, so it is given here.
 add_compile_options("$<$<COMPILE_LANGUAGE:OBJCXX>:-std=c++20;-fconstant-string-class=NSConstantString>")
 add_compile_definitions("$<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>")
 if(TAMBOREL_SANITIZE)

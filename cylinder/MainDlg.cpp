@@ -67,8 +67,6 @@ constexpr int regular_placement_items[] = {
 
 MainDlg::MainDlg(int plugin_id) : AssistantDlg(plugin_id) {}
 
-MainDlg::~MainDlg() = default;
-
 std::string MainDlg::get_name() const {
     return product_name;
 }

@@ -16,7 +16,6 @@ class MainDlg : public AssistantDlg {
     // Keeps the dependent controls in step with the user's choice, then does what every assistant
     // does.
     void Notify(IADMNotifier notifier) override;
-    ~MainDlg() override;
     void Enable(unsigned char enable) override;
 
     // The placement pass over `layers`: repeats, positions, orientations, scales. Always 0.

@@ -49,7 +49,7 @@ void clip_polygon(fuzz::Bytes& bytes, const Rectangle& r) {
         return;
     }
     fuzz::require(0 <= count && count <= math::max_clipped_vertices, "as many as can be");
-    fuzz::require(is_left == (count > 0), "told whether something is left");
+    fuzz::require(is_left == (count > 0), "returns whether something is left");
     if (!tame(r, points)) return;
 
     const bool all_inside =

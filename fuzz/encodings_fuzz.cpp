@@ -15,7 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     fuzz::require(is_utf8(text), "repaired text is valid");
     fuzz::require(!is_utf8(bytes) || text == bytes, "valid text needs no repair");
     fuzz::require(from_utf16(to_utf16(text)) == text, "through UTF-16 and back");
-    fuzz::require(utf16_length(text) == to_utf16(text).size(), "as long as told");
+    fuzz::require(utf16_length(text) == to_utf16(text).size(), "has the length that was computed");
     std::string copy;
     for (size_t at = 0; at < text.size();) append_character(copy, next_character(text, at));
     fuzz::require(copy == text, "character by character, the same text");

@@ -19,8 +19,6 @@ bool host_measures_text() {
 
 AssistantDlg::AssistantDlg(int id) : plugin_id(id) {}
 
-AssistantDlg::~AssistantDlg() = default;
-
 int AssistantDlg::Init() {
     const int result = BaseADMDialog::Init();
     sADMDialog->SetText(*this, get_name().c_str());

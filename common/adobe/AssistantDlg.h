@@ -42,7 +42,6 @@ class AssistantDlg : public BaseDlg {
     void Notify(IADMNotifier notifier) override;
     // Gives the selection back.
     void Destroy() override;
-    ~AssistantDlg() override;
     void Enable(unsigned char enable) override;
 
     // Appends the repeat copies to `layers`: as many blocks of copies as the count says.

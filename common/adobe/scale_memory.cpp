@@ -30,13 +30,13 @@ void AssistantDlg::restore_scale() {
     records.reserve(layers.size());
     for (LayerInfo& record : layers) records.emplace_back(record.layer, &record);
     std::ranges::stable_sort(records, {}, &Record::first);
-    auto size = saved_sizes.begin(); // of the same layers as the scales
-    for (const auto& [layer, scale] : saved_scales) {
-        const A_LPoint saved_size = (size++)->second;
+    auto scale = saved_scales.begin(); // every layer that has a size has a scale
+    for (const auto& [layer, size] : saved_sizes) {
+        const AEGP_StreamValue& saved_scale = (scale++)->second;
         const auto record = std::ranges::lower_bound(records, layer, {}, &Record::first);
         if (record == records.end() || record->first != layer) continue;
-        record->second->scale = scales[layer] = scale;
-        record->second->set_scaled_size(sizes[layer] = saved_size);
+        record->second->scale = scales[layer] = saved_scale;
+        record->second->set_scaled_size(sizes[layer] = size);
     }
     saved_layers = std::move(selected);
     saved_scales = std::move(scales);
